@@ -1,0 +1,97 @@
+#pragma once
+
+#include "base/controls/control.h"
+
+namespace controls {
+
+/// What push button, option, check box, label and frame share: a caption with an access key.
+class Captioned : public Control {
+ public:
+  using Control::Control;
+  const std::string& Caption() const;
+  void SetCaption(std::string_view caption);
+  std::string CaptionText() const override { return caption_; }
+  void Reset() override;
+
+ protected:
+  const LateMember* FindMember(std::string_view name) const override;
+
+ private:
+  std::string caption_;
+};
+
+class CommandButton : public Captioned {
+ public:
+  CommandButton(Form& form, std::string name) : Captioned(form, ControlKind::CommandButton, std::move(name)) {}
+  /// Enter anywhere on the form clicks the default button, Esc the cancel button.
+  bool IsDefault() const { return default_; }
+  void SetDefault(bool isDefault) { default_ = isDefault; }
+  bool IsCancel() const { return cancel_; }
+  void SetCancel(bool isCancel) { cancel_ = isCancel; }
+  void Reset() override;
+  std::string TypeName() const override { return "CommandButton"; }
+
+ protected:
+  const LateMember* FindMember(std::string_view name) const override;
+
+ private:
+  bool default_ = false;
+  bool cancel_ = false;
+};
+
+/// One of a group (the options of the same container). Setting it true, by code or by a person, clears the others and fires Click
+/// when it was false.
+class OptionButton : public Captioned {
+ public:
+  OptionButton(Form& form, std::string name) : Captioned(form, ControlKind::OptionButton, std::move(name)) {}
+  bool Value() const;
+  void SetValue(bool value);
+  void Reset() override;
+  std::string TypeName() const override { return "OptionButton"; }
+
+ protected:
+  const LateMember* FindMember(std::string_view name) const override;
+
+ private:
+  bool value_ = false;
+};
+
+/// Setting a different value, by code or by a person, fires Click.
+class CheckBox : public Captioned {
+ public:
+  CheckBox(Form& form, std::string name) : Captioned(form, ControlKind::CheckBox, std::move(name)) {}
+  /// 0 unchecked, 1 checked; other values are error 380.
+  int Value() const;
+  void SetValue(int value);
+  bool IsChecked() const { return Value() == 1; }
+  void Reset() override;
+  std::string TypeName() const override { return "CheckBox"; }
+
+ protected:
+  const LateMember* FindMember(std::string_view name) const override;
+
+ private:
+  int value_ = 0;
+};
+
+/// Takes no focus itself: its access key moves the focus to the next control in tab order.
+class Label : public Captioned {
+ public:
+  Label(Form& form, std::string name) : Captioned(form, ControlKind::Label, std::move(name)) {}
+  std::string TypeName() const override { return "Label"; }
+};
+
+class Frame : public Captioned {
+ public:
+  Frame(Form& form, std::string name) : Captioned(form, ControlKind::Frame, std::move(name)) {}
+  std::string TypeName() const override { return "Frame"; }
+};
+
+/// A container without a caption.
+class PictureBox : public Control {
+ public:
+  PictureBox(Form& form, std::string name) : Control(form, ControlKind::PictureBox, std::move(name)) {}
+  std::string TypeName() const override { return "PictureBox"; }
+};
+
+}  // namespace controls

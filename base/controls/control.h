@@ -1,0 +1,166 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/controls/colors.h"
+#include "base/controls/event.h"
+#include "base/controls/keys.h"
+#include "base/late/object.h"
+
+namespace controls {
+
+class Form;
+class TabControl;
+
+enum class ControlKind {
+  TextBox,
+  ComboBox,
+  OptionButton,
+  CheckBox,
+  CommandButton,
+  Label,
+  Frame,
+  PictureBox,
+  ListView,
+  FlexGrid,
+  TabControl,
+  Menu
+};
+
+/// What changed of a control, for the desktop that shows it.
+enum class Aspect { Text, Enabled, Visible, Position, Items, Selection, Colors, ToolTip, Layout };
+
+/// What sticks to the form's edges when a resizable form grows.
+enum Anchor { kAnchorLeft = 1, kAnchorTop = 2, kAnchorRight = 4, kAnchorBottom = 8 };
+
+/// A position in twips (1440 an inch), relative to the container.
+struct Position {
+  int left = 0, top = 0, width = 0, height = 0;
+};
+
+/// A control as a plain model: properties and events with their classic names, no window. Touching a property of an unloaded
+/// form's control loads the form. Controls are data members of their form; as late-bound objects they keep the form alive.
+class Control : public late::Object {
+ public:
+  Control(Form& form, ControlKind kind, std::string name);
+  ~Control() override;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  ControlKind Kind() const { return kind_; }
+  const std::string& Name() const { return name_; }
+  Form& Owner() const { return form_; }
+  /// This control as a late-bound object that shares the form's ownership (the form is held by a shared_ptr).
+  late::ObjectPtr AsObject();
+
+  bool Enabled() const { return Touched().enabled_; }
+  void SetEnabled(bool enabled);
+  /// The property itself; see IsShown for what a person sees.
+  bool Visible() const { return Touched().visible_; }
+  void SetVisible(bool visible);
+  /// Visible with all its containers, on the current page of its tab.
+  bool IsShown() const;
+  /// Shown, enabled with all its containers, and of a kind that takes the focus.
+  bool CanFocus() const;
+  const std::string& Tag() const { return Touched().tag_; }
+  void SetTag(std::string tag);
+  const std::string& ToolTipText() const { return Touched().toolTip_; }
+  void SetToolTipText(std::string text);
+  const Position& Place() const { return Touched().place_; }
+  void Move(int left, int top, int width, int height);
+  void SetLeft(int left);
+  void SetTop(int top);
+  void SetWidth(int width);
+  void SetHeight(int height);
+  int Anchors() const { return anchors_; }
+  void SetAnchors(int anchors) { anchors_ = anchors; }
+  int TabIndex() const { return Touched().tabIndex_; }
+  void SetTabIndex(int index) { tabIndex_ = index; }
+  bool TabStop() const { return Touched().tabStop_; }
+  void SetTabStop(bool stop) { tabStop_ = stop; }
+  Color ForeColor() const { return Touched().foreColor_; }
+  void SetForeColor(Color color);
+  Color BackColor() const { return Touched().backColor_; }
+  void SetBackColor(Color color);
+  /// 0 default, 11 hourglass.
+  int MousePointer() const { return Touched().mousePointer_; }
+  void SetMousePointer(int pointer);
+  bool CausesValidation() const { return causesValidation_; }
+  void SetCausesValidation(bool causes) { causesValidation_ = causes; }
+
+  /// Frame, picture box or tab page that holds this control; null is the form itself.
+  Control* Container() const { return container_; }
+  int Page() const { return page_; }
+  void SetContainer(Control* container, int page = 0);
+
+  /// Caption with "&" before the access key; empty for controls without one.
+  virtual std::string CaptionText() const { return {}; }
+  /// The access key in upper case, 0 for none ("&&" is a plain ampersand).
+  char32_t AccessKey() const;
+
+  /// Moves the focus here; error 5 when the control cannot take it. Runs validation, lost-focus and got-focus handlers.
+  void SetFocus();
+  bool HasFocus() const;
+
+  Event<> GotFocus;
+  Event<> LostFocus;
+  Event<bool&> Validate;  ///< set true to keep the focus
+  Event<> Click;
+  Event<> DblClick;
+  Event<int&, int> KeyDown;  ///< key code (0 swallows the key), shift state
+  Event<int&> KeyPress;      ///< character (0 swallows it)
+  Event<int&, int> KeyUp;
+  Event<int, int> MouseDown;  ///< button, shift state
+  Event<int, int> MouseUp;
+  Event<> MouseMove;
+
+  // Late-bound face.
+  late::Value Invoke(std::string_view member, late::Access access, std::span<late::Value> arguments) override;
+  bool Has(std::string_view member) const override;
+  std::string TypeName() const override;
+
+  /// Back to the state of a control just drawn in the designer; Form calls it before Design.
+  virtual void Reset();
+
+ protected:
+  /// Loads the form on first touch.
+  void Touch() const;
+  void Changed(Aspect aspect);
+  /// Members of the derived class by name; null when unknown there. See control_members.h.
+  struct LateMember {
+    std::function<late::Value(Control&, late::Arguments&)> get;
+    std::function<void(Control&, late::Arguments&)> put;
+  };
+  virtual const LateMember* FindMember(std::string_view name) const;
+
+ private:
+  const Control& Touched() const {
+    Touch();
+    return *this;
+  }
+
+  Form& form_;
+  ControlKind kind_;
+  std::string name_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  std::string tag_;
+  std::string toolTip_;
+  Position place_;
+  int anchors_ = kAnchorLeft | kAnchorTop;
+  int tabIndex_ = 0;
+  int defaultTabIndex_ = 0;
+  bool tabStop_ = true;
+  Color foreColor_ = kWindowText;
+  Color backColor_ = kWindowBackground;
+  int mousePointer_ = 0;
+  bool causesValidation_ = true;
+  Control* container_ = nullptr;
+  int page_ = 0;
+};
+
+}  // namespace controls

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/controls/control.h"
+#include "base/controls/message_box.h"
+
+namespace controls {
+
+class Form;
+class Menu;
+
+/// Puts forms in front of somebody: real windows, text, or a test's script. Holds no rules of the forms. The base class keeps the
+/// stack of modal forms and the order of events; derived classes show and drive them.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  /// The order of a modal showing: Opening, the form's activation, Opened, RunModal until the form is unloaded, then the form
+  /// below (if any) is activated again. A form that is unloaded during its activation is not run.
+  void ShowModal(Form& form, Form* owner);
+  /// Called by Form once it is unloaded.
+  void Unloaded(Form& form);
+  /// The form on top, null for none.
+  Form* ActiveForm() const { return stack_.empty() ? nullptr : stack_.back(); }
+  const std::vector<Form*>& Stack() const { return stack_; }
+
+  virtual Answer MsgBox(Form* owner, const Message& message) = 0;
+  /// Shows the visible entries; returns the chosen one, or null. Its Click is fired by Form::PopupMenu.
+  virtual Menu* PopupMenu(Form& form, Menu& menu) = 0;
+  /// Lets pending events run.
+  virtual void DoEvents() {}
+
+  // Notes about what the model did; the default desktop ignores them.
+  virtual void Changed(Control&, Aspect) {}
+  virtual void FormChanged(Form&) {}
+  virtual void FocusMoved(Form&, Control*) {}
+  virtual void PointerChanged(Form&, bool hourglass) { (void)hourglass; }
+
+ protected:
+  virtual void Opening(Form&, Form* owner) { (void)owner; }
+  virtual void Opened(Form&) {}
+  /// Works until `form` is no longer loaded (or the desktop gives up).
+  virtual void RunModal(Form& form) = 0;
+  virtual void Closed(Form&) {}
+
+ private:
+  std::vector<Form*> stack_;
+};
+
+}  // namespace controls

@@ -1,0 +1,142 @@
+#pragma once
+
+#include <map>
+
+#include "base/controls/control.h"
+
+namespace controls {
+
+enum class GridSort {
+  None = 0,
+  GenericAscending = 1,
+  GenericDescending = 2,
+  NumericAscending = 3,
+  NumericDescending = 4,
+  TextNoCaseAscending = 5,
+  TextNoCaseDescending = 6,
+  TextAscending = 7,
+  TextDescending = 8,
+};
+
+enum class GridAlignment { Left = 1, Center = 4, Right = 7 };
+
+/// Hierarchical flex grid. Rows and columns count from 0, row 0 being the heading row. A bad row is error 30009, a bad column
+/// 30010, a bad subscript of TextMatrix and the like 381. Made for a hundred thousand rows: cells are plain strings, colours are
+/// kept only for the rows that have any.
+class FlexGrid : public Control {
+ public:
+  FlexGrid(Form& form, std::string name) : Control(form, ControlKind::FlexGrid, std::move(name)) {}
+
+  long Rows() const;
+  long Cols() const;
+  /// Growing adds empty rows or columns; shrinking drops them and moves the current cell inside.
+  void SetRows(long rows);
+  void SetCols(long cols);
+  long FixedRows() const;
+  void SetFixedRows(long rows);
+  long FixedCols() const;
+  void SetFixedCols(long cols);
+
+  /// Setting the current row or column fires RowColChange when it changes, and resets RowSel and ColSel to the current cell.
+  long Row() const;
+  long Col() const;
+  void SetRow(long row);
+  void SetCol(long col);
+  long RowSel() const;
+  long ColSel() const;
+  void SetRowSel(long row);
+  void SetColSel(long col);
+  long TopRow() const;
+  void SetTopRow(long row);
+
+  const std::string& TextMatrix(long row, long col) const;
+  /// Does not move the current cell.
+  void SetTextMatrix(long row, long col, std::string_view text);
+  const std::string& Text() const;  ///< of the current cell
+  void SetText(std::string_view text);
+  /// Tab-separated cells; at `index`, or behind the last row (-1).
+  void AddItem(std::string_view tabSeparated, long index = -1);
+  /// Appends one row, taking its cells over; columns grow when there are more cells than columns. The fast way to fill.
+  void AppendRow(std::vector<std::string>&& cells);
+  void ReserveRows(long rows);
+  void RemoveItem(long row);
+  /// Wipes text and cell formatting; keeps rows, columns, widths.
+  void Clear();
+
+  /// "<Code|^Name|>Qty": aligns the columns, writes row 0, sets widths by the text's length. Grows the grid, never shrinks it.
+  void SetFormatString(std::string_view format);
+  const std::string& FormatString() const { return formatString_; }
+  int ColWidth(long col) const;  ///< twips; -1 asked for the default gives the default width
+  void SetColWidth(long col, int width);
+  GridAlignment ColAlignment(long col) const;
+  void SetColAlignment(long col, GridAlignment alignment);
+
+  /// 0 is the grid's own colour; black is 1.
+  Color CellForeColor(long row, long col) const;
+  void SetCellForeColor(long row, long col, Color color);
+  void SetRowForeColor(long row, Color color);
+  Color CellBackColor(long row, long col) const;
+  void SetCellBackColor(long row, long col, Color color);
+  Color BackColorSel() const;
+  void SetBackColorSel(Color color);
+  Color ForeColorSel() const;
+  void SetForeColorSel(Color color);
+
+  /// Sorts whole rows (with their colours) by the columns Col..ColSel from left to right: the rows Row..RowSel, or all but the
+  /// fixed ones when those are equal. Stable. The current cell keeps its place (row number).
+  void Sort(GridSort kind);
+  /// The selected range as text, tabs between cells and CR between rows; setting it fills the range, extra cells stay, extra text
+  /// is ignored.
+  std::string Clip() const;
+  void SetClip(std::string_view text);
+
+  /// The cell under the mouse.
+  long MouseRow() const { return mouseRow_; }
+  long MouseCol() const { return mouseCol_; }
+
+  // What a person does.
+  void ClickCell(long row, long col);
+  void SelectRange(long firstRow, long lastRow);
+  void MoveMouse(long row, long col);  ///< fires MouseMove
+  /// Arrow, page, home and end keys; whether the key was one of them.
+  bool NavigationKey(int keyCode, int shift);
+
+  Event<> RowColChange;
+  Event<> SelChange;
+
+  void Reset() override;
+  std::string TypeName() const override { return "MSHFlexGrid"; }
+
+ protected:
+  const LateMember* FindMember(std::string_view name) const override;
+
+ private:
+  struct CellColors {
+    Color fore = kDefaultColor;
+    Color back = kDefaultColor;
+  };
+  struct GridRow {
+    std::vector<std::string> cells;                   // may be shorter than the columns: the rest is empty
+    std::unique_ptr<std::vector<CellColors>> colors;  // only where a cell has a colour
+  };
+  struct GridColumn {
+    int width = -1;
+    GridAlignment alignment = GridAlignment::Left;
+  };
+  const std::string& CellText(const GridRow& row, long col) const;
+  void CheckCell(long row, long col) const;
+  void MoveCurrent(long row, long col);
+
+  std::vector<GridRow> rows_;
+  std::vector<GridColumn> columns_;
+  long fixedRows_ = 1;
+  long fixedCols_ = 1;
+  long row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
+  long topRow_ = 1;
+  long mouseRow_ = 0, mouseCol_ = 0;
+  std::string formatString_;
+  Color backColorSel_ = kHighlight;
+  Color foreColorSel_ = kHighlightText;
+};
+
+}  // namespace controls

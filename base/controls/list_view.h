@@ -1,0 +1,105 @@
+#pragma once
+
+#include <deque>
+
+#include "base/controls/control.h"
+
+namespace controls {
+
+enum class ColumnAlignment { Left = 0, Right = 1, Center = 2 };
+
+struct ColumnHeader {
+  std::string text;
+  int width = 1440;  ///< twips
+  ColumnAlignment alignment = ColumnAlignment::Left;
+};
+
+class ListView;
+
+/// One line. Sub-items count from 1 up to the columns less one; further ones are error 380.
+class ListItem {
+ public:
+  explicit ListItem(ListView& list) : list_(&list) {}
+  const std::string& Text() const { return text_; }
+  void SetText(std::string_view text);
+  /// "" while not set.
+  const std::string& SubItem(int index) const;
+  void SetSubItem(int index, std::string_view text);
+  const std::string& SubItemToolTip(int index) const;
+  void SetSubItemToolTip(int index, std::string_view text);
+  bool Checked() const { return checked_; }
+  /// By code: no event.
+  void SetChecked(bool checked);
+  const std::string& Tag() const { return tag_; }
+  void SetTag(std::string tag) { tag_ = std::move(tag); }
+  const std::string& Key() const { return key_; }
+  void SetKey(std::string key) { key_ = std::move(key); }
+
+ private:
+  void CheckIndex(int index) const;
+
+  ListView* list_;
+  std::string text_;
+  std::vector<std::string> subItems_;
+  std::vector<std::string> toolTips_;
+  std::string tag_;
+  std::string key_;
+  bool checked_ = false;
+};
+
+/// Report-style list view. Lines and column headers count from 1; a wrong index is error 35600 "Index out of bounds".
+/// The first line added to an empty list becomes the selected one.
+class ListView : public Control {
+ public:
+  ListView(Form& form, std::string name) : Control(form, ControlKind::ListView, std::move(name)) {}
+
+  void AddColumn(std::string_view text, int width, ColumnAlignment alignment = ColumnAlignment::Left);
+  int ColumnCount() const;
+  const ColumnHeader& Column(int index) const;
+  void SetColumnWidth(int index, int width);
+  void SetColumnAlignment(int index, ColumnAlignment alignment);
+  void SetColumnText(int index, std::string_view text);
+  bool CheckBoxes() const { return checkBoxes_; }
+  void SetCheckBoxes(bool checkBoxes) { checkBoxes_ = checkBoxes; }
+
+  int Count() const;
+  ListItem& Item(int index);
+  const ListItem& Item(int index) const;
+  /// Appends a line. The reference stays good until the line is removed.
+  ListItem& Add(std::string_view text);
+  void Remove(int index);
+  void Clear();
+
+  /// The selected line, 0 for none.
+  int SelectedItem() const;
+  /// Selects by code; no event. 0 deselects.
+  void Select(int index);
+  void EnsureVisible(int index);
+  /// The first line that EnsureVisible keeps in view, for the desktop.
+  int VisibleLine() const { return visibleLine_; }
+
+  // What a person does.
+  void ClickItem(int index);                ///< selects, fires ItemClick, then Click
+  void CheckItem(int index, bool checked);  ///< checks and fires ItemCheck
+
+  Event<ListItem&> ItemClick;
+  Event<ListItem&> ItemCheck;
+  Event<int> ColumnClick;
+
+  void Reset() override;
+  std::string TypeName() const override { return "ListView"; }
+
+ protected:
+  const LateMember* FindMember(std::string_view name) const override;
+
+ private:
+  friend class ListItem;
+
+  std::vector<ColumnHeader> columns_;
+  std::deque<std::unique_ptr<ListItem>> items_;
+  bool checkBoxes_ = false;
+  int selected_ = 0;
+  int visibleLine_ = 1;
+};
+
+}  // namespace controls

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/controls/control.h"
+
+namespace controls {
+
+/// Tabbed dialog. Controls stand on a page through Control::SetContainer(tab, page).
+class TabControl : public Control {
+ public:
+  TabControl(Form& form, std::string name) : Control(form, ControlKind::TabControl, std::move(name)) {}
+
+  int Tabs() const;
+  void SetTabs(int count);
+  /// The current page, from 0. Setting it fires Switched with the previous page; error 380 outside the pages.
+  int Tab() const;
+  void SetTab(int page);
+  std::string TabCaption(int page) const;
+  void SetTabCaption(int page, std::string_view caption);
+  /// Hiding the current page moves to the nearest visible one.
+  bool TabVisible(int page) const;
+  void SetTabVisible(int page, bool visible);
+
+  Event<int> Switched;
+
+  void Reset() override;
+  std::string TypeName() const override { return "SSTab"; }
+
+ protected:
+  const LateMember* FindMember(std::string_view name) const override;
+
+ private:
+  struct PageState {
+    std::string caption;
+    bool visible = true;
+  };
+  const PageState& PageAt(int page) const;
+
+  std::vector<PageState> pages_;
+  int tab_ = 0;
+};
+
+}  // namespace controls
