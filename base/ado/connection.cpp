@@ -1,0 +1,59 @@
+#include "base/ado/connection.h"
+
+#include "base/vb/error.h"
+
+namespace ado {
+namespace {
+
+late::Object& Target(const late::ObjectPtr& object) {
+  if (!object) vb::Raise(vb::kObjectNotSet);
+  return *object;
+}
+
+}  // namespace
+
+Recordset Connection::Execute(std::string_view statement) {
+  return Recordset(Target(object_).Call("Execute", {statement}).ToObject());
+}
+
+void Connection::BeginTrans() {
+  Target(object_).Call("BeginTrans");
+}
+void Connection::CommitTrans() {
+  Target(object_).Call("CommitTrans");
+}
+void Connection::RollbackTrans() {
+  Target(object_).Call("RollbackTrans");
+}
+void Connection::SetCommandTimeout(int seconds) {
+  Target(object_).Put("CommandTimeout", late::Value(static_cast<std::int32_t>(seconds)));
+}
+int Connection::State() {
+  return Target(object_).Get("State").ToInt32();
+}
+
+Transaction::Transaction(Connection& connection) : connection_(connection) {
+  connection_.BeginTrans();
+}
+
+Transaction::~Transaction() {
+  if (!open_) return;
+  try {
+    connection_.RollbackTrans();
+  } catch (...) {
+    // An error is already on its way to the user, and it is the one that says what went wrong; a destructor that throws would
+    // end the host besides. The server undoes what is left when the connection goes.
+  }
+}
+
+void Transaction::Commit() {
+  connection_.CommitTrans();  // when this raises, the transaction still counts as open
+  open_ = false;
+}
+
+void Transaction::Rollback() {
+  connection_.RollbackTrans();
+  open_ = false;
+}
+
+}  // namespace ado
