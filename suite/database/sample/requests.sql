@@ -12,7 +12,7 @@ insert into mosGoodsRequestHeader (GRHrequestID, GRHshopID, GRHrequestno, GRHreq
 (8, 1, 'GR24/1', '20230418', '20230418 09:01:15', 'Paint for the spring', 'Tomas Reyes', null, 1, 3, 1, 'G', 1, 0, null, null),
 (9, 1, 'GR24/2', '20230719', '20230719 15:22:58', 'Kettles, summer sale', 'Ines Caldeira', null, 1, 2, 1, 'G', 1, 0, null, null),
 (10, 1, 'GR24/3', '20231004', '20231004 10:03:27', 'Counter stock', 'Nora Halvard', null, 1, 3, 1, 'g', 1, 0, null, null),
-(11, 1, 'GR24/7A', '20231120', '20231120 17:58:40', 'Written by hand during the power cut', 'Maximiliane Oberhofer-Lindquist', null, 0, 1, 0, 'G', 0, 1, 'Maximiliane Oberhof:Entered again with a proper number', null),
+(11, 1, 'GR24/7A', '20231120', '20231120 17:58:40', 'Written by hand during the power cut', 'Maximiliane Oberhofer-Lindquist', null, 0, 1, 0, 'G', 0, 1, 'Maximiliane Oberhofe:Entered again with a proper number', null),
 (12, 1, 'GR24/4', '20240115', '20240115 09:30:00', 'Shelf filling, kitchen', 'Nora Halvard', null, 0, 2, 0, 'G', 0, 0, null, null),
 (13, 1, 'GR24/5', '20240116', '20240116 09:15:00', 'Workshop fitting, project', 'Nora Halvard', 'Nora Halvard', 1, 3, 1, 'G', 1, 0, null, '20240116 11:00:00'),
 (14, 1, 'GR24/6', '20240122', '20240122 13:44:12', 'Order from the Porto supplier', 'Ines Caldeira', null, 1, 2, 0, 'P', 0, 0, null, null),
