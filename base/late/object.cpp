@@ -91,7 +91,7 @@ Value Arguments::Or(std::size_t index, Value otherwise) const {
 }
 
 void Arguments::Write(std::size_t index, Value value) {
-  // An object or text that itself came by reference must not leave a reference behind.
+  // A value that itself came by reference is copied: its referent may end with the call.
   if (index < values_.size() && values_[index].IsByRef()) values_[index].Deref() = Value(value.Deref());
 }
 

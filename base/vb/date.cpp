@@ -141,6 +141,7 @@ Date MakeDate(int year, int month, int day, int hour, int minute, int second) {
 }
 
 DateParts PartsOf(Date date) {
+  if (!(std::fabs(date.days) < 3e6)) Raise(kOverflow);  // far outside the calendar, or no number at all
   const double whole = std::trunc(date.days);
   auto dayNumber = static_cast<std::int64_t>(whole);
   auto seconds = static_cast<std::int64_t>(std::llround(std::fabs(date.days - whole) * static_cast<double>(kSecondsPerDay)));

@@ -19,8 +19,9 @@ struct DateParts {
   int year = 1899, month = 12, day = 30, hour = 0, minute = 0, second = 0;
 };
 
+/// Parts beyond their range carry over (month 13, day 0); error 5 outside the years 100 to 9999.
 Date MakeDate(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
-/// Rounded to the whole second.
+/// Rounded to the whole second; error 6 for a number of days far outside the calendar.
 DateParts PartsOf(Date date);
 
 /// dd/mm/yyyy, with " HH:MM:SS" behind it when the date has a time of day.

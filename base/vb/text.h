@@ -43,6 +43,7 @@ std::string Space(long count);
 std::string Replace(std::string_view text, std::string_view what, std::string_view with);
 /// Doubles every apostrophe, for text that goes between single quotes in a statement.
 std::string DoubleApostrophes(std::string_view text);
+/// An empty text has no parts; an empty delimiter leaves the text as one part.
 std::vector<std::string> Split(std::string_view text, std::string_view delimiter);
 
 /// One character of UTF-8 at byte `offset`, which moves behind it. An invalid byte gives 0xDC00 + byte.
