@@ -1,0 +1,104 @@
+#include "suite/helpers/cls_common_db.h"
+
+#include "base/vb/number.h"
+#include "base/vb/text.h"
+
+namespace suite {
+
+using late::Arguments;
+using late::Value;
+
+const late::MemberTable<clsCommonDB>& clsCommonDB::Members() {
+  static const late::MemberTable<clsCommonDB> table{
+      {"adocon", [](clsCommonDB& self, Arguments&) { return Value(self.connection_.Object()); },
+       [](clsCommonDB& self, Arguments& arguments) { self.SetConnection(arguments[0]); }},
+      {"strTableName", [](clsCommonDB& self, Arguments&) { return Value(self.strTableName_); },
+       [](clsCommonDB& self, Arguments& arguments) { self.strTableName_ = arguments[0].ToText(); }},
+      {"fnReturnField",
+       [](clsCommonDB& self, Arguments& arguments) {
+         return self.fnReturnField(arguments[0].ToText(), arguments.Or(1, "").ToText());
+       },
+       nullptr, 1, 2},
+      {"fnGetNextMaxNo",
+       [](clsCommonDB& self, Arguments& arguments) { return Value(self.fnGetNextMaxNo(arguments[0].ToText())); }, nullptr, 1, 1},
+      {"fnUpdateSelectedRecord",
+       [](clsCommonDB& self, Arguments& arguments) {
+         self.fnUpdateSelectedRecord(arguments[0].ToText(), arguments[1].ToText(), arguments[2].ToInt16());
+         return Value();
+       },
+       nullptr, 3, 3},
+      {"PopulateListview",
+       [](clsCommonDB& self, Arguments& arguments) {
+         self.PopulateListview(*arguments[0].ToObject(), arguments[1].ToText(), arguments[2].ToText(), arguments[3].ToText(),
+                               arguments[4].ToText(), arguments[5].ToText());
+         return Value();
+       },
+       nullptr, 6, 6},
+      {"fnDeleteListview",
+       [](clsCommonDB& self, Arguments& arguments) {
+         self.fnDeleteListview(*arguments[0].ToObject(), arguments[1].ToInt32());
+         return Value();
+       },
+       nullptr, 3, 3},
+  };
+  return table;
+}
+
+void clsCommonDB::SetConnection(const Value& connection) {
+  connection_ = ado::Connection(connection.ToObject());
+  surroundings_->lastConnection = connection_.Object();
+}
+
+Value clsCommonDB::fnReturnField(std::string_view field, std::string_view condition) {
+  std::string statement = "select " + std::string(field) + " from " + strTableName_;
+  if (!vb::Trim(condition).empty()) statement += " where " + std::string(condition);
+  ado::Recordset row = connection_.Execute(statement);
+  return row.Eof() ? Value(late::Null{}) : row.Field(0);
+}
+
+std::int32_t clsCommonDB::fnGetNextMaxNo(std::string_view column) {
+  ado::Recordset row = connection_.Execute("select max(" + std::string(column) + ") from " + strTableName_);
+  const Value greatest = row.Eof() ? Value(late::Null{}) : row.Field(0);
+  return greatest.IsNull() ? 1 : vb::CLng(greatest.ToDouble() + 1);
+}
+
+void clsCommonDB::fnUpdateSelectedRecord(std::string_view condition, std::string_view column, std::int16_t value) {
+  std::string statement = "update ";
+  statement.append(strTableName_).append(" set ").append(column).append("=").append(std::to_string(value));
+  statement.append(" where ").append(condition);
+  connection_.Execute(statement);
+}
+
+void clsCommonDB::PopulateListview(late::Object& list, std::string_view tables, std::string_view condition,
+                                   std::string_view keyColumn, std::string_view textColumn, std::string_view option) {
+  ado::Recordset rows = connection_.Execute("select " + std::string(keyColumn) + "," + std::string(textColumn) + " from " +
+                                            std::string(tables) + " where " + std::string(condition));
+  const late::ObjectPtr items = list.Get("ListItems").ToObject();
+  items->Call("Clear");
+  const bool onlyText = vb::EqualNoCase(vb::Trim(option), "skip");
+  ado::ForEachRow(rows, [&](const late::Array& block, std::size_t record) {
+    const late::ObjectPtr item =
+        items->Call("Add", {late::Missing{}, late::Missing{}, block.At(0, record).TextOrEmpty()}).ToObject();
+    const std::size_t filled = onlyText ? 2 : block.rows;
+    for (std::size_t field = 1; field < filled; ++field) {
+      item->Put("SubItems", {static_cast<std::int32_t>(field)}, block.At(field, record).TextOrEmpty());
+    }
+  });
+}
+
+void clsCommonDB::fnDeleteListview(late::Object& list, std::int32_t index) {
+  const late::ObjectPtr items = list.Get("ListItems").ToObject();
+  const std::int32_t count = items->Get("Count").ToInt32();
+  if (index >= 1 && index <= count) {
+    items->Call("Remove", {index});
+    return;
+  }
+  for (std::int32_t line = 1; line <= count; ++line) {
+    if (items->Get("Item", {line}).ToObject()->Get("Selected").TrueOrFalse()) {
+      items->Call("Remove", {line});
+      return;
+    }
+  }
+}
+
+}  // namespace suite

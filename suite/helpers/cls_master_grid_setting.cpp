@@ -1,0 +1,71 @@
+#include "suite/helpers/cls_master_grid_setting.h"
+
+#include <cstdint>
+
+#include "base/vb/error.h"
+
+namespace suite {
+
+using late::Arguments;
+using late::Value;
+
+const late::MemberTable<clsMasterGridSetting>& clsMasterGridSetting::Members() {
+  static const late::MemberTable<clsMasterGridSetting> table{
+      {"fnGridSettings",
+       [](clsMasterGridSetting& self, Arguments& arguments) {
+         self.fnGridSettings(OwnerOf(arguments), *arguments[3].ToObject());
+         return Value(true);
+       },
+       nullptr, 4, 4},
+      {"fnSaveGridSettings",
+       [](clsMasterGridSetting& self, Arguments& arguments) {
+         self.fnSaveGridSettings(OwnerOf(arguments), *arguments[3].ToObject());
+         return Value(true);
+       },
+       nullptr, 4, 4},
+  };
+  return table;
+}
+
+std::string clsMasterGridSetting::Owner::Condition() const {
+  return " where userid=" + std::to_string(userId) + " and companyid=" + std::to_string(companyId) +
+         " and interfaceid=" + std::to_string(interfaceId);
+}
+
+clsMasterGridSetting::Owner clsMasterGridSetting::OwnerOf(Arguments& arguments) {
+  return {arguments[0].ToInt16(), arguments[1].ToInt32(), arguments[2].ToInt32()};
+}
+
+ado::Connection clsMasterGridSetting::Connection() const {
+  const late::ObjectPtr connection = surroundings_->lastConnection.lock();
+  if (!connection) vb::Raise(vb::kObjectNotSet);
+  return ado::Connection(connection);
+}
+
+void clsMasterGridSetting::fnGridSettings(const Owner& owner, late::Object& grid) const {
+  ado::Connection connection = Connection();
+  if (connection.Execute("select object_id('smpGridSettings')").Field(0).IsNull()) {
+    connection.Execute("create table smpGridSettings (userid smallint,companyid int,interfaceid int,colno int,colwidth int)");
+    return;
+  }
+  ado::Recordset widths = connection.Execute("select colno,colwidth from smpGridSettings" + owner.Condition());
+  const std::int32_t columns = grid.Get("Cols").ToInt32();
+  ado::ForEachRow(widths, [&](const late::Array& block, std::size_t record) {
+    const std::int32_t column = block.At(0, record).ToInt32();
+    if (column >= 0 && column < columns) grid.Put("ColWidth", {column}, block.At(1, record).ToInt32());
+  });
+}
+
+void clsMasterGridSetting::fnSaveGridSettings(const Owner& owner, late::Object& grid) const {
+  ado::Connection connection = Connection();
+  connection.Execute("delete from smpGridSettings" + owner.Condition());
+  const std::int32_t columns = grid.Get("Cols").ToInt32();
+  for (std::int32_t column = 0; column < columns; ++column) {
+    connection.Execute("insert into smpGridSettings (userid,companyid,interfaceid,colno,colwidth) values (" +
+                       std::to_string(owner.userId) + "," + std::to_string(owner.companyId) + "," +
+                       std::to_string(owner.interfaceId) + "," + std::to_string(column) + "," +
+                       grid.Get("ColWidth", {column}).ToText() + ")");
+  }
+}
+
+}  // namespace suite

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <memory>
+
+#include "base/controls/desktop.h"
+#include "base/controls/workstation.h"
+#include "base/late/object.h"
+
+namespace suite {
+
+/// What the stand-ins share: the desktop they show their windows on, the machine, and the connection last handed to one of them
+/// (grid settings are asked for without one).
+struct Surroundings {
+  controls::Desktop& desktop;
+  controls::Workstation& workstation;
+  std::weak_ptr<late::Object> lastConnection;
+};
+
+}  // namespace suite
