@@ -13,6 +13,8 @@ template <class... Rules>
 struct Overloaded : Rules... {
   using Rules::operator()...;
 };
+template <class... Rules>
+Overloaded(Rules...) -> Overloaded<Rules...>;
 
 /// Half to even on the exact units.
 std::int64_t RoundToInteger(const vb::Decimal& value) {

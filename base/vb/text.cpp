@@ -158,8 +158,9 @@ std::size_t InStr(std::string_view text, std::string_view part) {
 std::size_t InStrNoCase(std::string_view text, std::string_view part) {
   if (part.empty()) return 1;
   if (IsAscii(text) && IsAscii(part)) {
-    const auto hit = std::ranges::search(text, part, {}, LowerAscii, LowerAscii);
-    return hit.empty() ? 0 : static_cast<std::size_t>(hit.begin() - text.begin()) + 1;
+    const auto same = [](char a, char b) { return LowerAscii(a) == LowerAscii(b); };
+    const auto hit = std::search(text.begin(), text.end(), part.begin(), part.end(), same);
+    return hit == text.end() ? 0 : static_cast<std::size_t>(hit - text.begin()) + 1;
   }
   return FindCharacters(Fold(text), Fold(part));  // folding keeps the number of characters
 }
