@@ -1,0 +1,109 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "base/controls/buttons.h"
+#include "base/controls/list_view.h"
+#include "base/controls/menu.h"
+#include "base/controls/tab_control.h"
+#include "base/controls/text_box.h"
+#include "src/editor/customer_requests.h"
+#include "src/shared/common_db.h"
+#include "src/shared/module_form.h"
+#include "src/shared/register_view.h"
+
+namespace goods {
+
+class frmRequestDetail;
+
+/// The request editor: one request's header, its item lines and the customer documents it is raised for. Creates a request in
+/// mode "N" of the session, shows and changes the one of gLngRequestID in any other. What is saved, and how, is request_saving's.
+class frmRequest : public ModuleForm {
+ public:
+  frmRequest(basGoodsRequest& session, RegisterView& view);
+  ~frmRequest() override;
+
+  /// Pages of sstabGoodsReq.
+  enum Page : int { kItemsPage = 0, kCustomerPage = 1 };
+
+  // The header.
+  controls::Label lblRequestNo{*this, "lblRequestNo"};
+  controls::TextBox txtRequestNo{*this, "txtRequestNo"};
+  controls::Label lblrequestDate{*this, "lblrequestDate"};
+  controls::TextBox txtrequestDate{*this, "txtrequestDate"};
+  controls::Frame fraRequestType{*this, "fraRequestType"};
+  controls::OptionButton optgoodreq{*this, "optgoodreq"};
+  controls::OptionButton optporeq{*this, "optporeq"};
+  controls::Label lblRemarks{*this, "lblRemarks"};
+  controls::TextBox txtRemarks{*this, "txtRemarks"};
+  controls::CheckBox chkcutomerrequest{*this, "chkcutomerrequest"};
+
+  // The lines and the customer documents.
+  controls::TabControl sstabGoodsReq{*this, "sstabGoodsReq"};
+  controls::ListView lvwrequest{*this, "lvwrequest"};
+  controls::ListView lvwCustomerReq{*this, "lvwCustomerReq"};
+
+  controls::CheckBox chkTransFinished{*this, "chkTransFinished"};
+  controls::CommandButton cmdOK{*this, "cmdOK"};
+  controls::CommandButton cmdCancel{*this, "cmdCancel"};
+
+  // The menu of the lines.
+  controls::Menu mnuPopup{*this, "mnuPopup"};
+  controls::Menu mnuAdd{*this, "mnuAdd", &mnuPopup};
+  controls::Menu mnuSeparator1{*this, "mnuSeparator1", &mnuPopup};
+  controls::Menu mnuEdit{*this, "mnuEdit", &mnuPopup};
+  controls::Menu mnuSeparator2{*this, "mnuSeparator2", &mnuPopup};
+  controls::Menu mnudel{*this, "mnudel", &mnuPopup};
+  controls::Menu mnuSeparator3{*this, "mnuSeparator3", &mnuPopup};
+  controls::Menu mnuCancel{*this, "mnuCancel", &mnuPopup};
+
+  /// The current line of lvwrequest, 1-based; item entry reads and moves it.
+  std::int32_t lngCurrentLine = 0;
+
+  /// The documents that an existing request is linked to, checked, and behind them those on offer. The register's Edit calls it
+  /// before it shows the editor, which it loads. A request without links gets an unticked box and a hidden page. A database error
+  /// is raised, and leaves the editor unloaded: a save without the links would lose them.
+  void ShowOwnLinks(std::int32_t requestId);
+
+ protected:
+  void Design() override;
+
+ private:
+  void DesignHeader();
+  void DesignLists();
+  void DesignMenu();
+  void WireEvents();
+
+  void Form_Load();
+  void LoadNewRequest();
+  void LoadExistingRequest();
+  void Form_Activate();
+  void Form_QueryUnload(bool& cancel, int mode);
+
+  void cmdOK_Click();
+  void cmdCancel_Click();
+  void chkcutomerrequest_Click();
+  void lvwCustomerReq_ItemCheck(controls::ListItem& document);
+  void SetBoxQuietly(bool ticked);
+
+  void lvwrequest_DblClick();
+  void lvwrequest_KeyDown(int& keyCode, int shift);
+  void lvwrequest_KeyPress(int& character);
+  void lvwrequest_MouseUp(int button, int shift);
+  void lvwrequest_ItemClick(controls::ListItem& line);
+  void mnuAdd_Click();
+  void mnuEdit_Click();
+  void mnudel_Click();
+  frmRequestDetail& ItemEntry();
+
+  RegisterView& view_;
+  CommonDb objCommonDB_;
+  CustomerRequests customerRequests_;
+  std::shared_ptr<frmRequestDetail> itemEntry_;
+  bool keepOpen_ = true;         ///< the answer to a cancelled closing; only a save clears it
+  bool firstActivation_ = true;  ///< since the last load
+  bool settingBox_ = false;      ///< the box's Click comes from this form's own code
+};
+
+}  // namespace goods
