@@ -1,0 +1,132 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "base/controls/buttons.h"
+#include "base/controls/combo_box.h"
+#include "base/controls/list_view.h"
+#include "base/controls/text_box.h"
+#include "src/fetch/item_entry_port.h"
+#include "src/itementry/item_fetch.h"
+#include "src/shared/common_db.h"
+#include "src/shared/common_gen.h"
+#include "src/shared/module_form.h"
+#include "src/shared/request_lines.h"
+
+namespace goods {
+
+class FrmFetch;
+
+/// Enters the lines of a goods request one at a time: adds to the editor's item list in mode "N" of gStrDetailMode, walks through
+/// it and changes it in mode "E". Has no data of its own to hand back. Numbers, saves and checks nothing of the request itself.
+class frmRequestDetail : public ModuleForm, private ItemEntryPort {
+ public:
+  /// `lines` is the editor's item list; it outlives this form.
+  frmRequestDetail(basGoodsRequest& session, RequestLines lines);
+  ~frmRequestDetail() override;
+
+  controls::CommandButton cmdOk{*this, "cmdOk"};
+  controls::CommandButton cmdCancel{*this, "cmdCancel"};
+  controls::CommandButton cmdLast{*this, "cmdLast"};
+  controls::CommandButton Cmdprev{*this, "Cmdprev"};
+  controls::CommandButton cmdFirst{*this, "cmdFirst"};
+  controls::Frame Frame1{*this, "Frame1"};
+  controls::PictureBox picOptions{*this, "picOptions"};
+  controls::OptionButton optItemsNotInShop{*this, "optItemsNotInShop"};
+  controls::OptionButton optall{*this, "optall"};
+  controls::OptionButton optAvaingodnotinshop{*this, "optAvaingodnotinshop"};
+  controls::OptionButton optStockoutitems{*this, "optStockoutitems"};
+  controls::TextBox txtpartcode{*this, "txtpartcode"};
+  controls::TextBox txtitemcode{*this, "txtitemcode"};
+  controls::TextBox txtreqcomments{*this, "txtreqcomments"};
+  controls::CommandButton cmdFetch{*this, "cmdFetch"};
+  controls::TextBox txtavailqty{*this, "txtavailqty"};
+  controls::ComboBox cboItem{*this, "cboItem"};
+  controls::TextBox txtQuantity{*this, "txtQuantity"};
+  controls::ListView lvwpacktype{*this, "lvwpacktype"};
+  controls::Label Label3{*this, "Label3"};
+  controls::Label lblpartcode{*this, "lblpartcode"};
+  controls::Label lblcomments{*this, "lblcomments"};
+  controls::Label lblavail{*this, "lblavail"};
+  controls::Label Label2{*this, "Label2"};
+  controls::Label Label1{*this, "Label1"};
+  controls::CommandButton cmdNext{*this, "cmdNext"};
+
+ private:
+  void Design() override;
+  void DesignOptions();
+  void DesignEntryFields();
+  void DesignButtons();
+  void DesignTabOrder();
+  void WireEntryFields();
+  void WireButtons();
+
+  // The window.
+  void Form_Load();
+  void CreateHelpers();
+  void Form_Activate();
+  void ReadAliases();
+  void SelectFetchModeOption();
+  void ArrangeOptionButtons();
+  void FocusEntryField();
+  void Form_KeyDown(int& keyCode, int shift);
+  void OptionClicked();
+  void OptionKeyPressed(int& character);
+
+  // One line's fields.
+  void cboItem_Click();
+  void ProposeReorderQuantity(std::int32_t itemId);
+  void ShowAvailableQuantity(std::int32_t itemId);
+  void cboItem_KeyPress(int& character);
+  void cboItem_Validate(bool& cancel);
+  void txtQuantity_KeyPress(int& character);
+  void txtreqcomments_KeyPress(int& character);
+  /// 0 when no item is selected.
+  std::int32_t SelectedItemId() const;
+  double EnteredQuantity() const;
+
+  // Finding the item.
+  void txtitemcode_KeyPress(int& character);
+  void cmdFetch_Click();
+  void ShowFetchDialog();
+  void FillItemList();
+  void TakeFetchedRow();
+  void TakeItem(const PickedItem& item);
+  void RefuseItemCode();
+  ItemListMode SelectedList() const override;
+  bool TakeItemCode(const PickedItem& item) override;
+  void TakeStockOutItem(const PickedItem& item) override;
+  void FillPackTypeinList(std::int32_t itemId) override;
+  void Calcpacktypeqty();
+
+  // The lines.
+  void cmdOk_Click();
+  bool RefusesEntry();
+  bool IsDuplicateItem() const;
+  bool AddLine();
+  void RewriteLine();
+  void ClearForNextLine();
+  void ShowNextLineOrClose();
+  void MarkChangedLine();
+  void cmdFirst_Click();
+  void Cmdprev_Click();
+  void cmdNext_Click();
+  void cmdLast_Click();
+  void GoToLine(int line);
+  void EnableNavigation(bool backwards, bool forwards);
+  void LoadCurrentLine();
+  void RememberLoadedValues();
+
+  RequestLines lines_;
+  CommonDb objCommonDB_;
+  CommonGen objCommonGen_;
+  ItemFetch objFetch_;
+  std::shared_ptr<FrmFetch> frmFetch_;
+  bool firstActivation_ = true;
+  bool showAvailability_ = false;
+  bool fetching_ = false;  ///< a lookup of this form is up: its closing activates this form in mid-routine
+  std::string itemCode_;   ///< of the chosen item, for the line's item code column
+};
+
+}  // namespace goods
