@@ -132,16 +132,22 @@ class Control : public late::Object {
   void Changed(Aspect aspect);
   /// Members of the derived class by name; null when unknown there. See control_members.h.
   struct LateMember {
+    std::string_view name;
     std::function<late::Value(Control&, late::Arguments&)> get;
     std::function<void(Control&, late::Arguments&)> put;
+    int least = 0;  ///< arguments that must be there (the value put not counted)
+    int most = 0;   ///< arguments that may be there
   };
   virtual const LateMember* FindMember(std::string_view name) const;
 
  private:
+  friend class Form;
   const Control& Touched() const {
     Touch();
     return *this;
   }
+  /// Notes a change that may have taken the focus away from where it is.
+  void ReachChanged(Aspect aspect);
 
   Form& form_;
   ControlKind kind_;

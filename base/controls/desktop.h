@@ -42,11 +42,15 @@ class Desktop {
  protected:
   virtual void Opening(Form&, Form* owner) { (void)owner; }
   virtual void Opened(Form&) {}
-  /// Works until `form` is no longer loaded (or the desktop gives up).
+  /// Works until `form` is no longer shown (or the desktop gives up). Not "loaded": a handler that goes on after unloading its
+  /// form may touch a control and so load it again, unseen.
   virtual void RunModal(Form& form) = 0;
+  /// The form left the screen: it was unloaded, or its showing ended with an exception.
   virtual void Closed(Form&) {}
 
  private:
+  void Drop(Form& form);
+
   std::vector<Form*> stack_;
 };
 

@@ -117,18 +117,30 @@ class FlexGrid : public Control {
   };
   struct GridRow {
     std::vector<std::string> cells;                   // may be shorter than the columns: the rest is empty
-    std::unique_ptr<std::vector<CellColors>> colors;  // only where a cell has a colour
+    std::unique_ptr<std::vector<CellColors>> colors;  // only where single cells have colours
+    Color rowFore = kDefaultColor;                    // of the cells without one of their own
   };
   struct GridColumn {
     int width = -1;
     GridAlignment alignment = GridAlignment::Left;
   };
+  struct RowRange {
+    long first = 0, last = 0;
+  };
   const std::string& CellText(const GridRow& row, long col) const;
   void CheckCell(long row, long col) const;
   void MoveCurrent(long row, long col);
+  void MoveSelection(long rowSel, long colSel);
+  void KeepCurrentInside();
+  /// The first data row becomes the current one of a grid that had none.
+  void CurrentIntoData(bool hadNone);
+  void ScrollTo(long row);
+  CellColors& ColorsOf(long row, long col);
+  GridRow RowOf(std::string_view tabSeparated);
+  RowRange SortedRows() const;
 
-  std::vector<GridRow> rows_;
-  std::vector<GridColumn> columns_;
+  std::vector<GridRow> rows_ = std::vector<GridRow>(2);
+  std::vector<GridColumn> columns_ = std::vector<GridColumn>(2);
   long fixedRows_ = 1;
   long fixedCols_ = 1;
   long row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;

@@ -137,6 +137,15 @@ class Form : public late::Object {
   enum class State { Unloaded, Designing, Loaded };
   void Register(Control& control);
   void Forget(Control& control);
+  /// Loads an unloaded form whose property or control is touched; not while the object is being made or destroyed.
+  void Touch() const;
+  bool IsActive() const;
+  /// SetFocus from code: at once on the active form, otherwise when the form becomes active.
+  void RequestFocus(Control& control);
+  /// Moves the focus on when the control that has it can no longer keep it. No validation.
+  void LeaveUnreachable();
+  bool Leave(Control& left, Control* entered, unsigned move);
+  void Enter(Control* control);
   bool CloseWith(int mode);
 
   controls::Desktop& desktop_;
@@ -153,6 +162,9 @@ class Form : public late::Object {
   std::string tag_;
   std::vector<Control*> controls_;
   Control* activeControl_ = nullptr;
+  Control* requestedFocus_ = nullptr;  // waits for the form to become active
+  Control* leaving_ = nullptr;         // its validate or lost-focus handler is running
+  unsigned focusMoves_ = 0;            // counts moves, so that a handler's own move wins over the one it interrupts
   bool pendingTab_ = false;
   bool handlingKey_ = false;
   std::vector<std::pair<std::string, FieldReader>> fields_;

@@ -67,6 +67,8 @@ class ListView : public Control {
   const ListItem& Item(int index) const;
   /// Appends a line. The reference stays good until the line is removed.
   ListItem& Add(std::string_view text);
+  /// The same before line `index`; behind the last one for Count() + 1.
+  ListItem& Insert(int index, std::string_view text);
   void Remove(int index);
   void Clear();
 
@@ -81,6 +83,14 @@ class ListView : public Control {
   // What a person does.
   void ClickItem(int index);                ///< selects, fires ItemClick, then Click
   void CheckItem(int index, bool checked);  ///< checks and fires ItemCheck
+  void MoveTo(int index);                   ///< selects by keyboard: fires ItemClick unless the line is selected already
+  /// Arrow, page, home and end keys; whether the key was one of them.
+  bool NavigationKey(int keyCode);
+
+  /// A line that may outlive its removal, for late-bound holders.
+  std::shared_ptr<ListItem> SharedItem(int index) const;
+  /// 0 when the line was removed.
+  int IndexOf(const ListItem& item) const;
 
   Event<ListItem&> ItemClick;
   Event<ListItem&> ItemCheck;
@@ -94,9 +104,11 @@ class ListView : public Control {
 
  private:
   friend class ListItem;
+  void CheckLine(int index) const;
+  void CheckColumn(int index) const;
 
   std::vector<ColumnHeader> columns_;
-  std::deque<std::unique_ptr<ListItem>> items_;
+  std::deque<std::shared_ptr<ListItem>> items_;
   bool checkBoxes_ = false;
   int selected_ = 0;
   int visibleLine_ = 1;

@@ -34,8 +34,9 @@ class TabControl : public Control {
     bool visible = true;
   };
   const PageState& PageAt(int page) const;
+  void SwitchTo(int page);
 
-  std::vector<PageState> pages_;
+  std::vector<PageState> pages_ = std::vector<PageState>(3);
   int tab_ = 0;
 };
 
