@@ -1,0 +1,151 @@
+#include "src/printing/request_slip.h"
+
+#include "base/ado/recordset.h"
+#include "base/vb/format.h"
+#include "base/vb/text.h"
+#include "src/printing/slip_footer.h"
+#include "src/printing/slip_header.h"
+#include "src/shared/common_db.h"
+#include "src/shared/error_routine.h"
+#include "src/shared/item_lookups.h"
+
+namespace goods {
+namespace {
+
+// The slip's routines belong to the register, and report as such.
+constexpr std::string_view kModule = "frmMaster ";
+constexpr std::string_view kScreenFile = "C:\\Reqtohq.txt";
+
+std::string SlipLinesQuery(std::int32_t requestId, std::int32_t shopId, bool inSavedOrder) {
+  return std::string("select u.UnitCode, h.GRHrequestNO,d.GRDItemId,GRDgoodqty,") +                                       //
+         " vw.itemdescription,a.itemcode, itemrate" +                                                                     //
+         " from mosGoodsRequestHeader h, mosGoodsRequestDetail d, " +                                                     //
+         " aItem a, vwItemDescriptionPrint vw, aUnit u " +                                                                //
+         " where h.GRHrequestID=d.GRDrequestID and a.ItemId=vw.ItemId and " +                                             //
+         " a.ItemId=d.GRDItemId and h.GRHShopId=" + std::to_string(shopId) +                                              //
+         " and h.GRHShopId=d.GRDShopId and h.GRHrequestID=" + std::to_string(requestId) + " and a.UnitsId = u.UnitId " +  //
+         (inSavedOrder ? " order by d.grdrequestid, d.grdItemId" : " order by vw.itemdescription");
+}
+
+double NumberOrZero(const late::Value& value) {
+  return value.IsNull() ? 0 : value.ToDouble();
+}
+
+/// What the shop adds to an item's rate to get its cost price.
+double CostFactor(basGoodsRequest& session) {
+  CommonDb db(session);
+  db.strTableName("ashops");
+  const late::Value percent = db.fnReturnField("RevisedCostPricePercent", "ShopId=" + std::to_string(session.gIntShopID));
+  return 1 + NumberOrZero(percent) / 100;
+}
+
+struct OpenedOutput {
+  std::unique_ptr<controls::OutputFile> file;
+  std::string path;
+};
+
+/// Ordinary users may not write to the root of drive C on every machine: then the same file name in their temporary folder
+/// serves.
+OpenedOutput OpenScreenFile(controls::Workstation& workstation) {
+  try {
+    return {workstation.OpenForOutput(kScreenFile), std::string(kScreenFile)};
+  } catch (const vb::RunTimeError&) {
+    const std::string path = workstation.TempFolder() + "\\Reqtohq.txt";
+    return {workstation.OpenForOutput(path), path};
+  }
+}
+
+OpenedOutput OpenOutput(controls::Workstation& workstation, SlipDestination destination, const std::string& port) {
+  if (destination == SlipDestination::Screen) return OpenScreenFile(workstation);
+  return {workstation.OpenForOutput(port), port};
+}
+
+}  // namespace
+
+std::string RequestSlip::PrintBill(std::int32_t requestId, SlipDestination destination) {
+  std::string path;
+  Trapped(session_, kModule, "PrintBill", [&] { path = Write(requestId, destination); });
+  return path;
+}
+
+std::string RequestSlip::Write(std::int32_t requestId, SlipDestination destination) {
+  const SlipSettings settings = SlipSettings::Read(session_);
+  const SlipColumns columns(settings);
+  OpenedOutput opened = OpenOutput(session_.services.workstation, destination, settings.port);
+  SlipOutput output(std::move(opened.file));
+  // The screen file starts with the headings; only paper gets the header.
+  if (destination == SlipDestination::Printer) HeaderPrint(output, settings.pagewidth, requestId);
+  WriteHeadings(output, settings, columns);
+  const Totals totals = WriteLines(output, settings, columns, requestId, destination);
+  WriteTotals(output, settings, columns, totals);
+  FooterPrint(output, settings.pagewidth);
+  output.Close();
+  return opened.path;
+}
+
+void RequestSlip::WriteHeadings(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns) const {
+  const std::string dashes = columns.DashedLine();
+  if (settings.printheadertopline && !dashes.empty()) output.Line(dashes);
+  output.Line(columns.Headings());
+  if (settings.printheaderbottomline && !dashes.empty()) output.Line(dashes);
+}
+
+RequestSlip::Totals RequestSlip::WriteLines(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns,
+                                            std::int32_t requestId, SlipDestination destination) {
+  const double costFactor = settings.showcostintrans ? CostFactor(session_) : 1;
+  Totals totals;
+  long number = 0;
+  ado::Recordset rows = ado::Recordset::Create(session_.services.factory);
+  rows.Open(SlipLinesQuery(requestId, session_.gIntShopID, settings.printinsavedorder), session_.gAdoCon);
+  enum Field : std::size_t { kUnitCode, kRequestNo, kItemId, kQuantity, kDescription, kItemCode, kRate };
+  ado::ForEachRow(rows, [&](const late::Array& block, std::size_t record) {
+    if (settings.internalprintnoofrecords > 0 && number > 0 && number % settings.internalprintnoofrecords == 0) {
+      if (settings.printfooterineachpage) FooterPrint(output, settings.pagewidth);
+      if (destination == SlipDestination::Printer) output.BreakPage();
+      WriteHeadings(output, settings, columns);
+    }
+    const double quantity = NumberOrZero(block.At(kQuantity, record));
+    const double costPrice = NumberOrZero(block.At(kRate, record)) * costFactor;
+    SlipLine line;
+    line.itemCode = block.At(kItemCode, record).TextOrEmpty();
+    line.description = block.At(kDescription, record).TextOrEmpty();
+    line.unit = block.At(kUnitCode, record).TextOrEmpty();
+    line.quantity = vb::Format(quantity, "0.00");
+    if (settings.showcostintrans) {
+      line.costPrice = vb::Format(costPrice, "0.00");
+      line.totalCost = vb::Format(costPrice * quantity, "0.00");
+    }
+    if (settings.showspintransrep) {
+      const std::int32_t itemId = block.At(kItemId, record).ToInt32();
+      line.sellingPrice =
+          vb::Format(GetItemSellingPrice(session_, itemId, vb::CInt(static_cast<double>(session_.gIntShopID))), "0.00");
+    }
+    totals.quantity += quantity;
+    totals.cost += costPrice * quantity;
+    output.Line(columns.Line(++number, line));
+  });
+  rows.CloseIfOpen();
+  return totals;
+}
+
+void RequestSlip::WriteTotals(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns,
+                              const Totals& totals) const {
+  const std::string dashes = columns.DashedLine();
+  if (settings.printdetailbottomline && !dashes.empty()) output.Line(dashes);
+  if (settings.showtotalqty) {
+    output.Line(columns.QuantityTotal(vb::Format(totals.quantity, "0.000")));
+  } else if (settings.showcostintrans) {
+    output.Line(columns.CostTotal(vb::Format(totals.cost, "0.00")));
+    output.Line("");
+  }
+}
+
+void RequestSlip::HeaderPrint(SlipOutput& output, std::int16_t pageWidth, std::int32_t requestId) {
+  Trapped(session_, kModule, "HeaderPrint", [&] { WriteSlipHeader(session_, output, pageWidth, requestId); });
+}
+
+void RequestSlip::FooterPrint(SlipOutput& output, std::int16_t pageWidth) {
+  Trapped(session_, kModule, "FooterPrint", [&] { WriteSlipFooter(session_, output, pageWidth); });
+}
+
+}  // namespace goods

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+
+#include "src/entry/session.h"
+#include "src/printing/slip_output.h"
+
+namespace goods {
+
+/// The footer block: the shop's printed messages, then the user and the time of printing. Raises database errors.
+void WriteSlipFooter(basGoodsRequest& session, SlipOutput& output, std::int16_t pageWidth);
+
+}  // namespace goods

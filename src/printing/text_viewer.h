@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "src/entry/session.h"
+
+namespace goods {
+
+/// The program that shows a text slip, as the beginning of a command line: the Windows directory's edit.com with a blank behind
+/// it.
+std::string TextViewer(basGoodsRequest& session);
+
+/// Starts the viewer, maximised, on the slip; does not wait. Where the viewer does not exist, the system's notepad takes its
+/// place. Error 53 when neither can be started. `file` empty (the slip could not be written) shows the usual file all the same.
+void ShowTextFile(basGoodsRequest& session, std::string_view viewer, std::string_view file);
+
+}  // namespace goods

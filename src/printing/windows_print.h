@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+
+#include "src/entry/session.h"
+
+namespace goods {
+
+/// Previews the request's report through the report server, from which the user prints. Raises error 429 when there is no report
+/// server, and whatever the server raises.
+void WIndowsprint(basGoodsRequest& session, std::int32_t requestId);
+
+}  // namespace goods
