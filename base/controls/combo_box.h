@@ -45,8 +45,11 @@ class ComboBox : public Control {
   void Pick(int index);
   void TypeOver(std::string_view text);
   void EraseBack();
+  void EraseForward();
   void TakeEdited(std::string text);
   void Paste(std::string_view text);
+  /// The next entry that starts with the letter, round and round. False when there is none.
+  bool PickByLetter(char32_t character);
 
   Event<> Change;
 
@@ -62,6 +65,8 @@ class ComboBox : public Control {
     std::int32_t itemData = 0;
   };
   const Entry& EntryAt(int index) const;
+  void Select(int index);
+  void Edit(std::string text, int caret);
 
   ComboStyle style_ = ComboStyle::DropDown;
   std::vector<Entry> entries_;

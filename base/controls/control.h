@@ -130,6 +130,8 @@ class Control : public late::Object {
   /// Loads the form on first touch.
   void Touch() const;
   void Changed(Aspect aspect);
+  /// The same for a change that may have taken the focus away from where it is.
+  void ReachChanged(Aspect aspect);
   /// Members of the derived class by name; null when unknown there. See control_members.h.
   struct LateMember {
     std::string_view name;
@@ -146,8 +148,6 @@ class Control : public late::Object {
     Touch();
     return *this;
   }
-  /// Notes a change that may have taken the focus away from where it is.
-  void ReachChanged(Aspect aspect);
 
   Form& form_;
   ControlKind kind_;

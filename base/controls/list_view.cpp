@@ -1,0 +1,251 @@
+#include "base/controls/list_view.h"
+
+#include <algorithm>
+
+#include "base/controls/form.h"
+#include "base/controls/keys.h"
+#include "base/vb/error.h"
+
+namespace controls {
+
+namespace {
+
+constexpr long kIndexOutOfBounds = 35600;
+/// How far a page key goes; the model does not know how many lines a desktop shows.
+constexpr int kPageLines = 10;
+
+[[noreturn]] void RaiseIndex() {
+  vb::Raise(kIndexOutOfBounds, "Index out of bounds");
+}
+
+const std::string& TextAt(const std::vector<std::string>& texts, int index) {
+  static const std::string none;
+  const auto place = static_cast<std::size_t>(index - 1);
+  return place < texts.size() ? texts[place] : none;
+}
+
+void SetTextAt(std::vector<std::string>& texts, int index, std::string_view text) {
+  const auto place = static_cast<std::size_t>(index - 1);
+  if (place >= texts.size()) texts.resize(place + 1);
+  texts[place] = text;
+}
+
+}  // namespace
+
+void ListItem::CheckIndex(int index) const {
+  if (index < 1 || index >= list_->ColumnCount()) vb::Raise(vb::kInvalidPropertyValue);
+}
+
+void ListItem::SetText(std::string_view text) {
+  text_ = text;
+  list_->Changed(Aspect::Items);
+}
+
+const std::string& ListItem::SubItem(int index) const {
+  CheckIndex(index);
+  return TextAt(subItems_, index);
+}
+
+void ListItem::SetSubItem(int index, std::string_view text) {
+  CheckIndex(index);
+  SetTextAt(subItems_, index, text);
+  list_->Changed(Aspect::Items);
+}
+
+const std::string& ListItem::SubItemToolTip(int index) const {
+  CheckIndex(index);
+  return TextAt(toolTips_, index);
+}
+
+void ListItem::SetSubItemToolTip(int index, std::string_view text) {
+  CheckIndex(index);
+  SetTextAt(toolTips_, index, text);
+}
+
+void ListItem::SetChecked(bool checked) {
+  if (checked_ == checked) return;
+  checked_ = checked;
+  list_->Changed(Aspect::Items);
+}
+
+void ListView::CheckLine(int index) const {
+  if (index < 1 || index > Count()) RaiseIndex();
+}
+
+void ListView::CheckColumn(int index) const {
+  if (index < 1 || index > ColumnCount()) RaiseIndex();
+}
+
+void ListView::AddColumn(std::string_view text, int width, ColumnAlignment alignment) {
+  Touch();
+  columns_.push_back({std::string(text), width, alignment});
+  Changed(Aspect::Layout);
+}
+
+int ListView::ColumnCount() const {
+  Touch();
+  return static_cast<int>(columns_.size());
+}
+
+const ColumnHeader& ListView::Column(int index) const {
+  CheckColumn(index);
+  return columns_[static_cast<std::size_t>(index) - 1];
+}
+
+void ListView::SetColumnWidth(int index, int width) {
+  CheckColumn(index);
+  columns_[static_cast<std::size_t>(index) - 1].width = width;
+  Changed(Aspect::Layout);
+}
+
+void ListView::SetColumnAlignment(int index, ColumnAlignment alignment) {
+  CheckColumn(index);
+  if (alignment < ColumnAlignment::Left || alignment > ColumnAlignment::Center) vb::Raise(vb::kInvalidPropertyValue);
+  columns_[static_cast<std::size_t>(index) - 1].alignment = alignment;
+  Changed(Aspect::Layout);
+}
+
+void ListView::SetColumnText(int index, std::string_view text) {
+  CheckColumn(index);
+  columns_[static_cast<std::size_t>(index) - 1].text = text;
+  Changed(Aspect::Layout);
+}
+
+int ListView::Count() const {
+  Touch();
+  return static_cast<int>(items_.size());
+}
+
+ListItem& ListView::Item(int index) {
+  CheckLine(index);
+  return *items_[static_cast<std::size_t>(index) - 1];
+}
+
+const ListItem& ListView::Item(int index) const {
+  CheckLine(index);
+  return *items_[static_cast<std::size_t>(index) - 1];
+}
+
+std::shared_ptr<ListItem> ListView::SharedItem(int index) const {
+  CheckLine(index);
+  return items_[static_cast<std::size_t>(index) - 1];
+}
+
+int ListView::IndexOf(const ListItem& item) const {
+  const auto place = std::find_if(items_.begin(), items_.end(), [&](const auto& held) { return held.get() == &item; });
+  return place == items_.end() ? 0 : static_cast<int>(place - items_.begin()) + 1;
+}
+
+ListItem& ListView::Add(std::string_view text) {
+  return Insert(Count() + 1, text);
+}
+
+ListItem& ListView::Insert(int index, std::string_view text) {
+  if (index < 1 || index > Count() + 1) RaiseIndex();
+  auto item = std::make_shared<ListItem>(*this);
+  ListItem& line = *item;
+  items_.insert(items_.begin() + (index - 1), std::move(item));
+  if (items_.size() == 1) {
+    selected_ = 1;
+  } else if (selected_ >= index) {
+    ++selected_;
+  }
+  line.SetText(text);
+  return line;
+}
+
+void ListView::Remove(int index) {
+  CheckLine(index);
+  items_.erase(items_.begin() + (index - 1));
+  // The next line becomes the selected one, the last when there is none behind.
+  if (selected_ > index) --selected_;
+  selected_ = std::min(selected_, static_cast<int>(items_.size()));
+  visibleLine_ = std::clamp(visibleLine_, 1, std::max(1, static_cast<int>(items_.size())));
+  Changed(Aspect::Items);
+}
+
+void ListView::Clear() {
+  Touch();
+  items_.clear();
+  selected_ = 0;
+  visibleLine_ = 1;
+  Changed(Aspect::Items);
+}
+
+int ListView::SelectedItem() const {
+  Touch();
+  return selected_;
+}
+
+void ListView::Select(int index) {
+  if (index != 0) CheckLine(index);
+  selected_ = index;
+  Changed(Aspect::Selection);
+}
+
+void ListView::EnsureVisible(int index) {
+  CheckLine(index);
+  visibleLine_ = index;
+  Changed(Aspect::Selection);
+}
+
+void ListView::ClickItem(int index) {
+  Select(index);
+  const std::shared_ptr<ListItem> line = SharedItem(index);
+  ItemClick.Fire(*line);
+  if (Owner().IsLoaded()) Click.Fire();
+}
+
+void ListView::MoveTo(int index) {
+  CheckLine(index);
+  if (selected_ == index) return;
+  Select(index);
+  EnsureVisible(index);
+  const std::shared_ptr<ListItem> line = SharedItem(index);
+  ItemClick.Fire(*line);
+}
+
+bool ListView::NavigationKey(int keyCode) {
+  int target = selected_;
+  switch (keyCode) {
+    case kKeyUp:
+      target -= 1;
+      break;
+    case kKeyDown:
+      target += 1;
+      break;
+    case kKeyPageUp:
+      target -= kPageLines;
+      break;
+    case kKeyPageDown:
+      target += kPageLines;
+      break;
+    case kKeyHome:
+      target = 1;
+      break;
+    case kKeyEnd:
+      target = Count();
+      break;
+    default:
+      return false;
+  }
+  if (Count() > 0) MoveTo(std::clamp(target, 1, Count()));
+  return true;
+}
+
+void ListView::CheckItem(int index, bool checked) {
+  const std::shared_ptr<ListItem> line = SharedItem(index);
+  line->SetChecked(checked);
+  ItemCheck.Fire(*line);
+}
+
+void ListView::Reset() {
+  Control::Reset();
+  columns_.clear();
+  items_.clear();
+  checkBoxes_ = false;
+  selected_ = 0;
+  visibleLine_ = 1;
+}
+
+}  // namespace controls
