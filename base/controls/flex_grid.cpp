@@ -1,0 +1,485 @@
+#include "base/controls/flex_grid.h"
+
+#include <algorithm>
+
+#include "base/controls/keys.h"
+#include "base/vb/error.h"
+#include "base/vb/text.h"
+
+namespace controls {
+
+namespace {
+
+constexpr long kBadRow = 30009;
+constexpr long kBadCol = 30010;
+constexpr long kLastDataRow = 30015;
+constexpr int kDefaultColWidth = 960;  // twips
+/// Width of a heading: so much a character, and a margin on both sides together.
+constexpr int kCharacterWidth = 105;
+constexpr int kHeadingMargin = 120;
+/// How far a page key goes; the model does not know how many rows a desktop shows.
+constexpr long kPageRows = 10;
+
+[[noreturn]] void RaiseRow() {
+  vb::Raise(kBadRow, "Invalid Row value");
+}
+[[noreturn]] void RaiseCol() {
+  vb::Raise(kBadCol, "Invalid Col value");
+}
+std::size_t At(long index) {
+  return static_cast<std::size_t>(index);
+}
+const std::string kNoText;
+
+}  // namespace
+
+long FlexGrid::Rows() const {
+  Touch();
+  return static_cast<long>(rows_.size());
+}
+
+long FlexGrid::Cols() const {
+  Touch();
+  return static_cast<long>(columns_.size());
+}
+
+void FlexGrid::SetRows(long rows) {
+  if (rows < 0) RaiseRow();
+  const bool hadNone = Rows() <= fixedRows_;
+  rows_.resize(At(rows));
+  KeepCurrentInside();
+  CurrentIntoData(hadNone);
+  Changed(Aspect::Items);
+}
+
+void FlexGrid::SetCols(long cols) {
+  if (cols < 0) RaiseCol();
+  Touch();
+  columns_.resize(At(cols));
+  for (GridRow& row : rows_) {
+    if (row.cells.size() > columns_.size()) row.cells.resize(columns_.size());
+    if (row.colors) row.colors->resize(columns_.size());
+  }
+  KeepCurrentInside();
+  Changed(Aspect::Layout);
+}
+
+long FlexGrid::FixedRows() const {
+  Touch();
+  return fixedRows_;
+}
+
+void FlexGrid::SetFixedRows(long rows) {
+  if (rows < 0 || rows > Rows()) RaiseRow();
+  fixedRows_ = rows;
+  if (row_ < fixedRows_ && fixedRows_ < Rows()) MoveCurrent(fixedRows_, col_);
+  topRow_ = std::max(topRow_, fixedRows_);
+  Changed(Aspect::Layout);
+}
+
+long FlexGrid::FixedCols() const {
+  Touch();
+  return fixedCols_;
+}
+
+void FlexGrid::SetFixedCols(long cols) {
+  if (cols < 0 || cols > Cols()) RaiseCol();
+  fixedCols_ = cols;
+  if (col_ < fixedCols_ && fixedCols_ < Cols()) MoveCurrent(row_, fixedCols_);
+  Changed(Aspect::Layout);
+}
+
+long FlexGrid::Row() const {
+  Touch();
+  return row_;
+}
+
+long FlexGrid::Col() const {
+  Touch();
+  return col_;
+}
+
+void FlexGrid::SetRow(long row) {
+  if (row < 0 || row >= Rows()) RaiseRow();
+  MoveCurrent(row, col_);
+}
+
+void FlexGrid::SetCol(long col) {
+  if (col < 0 || col >= Cols()) RaiseCol();
+  MoveCurrent(row_, col);
+}
+
+void FlexGrid::MoveCurrent(long row, long col) {
+  const bool moves = row != row_ || col != col_;
+  if (!moves && rowSel_ == row && colSel_ == col) return;
+  row_ = rowSel_ = row;
+  col_ = colSel_ = col;
+  Changed(Aspect::Selection);
+  if (moves) RowColChange.Fire();
+}
+
+void FlexGrid::MoveSelection(long rowSel, long colSel) {
+  if (rowSel == rowSel_ && colSel == colSel_) return;
+  rowSel_ = rowSel;
+  colSel_ = colSel;
+  Changed(Aspect::Selection);
+  SelChange.Fire();
+}
+
+void FlexGrid::KeepCurrentInside() {
+  const long lastRow = std::max(0L, static_cast<long>(rows_.size()) - 1);
+  const long lastCol = std::max(0L, static_cast<long>(columns_.size()) - 1);
+  topRow_ = std::min(topRow_, lastRow);
+  rowSel_ = std::min(rowSel_, lastRow);
+  colSel_ = std::min(colSel_, lastCol);
+  if (row_ > lastRow || col_ > lastCol) MoveCurrent(std::min(row_, lastRow), std::min(col_, lastCol));
+}
+
+void FlexGrid::CurrentIntoData(bool hadNone) {
+  if (!hadNone || static_cast<long>(rows_.size()) <= fixedRows_) return;
+  row_ = rowSel_ = topRow_ = fixedRows_;
+}
+
+long FlexGrid::RowSel() const {
+  Touch();
+  return rowSel_;
+}
+
+long FlexGrid::ColSel() const {
+  Touch();
+  return colSel_;
+}
+
+void FlexGrid::SetRowSel(long row) {
+  if (row < 0 || row >= Rows()) RaiseRow();
+  MoveSelection(row, colSel_);
+}
+
+void FlexGrid::SetColSel(long col) {
+  if (col < 0 || col >= Cols()) RaiseCol();
+  MoveSelection(rowSel_, col);
+}
+
+long FlexGrid::TopRow() const {
+  Touch();
+  return topRow_;
+}
+
+void FlexGrid::SetTopRow(long row) {
+  if (row < 0 || row >= Rows()) RaiseRow();
+  topRow_ = row;
+  Changed(Aspect::Selection);
+}
+
+void FlexGrid::CheckCell(long row, long col) const {
+  if (row < 0 || row >= Rows() || col < 0 || col >= Cols()) vb::Raise(vb::kInvalidPropertyIndex, "Subscript out of range");
+}
+
+const std::string& FlexGrid::CellText(const GridRow& row, long col) const {
+  return At(col) < row.cells.size() ? row.cells[At(col)] : kNoText;
+}
+
+const std::string& FlexGrid::TextMatrix(long row, long col) const {
+  CheckCell(row, col);
+  return CellText(rows_[At(row)], col);
+}
+
+void FlexGrid::SetTextMatrix(long row, long col, std::string_view text) {
+  CheckCell(row, col);
+  std::vector<std::string>& cells = rows_[At(row)].cells;
+  if (At(col) >= cells.size()) cells.resize(columns_.size());
+  cells[At(col)] = text;
+  Changed(Aspect::Items);
+}
+
+const std::string& FlexGrid::Text() const {
+  return TextMatrix(row_, col_);
+}
+
+void FlexGrid::SetText(std::string_view text) {
+  SetTextMatrix(row_, col_, text);
+}
+
+FlexGrid::GridRow FlexGrid::RowOf(std::string_view tabSeparated) {
+  GridRow row;
+  row.cells = vb::Split(tabSeparated, "\t");
+  if (row.cells.size() > columns_.size()) row.cells.resize(columns_.size());
+  return row;
+}
+
+void FlexGrid::AddItem(std::string_view tabSeparated, long index) {
+  const long count = Rows();
+  if (index < -1 || index > count) RaiseRow();
+  GridRow row = RowOf(tabSeparated);
+  rows_.insert(rows_.begin() + (index < 0 ? count : index), std::move(row));
+  CurrentIntoData(count <= fixedRows_);
+  Changed(Aspect::Items);
+}
+
+void FlexGrid::AppendRow(std::vector<std::string>&& cells) {
+  const bool hadNone = Rows() <= fixedRows_;
+  if (cells.size() > columns_.size()) columns_.resize(cells.size());
+  rows_.emplace_back().cells = std::move(cells);
+  CurrentIntoData(hadNone);
+  Changed(Aspect::Items);
+}
+
+void FlexGrid::ReserveRows(long rows) {
+  Touch();
+  rows_.reserve(At(std::max(0L, rows)));
+}
+
+void FlexGrid::RemoveItem(long row) {
+  if (row < 0 || row >= Rows()) RaiseRow();
+  if (row >= fixedRows_ && Rows() - fixedRows_ <= 1) vb::Raise(kLastDataRow, "Cannot remove last non-fixed row");
+  rows_.erase(rows_.begin() + row);
+  KeepCurrentInside();
+  Changed(Aspect::Items);
+}
+
+void FlexGrid::Clear() {
+  Touch();
+  for (GridRow& row : rows_) row = GridRow();
+  Changed(Aspect::Items);
+}
+
+void FlexGrid::SetFormatString(std::string_view format) {
+  Touch();
+  formatString_ = format;
+  if (format.empty()) return;
+  const std::vector<std::string> parts = vb::Split(format, "|");
+  if (parts.size() > columns_.size()) columns_.resize(parts.size());
+  if (rows_.empty()) rows_.resize(1);
+  for (std::size_t col = 0; col < parts.size(); ++col) {
+    std::string_view text = parts[col];
+    GridColumn& column = columns_[col];
+    if (!text.empty() && (text[0] == '<' || text[0] == '^' || text[0] == '>')) {
+      column.alignment = text[0] == '<' ? GridAlignment::Left : text[0] == '^' ? GridAlignment::Center : GridAlignment::Right;
+      text.remove_prefix(1);
+    }
+    // Blanks behind the mark and the text widen the column; the heading itself stands without them.
+    if (!text.empty()) column.width = static_cast<int>(vb::Len(text)) * kCharacterWidth + kHeadingMargin;
+    SetTextMatrix(0, static_cast<long>(col), vb::Trim(text));
+  }
+  Changed(Aspect::Layout);
+}
+
+int FlexGrid::ColWidth(long col) const {
+  if (col < 0 || col >= Cols()) RaiseCol();
+  const int width = columns_[At(col)].width;
+  return width < 0 ? kDefaultColWidth : width;
+}
+
+void FlexGrid::SetColWidth(long col, int width) {
+  if (col < 0 || col >= Cols()) RaiseCol();
+  columns_[At(col)].width = width;
+  Changed(Aspect::Layout);
+}
+
+GridAlignment FlexGrid::ColAlignment(long col) const {
+  if (col < 0 || col >= Cols()) RaiseCol();
+  return columns_[At(col)].alignment;
+}
+
+void FlexGrid::SetColAlignment(long col, GridAlignment alignment) {
+  if (col < 0 || col >= Cols()) RaiseCol();
+  columns_[At(col)].alignment = alignment;
+  Changed(Aspect::Layout);
+}
+
+Color FlexGrid::CellForeColor(long row, long col) const {
+  CheckCell(row, col);
+  const GridRow& cells = rows_[At(row)];
+  const Color own = cells.colors ? (*cells.colors)[At(col)].fore : kDefaultColor;
+  return own == kDefaultColor ? cells.rowFore : own;
+}
+
+FlexGrid::CellColors& FlexGrid::ColorsOf(long row, long col) {
+  CheckCell(row, col);
+  auto& colors = rows_[At(row)].colors;
+  if (!colors) colors = std::make_unique<std::vector<CellColors>>();
+  colors->resize(columns_.size());
+  return (*colors)[At(col)];
+}
+
+void FlexGrid::SetCellForeColor(long row, long col, Color color) {
+  CheckCell(row, col);
+  GridRow& cells = rows_[At(row)];
+  // A cell that goes back to the default inside a coloured row: the row's colour becomes that of its other cells.
+  if (const Color whole = std::exchange(cells.rowFore, kDefaultColor); whole != kDefaultColor) {
+    for (long other = 0; other < Cols(); ++other) {
+      if (CellColors& colors = ColorsOf(row, other); colors.fore == kDefaultColor) colors.fore = whole;
+    }
+  }
+  if (color != kDefaultColor || cells.colors) ColorsOf(row, col).fore = color;
+  Changed(Aspect::Colors);
+}
+
+void FlexGrid::SetRowForeColor(long row, Color color) {
+  CheckCell(row, 0);
+  GridRow& cells = rows_[At(row)];
+  cells.rowFore = color;
+  if (cells.colors) {
+    for (CellColors& colors : *cells.colors) colors.fore = kDefaultColor;
+  }
+  Changed(Aspect::Colors);
+}
+
+Color FlexGrid::CellBackColor(long row, long col) const {
+  CheckCell(row, col);
+  const GridRow& cells = rows_[At(row)];
+  return cells.colors ? (*cells.colors)[At(col)].back : kDefaultColor;
+}
+
+void FlexGrid::SetCellBackColor(long row, long col, Color color) {
+  CheckCell(row, col);
+  if (color != kDefaultColor || rows_[At(row)].colors) ColorsOf(row, col).back = color;
+  Changed(Aspect::Colors);
+}
+
+Color FlexGrid::BackColorSel() const {
+  Touch();
+  return backColorSel_;
+}
+
+void FlexGrid::SetBackColorSel(Color color) {
+  Touch();
+  backColorSel_ = color;
+  Changed(Aspect::Colors);
+}
+
+Color FlexGrid::ForeColorSel() const {
+  Touch();
+  return foreColorSel_;
+}
+
+void FlexGrid::SetForeColorSel(Color color) {
+  Touch();
+  foreColorSel_ = color;
+  Changed(Aspect::Colors);
+}
+
+std::string FlexGrid::Clip() const {
+  Touch();
+  std::string clip;
+  const auto [left, right] = std::minmax(col_, colSel_);
+  const auto [top, bottom] = std::minmax(row_, rowSel_);
+  for (long row = top; row <= bottom; ++row) {
+    if (row > top) clip += '\r';
+    for (long col = left; col <= right; ++col) {
+      if (col > left) clip += '\t';
+      clip += TextMatrix(row, col);
+    }
+  }
+  return clip;
+}
+
+void FlexGrid::SetClip(std::string_view text) {
+  Touch();
+  if (text.empty()) return;
+  const long left = std::min(col_, colSel_);
+  const long right = std::max(col_, colSel_);
+  const long bottom = std::max(row_, rowSel_);
+  long row = std::min(row_, rowSel_);
+  for (const std::string& line : vb::Split(text, "\r")) {
+    if (row > bottom) return;
+    long col = left;
+    for (const std::string& cell : vb::Split(line, "\t")) {
+      if (col > right) break;
+      SetTextMatrix(row, col++, cell);
+    }
+    ++row;
+  }
+}
+
+void FlexGrid::ClickCell(long row, long col) {
+  CheckCell(row, col);
+  mouseRow_ = row;
+  mouseCol_ = col;
+  MoveCurrent(row, col);
+  Click.Fire();
+}
+
+void FlexGrid::SelectRange(long firstRow, long lastRow) {
+  CheckCell(firstRow, 0);
+  CheckCell(lastRow, 0);
+  MoveCurrent(firstRow, std::min(fixedCols_, Cols() - 1));
+  MoveSelection(lastRow, Cols() - 1);
+}
+
+void FlexGrid::MoveMouse(long row, long col) {
+  CheckCell(row, col);
+  mouseRow_ = row;
+  mouseCol_ = col;
+  MouseMove.Fire();
+}
+
+void FlexGrid::ScrollTo(long row) {
+  if (row < topRow_) {
+    topRow_ = row;
+  } else if (row >= topRow_ + kPageRows) {
+    topRow_ = row - kPageRows + 1;
+  }
+}
+
+bool FlexGrid::NavigationKey(int keyCode, int shift) {
+  if (Rows() <= fixedRows_ || Cols() <= fixedCols_) return false;
+  const bool extend = (shift & kShift) != 0;
+  const bool ctrl = (shift & kCtrl) != 0;
+  long row = extend ? rowSel_ : row_;
+  long col = extend ? colSel_ : col_;
+  switch (keyCode) {
+    case kKeyUp:
+      row -= 1;
+      break;
+    case kKeyDown:
+      row += 1;
+      break;
+    case kKeyLeft:
+      col -= 1;
+      break;
+    case kKeyRight:
+      col += 1;
+      break;
+    case kKeyPageUp:
+      row -= kPageRows;
+      break;
+    case kKeyPageDown:
+      row += kPageRows;
+      break;
+    case kKeyHome:
+      col = fixedCols_;
+      if (ctrl) row = fixedRows_;
+      break;
+    case kKeyEnd:
+      col = Cols() - 1;
+      if (ctrl) row = Rows() - 1;
+      break;
+    default:
+      return false;
+  }
+  row = std::clamp(row, fixedRows_, Rows() - 1);
+  col = std::clamp(col, fixedCols_, Cols() - 1);
+  ScrollTo(row);
+  if (extend) {
+    MoveSelection(row, col);
+  } else {
+    MoveCurrent(row, col);
+  }
+  return true;
+}
+
+void FlexGrid::Reset() {
+  Control::Reset();
+  rows_.clear();
+  rows_.resize(2);
+  columns_.assign(2, GridColumn());
+  fixedRows_ = fixedCols_ = 1;
+  row_ = col_ = rowSel_ = colSel_ = topRow_ = 1;
+  mouseRow_ = mouseCol_ = 0;
+  formatString_.clear();
+  backColorSel_ = kHighlight;
+  foreColorSel_ = kHighlightText;
+}
+
+}  // namespace controls

@@ -1,0 +1,134 @@
+// Sorting of whole rows. Each key is read once from its cell; the rows move once, at the end.
+
+#include <algorithm>
+#include <numeric>
+
+#include "base/controls/flex_grid.h"
+#include "base/vb/error.h"
+#include "base/vb/letter_case.h"
+#include "base/vb/number.h"
+#include "base/vb/text.h"
+
+namespace controls {
+
+namespace {
+
+enum class KeyKind { Generic, Number, Text };
+
+/// The keys of one column, for the rows in their order before sorting.
+struct KeyColumn {
+  KeyKind kind = KeyKind::Text;
+  std::vector<double> numbers;
+  std::vector<std::string> texts;
+  std::vector<char> isNumber;  // generic keys alone
+};
+
+/// Comparing folded texts byte by byte orders like a comparison without regard to case.
+std::string Folded(std::string_view text) {
+  std::string folded;
+  folded.reserve(text.size());
+  for (std::size_t offset = 0; offset < text.size();) {
+    vb::AppendCharacter(folded, vb::FoldCharacter(vb::NextCharacter(text, offset)));
+  }
+  return folded;
+}
+
+void AddGenericKey(KeyColumn& keys, const std::string& text) {
+  const bool number = vb::IsNumeric(text);
+  keys.isNumber.push_back(number ? 1 : 0);
+  keys.numbers.push_back(number ? vb::CDbl(text) : 0);
+  keys.texts.push_back(Folded(text));
+}
+
+/// A generic column of numbers alone, or without any, needs no look at each pair.
+void Simplify(KeyColumn& keys) {
+  const auto numbers = std::count(keys.isNumber.begin(), keys.isNumber.end(), 1);
+  if (numbers == 0) keys.kind = KeyKind::Text;
+  if (static_cast<std::size_t>(numbers) == keys.isNumber.size()) keys.kind = KeyKind::Number;
+}
+
+int Compare(const KeyColumn& keys, std::size_t a, std::size_t b) {
+  if (keys.kind == KeyKind::Number || (keys.kind == KeyKind::Generic && keys.isNumber[a] && keys.isNumber[b])) {
+    return keys.numbers[a] < keys.numbers[b] ? -1 : keys.numbers[b] < keys.numbers[a] ? 1 : 0;
+  }
+  return keys.texts[a].compare(keys.texts[b]);
+}
+
+template <class Key>
+void SortBy(std::vector<std::size_t>& order, const std::vector<Key>& keys, bool descending) {
+  // The keys travel with the row numbers, so that comparing needs no detour.
+  std::vector<std::pair<Key, std::size_t>> pairs;
+  pairs.reserve(order.size());
+  for (const std::size_t row : order) pairs.emplace_back(keys[row], row);
+  if (descending) {
+    std::stable_sort(pairs.begin(), pairs.end(), [](const auto& a, const auto& b) { return b.first < a.first; });
+  } else {
+    std::stable_sort(pairs.begin(), pairs.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  }
+  for (std::size_t place = 0; place < order.size(); ++place) order[place] = pairs[place].second;
+}
+
+void SortOrder(std::vector<std::size_t>& order, const std::vector<KeyColumn>& columns, bool descending) {
+  if (columns.size() == 1 && columns.front().kind == KeyKind::Number) return SortBy(order, columns.front().numbers, descending);
+  if (columns.size() == 1 && columns.front().kind == KeyKind::Text) {
+    const std::vector<std::string>& texts = columns.front().texts;
+    return SortBy(order, std::vector<std::string_view>(texts.begin(), texts.end()), descending);
+  }
+  std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+    for (const KeyColumn& keys : columns) {
+      const int result = Compare(keys, a, b);
+      if (result != 0) return descending ? result > 0 : result < 0;
+    }
+    return false;
+  });
+}
+
+}  // namespace
+
+FlexGrid::RowRange FlexGrid::SortedRows() const {
+  const long last = static_cast<long>(rows_.size()) - 1;
+  if (row_ == rowSel_) return {fixedRows_, last};
+  const auto [top, bottom] = std::minmax(row_, rowSel_);
+  return {std::max(top, fixedRows_), std::min(bottom, last)};
+}
+
+void FlexGrid::Sort(GridSort kind) {
+  Touch();
+  if (kind == GridSort::None) return;
+  if (kind < GridSort::None || kind > GridSort::TextDescending) vb::Raise(vb::kInvalidPropertyValue);
+  const auto [first, last] = SortedRows();
+  if (last <= first || columns_.empty()) return;
+  const auto count = static_cast<std::size_t>(last - first + 1);
+  const auto begin = rows_.begin() + first;
+
+  std::vector<KeyColumn> columns;
+  for (long col = std::min(col_, colSel_); col <= std::max(col_, colSel_); ++col) {
+    KeyColumn& keys = columns.emplace_back();
+    for (auto row = begin; row != begin + static_cast<long>(count); ++row) {
+      const std::string& text = CellText(*row, col);
+      if (kind <= GridSort::GenericDescending) {
+        AddGenericKey(keys, text);
+      } else if (kind <= GridSort::NumericDescending) {
+        keys.numbers.push_back(vb::Val(text));
+      } else {
+        keys.texts.push_back(kind <= GridSort::TextNoCaseDescending ? Folded(text) : text);
+      }
+    }
+    keys.kind = kind <= GridSort::GenericDescending   ? KeyKind::Generic
+                : kind <= GridSort::NumericDescending ? KeyKind::Number
+                                                      : KeyKind::Text;
+    if (keys.kind == KeyKind::Generic) Simplify(keys);
+  }
+
+  std::vector<std::size_t> order(count);
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  SortOrder(order, columns, static_cast<int>(kind) % 2 == 0);
+
+  std::vector<GridRow> sorted;
+  sorted.reserve(count);
+  for (const std::size_t row : order) sorted.push_back(std::move(begin[static_cast<long>(row)]));
+  std::move(sorted.begin(), sorted.end(), begin);
+  Changed(Aspect::Items);
+}
+
+}  // namespace controls
