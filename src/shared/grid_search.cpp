@@ -38,12 +38,9 @@ class TypedText {
   double number_ = 0;
 };
 
-/// The generic order: numbers by value, everything else as text; numbers stand first.
+/// The grid's generic order: two numbers by value, anything else as text without regard to case.
 bool InGenericOrder(std::string_view above, std::string_view below) {
-  const bool aboveIsNumber = vb::IsNumeric(above);
-  const bool belowIsNumber = vb::IsNumeric(below);
-  if (aboveIsNumber && belowIsNumber) return vb::CDbl(above) <= vb::CDbl(below);
-  if (aboveIsNumber != belowIsNumber) return aboveIsNumber;
+  if (vb::IsNumeric(above) && vb::IsNumeric(below)) return vb::CDbl(above) <= vb::CDbl(below);
   return vb::CompareNoCase(above, below) <= 0;
 }
 

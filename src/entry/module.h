@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+
+#include "src/entry/session.h"
+#include "src/register/frm_master.h"
+
+namespace goods {
+
+/// What lives as long as the component is loaded: the session, and the register's one instance, made on first use and reused.
+class Module {
+ public:
+  explicit Module(Services services) : session_(services) {}
+
+  basGoodsRequest& Session() { return session_; }
+  frmMaster& Register() {
+    if (!register_) register_ = std::make_shared<frmMaster>(session_);
+    return *register_;
+  }
+
+ private:
+  basGoodsRequest session_;
+  std::shared_ptr<frmMaster> register_;
+};
+
+}  // namespace goods

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "base/controls/buttons.h"
+#include "base/controls/text_box.h"
+#include "src/shared/module_form.h"
+
+namespace goods {
+
+/// Asks for the reason of a cancellation and leaves it in the session's gStrCancelReason. Cannot be closed without one.
+class frmcancelreason : public ModuleForm {
+ public:
+  explicit frmcancelreason(basGoodsRequest& session);
+
+  controls::Label Label1{*this, "Label1"};
+  controls::TextBox txtcanreason{*this, "txtcanreason"};
+  controls::CommandButton cmdok{*this, "cmdok"};
+
+ protected:
+  void Design() override;
+
+ private:
+  void Form_Load();
+  void Form_Activate();
+  void Form_QueryUnload(bool& cancel, int mode);
+  void txtcanreason_Change();
+  void txtcanreason_KeyUp(int& keyCode, int shift);
+  void txtcanreason_KeyPress(int& character);
+  void cmdok_Click();
+  /// Hands the reason to the session, or asks for one. Whether there was one.
+  bool TakeReason();
+  bool HasReason() const;
+};
+
+}  // namespace goods

@@ -1,0 +1,52 @@
+#include "base/vb/number.h"
+#include "base/vb/text.h"
+#include "src/register/frm_master.h"
+#include "src/shared/grid_search.h"
+
+namespace goods {
+
+void frmMaster::cboColNames_Click() {
+  const int entry = cboColNames.ListIndex();
+  if (entry < 0) return;
+  const controls::Hourglass busy(*this);
+  // Ids grow with the date, so their order is the date's, which the date's text would not give.
+  const bool byDate = vb::InStrNoCase(cboColNames.List(entry), "date") > 0;
+  SortGrid(byDate ? static_cast<long>(kRegisterId) : cboColNames.ItemData(entry));
+}
+
+void frmMaster::SortGrid(long column) {
+  using controls::GridSort;
+  const bool numeric = vb::IsNumeric(CurrentCell(column));
+  const GridSort ascending = numeric ? GridSort::GenericAscending : GridSort::TextAscending;
+  const GridSort descending = numeric ? GridSort::GenericDescending : GridSort::TextDescending;
+  const std::string current = CurrentCell(kRegisterId);
+  const long row = flexMaster.Row();
+
+  flexMaster.SetCol(column);
+  flexMaster.SetRowSel(row);  // one row alone stands for all of them
+  flexMaster.SetColSel(column);
+  flexMaster.Sort(optAscend.Value() ? ascending : descending);
+
+  // The request that was current stays current, wherever the sort put it.
+  long moved = row;
+  for (long line = 1; line < flexMaster.Rows(); ++line) {
+    if (flexMaster.TextMatrix(line, kRegisterId) != current) continue;
+    moved = line;
+    break;
+  }
+  SelectWholeRow(moved);
+  ApplySelectionColor();
+}
+
+void frmMaster::SortDirection_Click() {
+  cboColNames.SetListIndex(-1);
+}
+
+void frmMaster::txtsearch_KeyUp(int&, int) {
+  const int entry = cboSearch.ListIndex();
+  if (entry < 0 || vb::Trim(txtsearch.Text()).empty()) return;
+  SearchInGrid(flexMaster, cboSearch.ItemData(entry), txtsearch.Text());
+  ApplySelectionColor();
+}
+
+}  // namespace goods
