@@ -2,6 +2,7 @@
 
 #include "suite/helpers/cls_common_db.h"
 #include "suite/helpers/cls_common_gen.h"
+#include "suite/helpers/cls_fetch.h"
 #include "suite/helpers/cls_formcolor.h"
 #include "suite/helpers/cls_master_grid_setting.h"
 #include "suite/helpers/cls_user_auditing.h"
@@ -12,6 +13,7 @@ namespace suite {
 void RegisterHelpers(late::ClassRegistry& registry, std::shared_ptr<Surroundings> surroundings) {
   registry.Register("ShopCommon.clsCommonDB", [surroundings] { return std::make_shared<clsCommonDB>(surroundings); });
   registry.Register("ShopCommon.clsCommonGen", [] { return std::make_shared<clsCommonGen>(); });
+  registry.Register("Lookup.clsFetch", [surroundings] { return std::make_shared<clsFetch>(surroundings); });
   registry.Register("Theme.clsFormcolor", [] { return std::make_shared<clsFormcolor>(); });
   registry.Register("Audit.clsUserAuditing", [surroundings] { return std::make_shared<clsUserAuditing>(surroundings); });
   registry.Register("GridPrefs.clsMasterGridSetting",

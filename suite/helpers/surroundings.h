@@ -8,11 +8,12 @@
 
 namespace suite {
 
-/// What the stand-ins share: the desktop they show their windows on, the machine, and the connection last handed to one of them
-/// (grid settings are asked for without one).
+/// What the stand-ins share: the desktop they show their windows on, the machine, what makes data objects, and the connection
+/// last handed to one of them (grid settings are asked for without one).
 struct Surroundings {
   controls::Desktop& desktop;
   controls::Workstation& workstation;
+  late::Factory& factory;  ///< makes recordsets
   std::weak_ptr<late::Object> lastConnection;
 };
 

@@ -1,0 +1,142 @@
+#include "suite/helpers/cls_fetch.h"
+
+#include <algorithm>
+
+#include "base/vb/number.h"
+#include "base/vb/text.h"
+
+namespace suite {
+
+using late::Arguments;
+using late::Value;
+
+namespace {
+
+/// A list of texts, given as an array or as one text with commas.
+std::vector<std::string> Texts(const Value& value) {
+  std::vector<std::string> texts;
+  if (value.IsText()) {
+    for (const std::string& part : vb::Split(value.ToText(), ",")) texts.emplace_back(vb::Trim(part));
+    return texts;
+  }
+  for (const Value& item : value.ToArray()->items) texts.push_back(item.TextOrEmpty());
+  return texts;
+}
+
+/// A property kept as it is put.
+template <class T, class Convert>
+late::Member<clsFetch> Property(std::string_view name, T clsFetch::*member, Convert convert) {
+  return {name, [member](clsFetch& self, Arguments&) { return Value(self.*member); },
+          [member, convert](clsFetch& self, Arguments& arguments) { self.*member = convert(arguments[0]); }};
+}
+
+/// A method of one argument that is kept.
+template <class Keep>
+late::Member<clsFetch> Setter(std::string_view name, Keep keep) {
+  return {name,
+          [keep](clsFetch& self, Arguments& arguments) {
+            keep(self, arguments[0]);
+            return Value();
+          },
+          nullptr, 1, 1};
+}
+
+}  // namespace
+
+const late::MemberTable<clsFetch>& clsFetch::Members() {
+  const auto text = [](const Value& value) { return value.TextOrEmpty(); };
+  const auto number = [](const Value& value) { return value.ToInt32(); };
+  const auto flag = [](const Value& value) { return value.TrueOrFalse(); };
+  static const late::MemberTable<clsFetch> table{
+      {"adocon", [](clsFetch& self, Arguments&) { return Value(self.connection_.Object()); },
+       [](clsFetch& self, Arguments& arguments) {
+         self.connection_ = ado::Connection(arguments[0].ToObject());
+         self.surroundings_->lastConnection = self.connection_.Object();
+       }},
+      Property("strQuery", &clsFetch::strQuery_, text),
+      Property("strMsgboxTitle", &clsFetch::strMsgboxTitle_, text),
+      Property("lngUserID", &clsFetch::lngUserID_, number),
+      Property("InterfaceId", &clsFetch::interfaceId_, number),
+      Property("DataIdentifier", &clsFetch::dataIdentifier_, text),
+      Property("ForcedRefresh", &clsFetch::forcedRefresh_, flag),
+      Property("PreserveData", &clsFetch::preserveData_, flag),
+      Setter("setFetchType", [](clsFetch& self, const Value& value) { self.fetchType_ = value.TextOrEmpty(); }),
+      Setter("setLocationType", [](clsFetch& self, const Value& value) { self.locationType_ = value.TextOrEmpty(); }),
+      Setter("setShopId", [](clsFetch& self, const Value& value) { self.shopId_ = value.ToInt32(); }),
+      {"setRecordSet",
+       [](clsFetch& self, Arguments& arguments) {
+         self.setRecordSet(arguments);
+         return Value();
+       },
+       nullptr, 1, 1},
+      Setter("setFieldNames", [](clsFetch& self, const Value& value) { self.fieldNames_ = Texts(value); }),
+      Setter("setFieldCaptions", [](clsFetch& self, const Value& value) { self.fieldCaptions_ = Texts(value); }),
+      Setter("setFieldWidths",
+             [](clsFetch& self, const Value& value) {
+               self.fieldWidths_.clear();
+               for (const std::string& width : Texts(value)) self.fieldWidths_.push_back(vb::CLng(vb::Val(width)));
+             }),
+      Setter("setDefaultFetchField", [](clsFetch& self, const Value& value) { self.defaultField_ = value.ToInt32(); }),
+      Setter("setInterfaceCaption", [](clsFetch& self, const Value& value) { self.interfaceCaption_ = value.TextOrEmpty(); }),
+      {"Show",
+       [](clsFetch& self, Arguments&) {
+         self.Show();
+         return Value();
+       },
+       nullptr},
+      {"getCancelledStatus", [](clsFetch& self, Arguments&) { return Value(self.cancelled_); }, nullptr},
+  };
+  return table;
+}
+
+void clsFetch::setRecordSet(Arguments& arguments) {
+  const Value& given = arguments[0];
+  const late::ObjectPtr* object = given.If<late::ObjectPtr>();
+  if (object == nullptr || *object == nullptr) {
+    recordset_ = ado::Recordset::Create(surroundings_->factory);
+    arguments.Write(0, recordset_.Object());
+    return;
+  }
+  if (recordset_.Object() != *object) {
+    recordset_ = ado::Recordset(*object);
+    heldIdentifier_.clear();
+  }
+}
+
+bool clsFetch::CanReuseRows() {
+  return !forcedRefresh_ && preserveData_ && heldIdentifier_ == dataIdentifier_ && recordset_.IsOpen() && rows_.Count() > 0;
+}
+
+void clsFetch::LoadRows() {
+  heldIdentifier_.clear();
+  recordset_.CloseIfOpen();
+  recordset_.SetCursorLocation(ado::kUseClient);
+  recordset_.Open(strQuery_, connection_, ado::kStatic, ado::kReadOnly);
+  rows_.Read(recordset_, fieldNames_);
+  heldIdentifier_ = dataIdentifier_;
+}
+
+std::vector<LookupColumn> clsFetch::Columns() const {
+  std::vector<LookupColumn> columns;
+  for (std::size_t field = 0; field < fieldNames_.size(); ++field) {
+    columns.push_back({field < fieldCaptions_.size() ? fieldCaptions_[field] : fieldNames_[field],
+                       field < fieldWidths_.size() ? fieldWidths_[field] : 1440});
+  }
+  return columns;
+}
+
+void clsFetch::Show() {
+  cancelled_ = true;
+  if (!recordset_) recordset_ = ado::Recordset::Create(surroundings_->factory);
+  if (!CanReuseRows()) LoadRows();
+  // What the user typed and sorted last time is not remembered: every showing starts with all rows as they came.
+  if (!window_) window_ = std::make_shared<frmLookup>(surroundings_->desktop);
+  const std::optional<std::size_t> taken =
+      window_->Pick(rows_, Columns(), static_cast<std::size_t>(std::max(defaultField_, 0)), interfaceCaption_, strMsgboxTitle_);
+  if (!taken) return;
+  recordset_.MoveFirst();
+  recordset_.Object()->Call("Move", {static_cast<std::int32_t>(*taken)});
+  cancelled_ = false;
+}
+
+}  // namespace suite

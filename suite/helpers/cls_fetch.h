@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/ado/connection.h"
+#include "base/ado/recordset.h"
+#include "base/late/object.h"
+#include "suite/helpers/frm_lookup.h"
+#include "suite/helpers/surroundings.h"
+
+namespace suite {
+
+/// Stand-in of the suite's item lookup: configured member by member, shown modally. The row taken is the current record of the
+/// recordset it was handed (or made, where it was handed none). Rows are kept from one Show to the next only when PreserveData
+/// says so, for the same data identifier, and unless a refresh is forced.
+class clsFetch : public late::TableObject<clsFetch> {
+ public:
+  explicit clsFetch(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
+
+  static const late::MemberTable<clsFetch>& Members();
+  std::string TypeName() const override { return "clsFetch"; }
+
+ private:
+  void setRecordSet(late::Arguments& arguments);
+  void Show();
+  bool CanReuseRows();
+  void LoadRows();
+  std::vector<LookupColumn> Columns() const;
+
+  std::shared_ptr<Surroundings> surroundings_;
+  ado::Connection connection_;
+  std::string strQuery_;
+  std::string strMsgboxTitle_;
+  std::int32_t lngUserID_ = 0;
+  std::int32_t interfaceId_ = 0;
+  std::string dataIdentifier_;
+  bool forcedRefresh_ = false;
+  bool preserveData_ = false;
+  std::string fetchType_, locationType_, interfaceCaption_;
+  std::int32_t shopId_ = 0;
+  std::int32_t defaultField_ = 0;
+  std::vector<std::string> fieldNames_, fieldCaptions_;
+  std::vector<int> fieldWidths_;
+  ado::Recordset recordset_;
+  bool cancelled_ = true;
+
+  std::shared_ptr<frmLookup> window_;
+  LookupRows rows_;
+  std::string heldIdentifier_;
+};
+
+}  // namespace suite
