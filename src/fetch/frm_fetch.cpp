@@ -1,0 +1,255 @@
+#include "src/fetch/frm_fetch.h"
+
+#include <vector>
+
+#include "base/vb/text.h"
+#include "src/fetch/fetch_queries.h"
+#include "src/fetch/item_type_filter.h"
+#include "src/shared/form_color.h"
+#include "src/shared/grid_search.h"
+#include "src/shared/list_views.h"
+
+namespace goods {
+namespace {
+
+constexpr int kHourglassPointer = 11;
+
+/// The hourglass on the grid. Does not touch a grid whose form was unloaded meanwhile: that would load it again.
+class GridHourglass {
+ public:
+  explicit GridHourglass(controls::FlexGrid& grid) : grid_(grid) { grid_.SetMousePointer(kHourglassPointer); }
+  ~GridHourglass() {
+    if (grid_.Owner().IsLoaded()) grid_.SetMousePointer(0);
+  }
+  GridHourglass(const GridHourglass&) = delete;
+  GridHourglass& operator=(const GridHourglass&) = delete;
+
+ private:
+  controls::FlexGrid& grid_;
+};
+
+std::string LoadHeadings() {
+  return "|<Item Code" + vb::Space(39) + "|< Item Description" + vb::Space(94) + "|<Brand" + vb::Space(50) + "|< Model No" +
+         vb::Space(8) + "|< Part_Code";
+}
+
+std::string FilledHeadings() {
+  return "|Item Code" + vb::Space(39) + "| Item Description" + vb::Space(97) + "|Brand" + vb::Space(50) + "| Model No" +
+         vb::Space(6) + "| Part Code";
+}
+
+std::string EmptyHeadings() {
+  return "|Item Code" + vb::Space(39) + "| Item Description" + vb::Space(62) + "|Brand" + vb::Space(50) + "| Model No" +
+         vb::Space(7) + "| Part Code";
+}
+
+/// A sort column's meaning: the grid columns to sort on.
+struct SortRange {
+  long first;
+  long last;
+};
+
+SortRange SortRangeOf(std::int32_t itemData) {
+  switch (itemData) {
+    case 4:
+      return {1, 2};
+    case 5:
+      return {2, 3};
+    case 6:
+      return {1, 3};
+    case 7:
+      return {5, 5};
+    default:
+      return {itemData, itemData};
+  }
+}
+
+using Rows = std::vector<std::vector<std::string>>;
+
+Rows ReadRows(ado::Recordset& recordset) {
+  Rows rows;
+  ado::ForEachRow(recordset, [&](const late::Array& block, std::size_t record) {
+    std::vector<std::string>& cells = rows.emplace_back();
+    cells.reserve(block.rows);
+    for (std::size_t field = 0; field < block.rows; ++field) cells.push_back(block.At(field, record).TextOrEmpty());
+  });
+  return rows;
+}
+
+}  // namespace
+
+void FrmFetch::Form_Load() {
+  strFetchField_.clear();
+  objCommonDB_ = CommonDb(Session());
+  // The dialog serves without these, too; their absence is reported.
+  Trap("Form_Load", [&] { objCommonGen_ = CommonGen(Session()); });
+  Trap("Form_Load", [&] { Applyformcolor(Session(), *this); });
+  flexMaster.SetFormatString(LoadHeadings());
+  flexMaster.SetColWidth(kItemId, 0);
+  FillLists();
+  GoToLastRow();
+  SelectAllColumns();
+  BuildBaseQuery();
+}
+
+void FrmFetch::FillLists() {
+  for (const auto* field : {"ItemCode", "ItemDescription", "Brand", "ModelNo", "Part_Code"}) cboFetch.AddItem(field);
+  cboColNames.AddItem("ItemCode", 1);
+  cboColNames.AddItem("ItemDescription", 2);
+  cboColNames.AddItem("ItemCode,ItemDescription", 3);  // sorts on column 3, the brand: users know it so
+  cboColNames.AddItem("Part_code", 7);
+  cboSearch.AddItem("ItemCode", kItemCode);
+  cboSearch.AddItem("ItemDescription", kItemDescription);
+  cboSearch.AddItem("Brand", kBrand);
+  cboSearch.AddItem("ModelNo", kModelNo);
+  cboSearch.AddItem("Part_Code", kPartCode);
+}
+
+void FrmFetch::BuildBaseQuery() {
+  basGoodsRequest& session = Session();
+  strFetchQuery_.clear();
+  switch (itemEntry_.SelectedList()) {
+    case ItemListMode::StockOut:
+      session.gStrItemTypeFilter = ListItemTypeFilter(objCommonDB_, session.gIntShopID);
+      strFetchQuery_ = StockOutBaseQuery(session.gStrStockView, session.gStrItemTypeFilter, session.gIntShopID);
+      break;
+    case ItemListMode::AllInShop:
+      strFetchQuery_ = AllItemsBaseQuery(session.gStrItemTypeFilter, session.gIntShopID);
+      break;
+    case ItemListMode::NotInShop:
+      strFetchQuery_ = NotInShopBaseQuery(session.gIntShopID);
+      break;
+    case ItemListMode::InGodownNotInShop:
+      break;  // the procedure brings its own query: it is handed the filter alone
+  }
+}
+
+void FrmFetch::Form_Activate() {
+  objCommonDB_.strTableName("lossettings");
+  const late::Value preferred = objCommonDB_.fnReturnField("defaultfetch", "ShopID=" + std::to_string(Session().gIntShopID));
+  if (!preferred.IsNull() && !preferred.IsEmpty()) objCommonGen_.SelectComboItemByName(cboFetch, preferred.ToText());
+  constexpr int kDescriptionEntry = 1;
+  if (cboFetch.ListIndex() < 0) cboFetch.SetListIndex(kDescriptionEntry);
+  txtFetch.SetFocus();
+}
+
+void FrmFetch::Form_KeyPress(int& character) {
+  if (character != controls::kCharCtrlD) return;
+  character = 0;
+  flexMaster.SetFocus();
+}
+
+void FrmFetch::txtFetch_KeyPress(int& character) {
+  const controls::Hourglass hourglass(*this);
+  const GridHourglass gridHourglass(flexMaster);
+  if (character == controls::kCharApostrophe) character = 0;
+  if (character == controls::kCharReturn) RunFilter();
+}
+
+void FrmFetch::RunFilter() {
+  const std::string text = vb::DoubleApostrophes(vb::Trim(txtFetch.Text()));
+  strFetchField_ = FilterColumn(strFetchField_);
+  // An empty filter lists everything of the mode, also the items without a brand, model or part code.
+  const std::string column = text.empty() ? FilterColumn("ItemDescription") : strFetchField_;
+  // After a database error the text stays in the box as the user gave it, ready for another try.
+  if (!GridPopulate(FilteredQuery(strFetchQuery_, column, text, IsGodownList()))) return;
+  txtFetch.SetText("");
+  SelectAllColumns();
+}
+
+bool FrmFetch::GridPopulate(std::string_view query) {
+  return Trap("GridPopulate", [&] {
+    basGoodsRequest& session = Session();
+    ado::Recordset recordset;
+    if (IsGodownList()) {
+      recordset = session.gAdoCon.Execute(GodownItemsCall(session.gIntShopID, query));
+    } else {
+      recordset = ado::Recordset::Create(session.services.factory);
+      recordset.Open(query, session.gAdoCon);
+    }
+    const long columns = recordset.FieldCount();
+    // Everything is read before the grid is touched: a list that breaks off half-way leaves the old one standing.
+    Rows rows = ReadRows(recordset);
+    recordset.Close();
+
+    flexMaster.SetFormatString(FilledHeadings());
+    if (rows.empty()) {
+      ShowEmptyGrid();
+      return;
+    }
+    flexMaster.SetColWidth(kItemId, 0);
+    flexMaster.SetRows(flexMaster.FixedRows());
+    flexMaster.SetCols(columns);
+    flexMaster.ReserveRows(static_cast<long>(rows.size()) + 1);
+    for (std::vector<std::string>& cells : rows) flexMaster.AppendRow(std::move(cells));
+    GoToLastRow();
+  });
+}
+
+void FrmFetch::ShowEmptyGrid() {
+  flexMaster.SetRows(2);
+  flexMaster.SetCols(1);
+  flexMaster.Clear();
+  flexMaster.SetFormatString(EmptyHeadings());
+  flexMaster.SetColWidth(kItemId, 0);
+}
+
+void FrmFetch::GoToLastRow() {
+  flexMaster.SetRow(flexMaster.Rows() - 1);
+  flexMaster.SetTopRow(flexMaster.Rows() - 1);
+}
+
+void FrmFetch::SelectAllColumns() {
+  flexMaster.SetCol(kItemId);
+  flexMaster.SetColSel(flexMaster.Cols() - 1);
+}
+
+void FrmFetch::txtFetch_KeyUp(int& keyCode, int) {
+  if (keyCode != controls::kKeyUp) return;
+  flexMaster.SetRow(flexMaster.Row());
+  SelectAllColumns();
+  flexMaster.SetRowSel(flexMaster.Rows() - 1);
+  flexMaster.SetFocus();
+}
+
+void FrmFetch::txtsearch_KeyUp(int&, int) {
+  if (cboSearch.ListIndex() < 0 || vb::Trim(txtsearch.Text()).empty()) return;
+  SearchInGrid(flexMaster, cboSearch.ItemData(cboSearch.ListIndex()), txtsearch.Text());
+}
+
+void FrmFetch::cboColNames_Click() {
+  if (cboColNames.ListIndex() < 0) return;
+  const controls::Hourglass hourglass(*this);
+  const SortRange range = SortRangeOf(cboColNames.ItemData(cboColNames.ListIndex()));
+  flexMaster.SetRow(flexMaster.Row());  // gives a selection over several rows up, so that all of them are sorted
+  flexMaster.SetCol(range.first);
+  flexMaster.SetColSel(range.last);
+  flexMaster.Sort(optAscend.Value() ? controls::GridSort::GenericAscending : controls::GridSort::GenericDescending);
+  GoToLastRow();
+  SelectAllColumns();
+}
+
+void FrmFetch::flexMaster_KeyPress(int& character) {
+  if (character == controls::kCharReturn) Confirm();
+}
+
+void FrmFetch::Confirm() {
+  const long row = flexMaster.Row();
+  if (flexMaster.TextMatrix(row, kItemCode).empty()) return;
+  const GridHourglass gridHourglass(flexMaster);
+  PickedItem item{vb::CLng(vb::Val(flexMaster.TextMatrix(row, kItemId))), flexMaster.TextMatrix(row, kItemCode),
+                  flexMaster.TextMatrix(row, kItemDescription), flexMaster.TextMatrix(row, kPartCode)};
+  if (item.itemId > 0) {
+    bool taken = itemEntry_.TakeItemCode(item);
+    if (itemEntry_.SelectedList() == ItemListMode::StockOut) {
+      objCommonDB_.strTableName("aitem where itemid=" + std::to_string(item.itemId));
+      item.partCode = objCommonDB_.fnReturnField("part_code").TextOrEmpty();
+      itemEntry_.TakeStockOutItem(item);
+      taken = true;
+    }
+    if (taken) itemEntry_.FillPackTypeinList(item.itemId);
+  }
+  Unload();
+}
+
+}  // namespace goods

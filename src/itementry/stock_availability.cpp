@@ -1,0 +1,50 @@
+#include "src/itementry/stock_availability.h"
+
+#include <string>
+
+namespace goods {
+namespace {
+
+std::string GodownStockQuery(std::string_view itemId) {
+  return "select isnull(sum(gsstock),0) as TotalStock from vwInquiryGodownStock where gsitemid=" + std::string(itemId);
+}
+
+std::string UnconfirmedDespatchesQuery(std::string_view itemId) {
+  return "select isnull(sum(ddItemGoodQty),0)as DespatchQtyNotCof from meiDespatchToShopDetail"
+         " left outer join meiDespatchToShopHeader on ddDespatchID=dhDespatchID"
+         " where dhCancelled=0 and dhTransFinished=0 and ddItemID=" +
+         std::string(itemId);
+}
+
+std::string IssuedGoodsQuery(std::string_view itemId, std::int16_t departmentId, bool transferFinished) {
+  return "select isnull(sum(INDQty),0) as IssuedGood From ahqIssueNotedetail"
+         " left outer join ahqIssueNoteheader hqinh on INDIssuenoteID=INHIssuenoteID and INHCancelled=0"
+         " left outer join aHqIssueNoteMain hqinm on  INDIssuenoteID = hqinm.INMIssuenoteID and INMCancel=0"
+         " where INHUsed=0 and (hqinm.departmentid is null or hqinm.departmentid=" +
+         std::to_string(departmentId) + ") and INDItemID=" + std::string(itemId) +
+         " and INHTransFinished = " + (transferFinished ? "1" : "0");
+}
+
+double FirstFigure(basGoodsRequest& session, const std::string& query) {
+  ado::Recordset rows = session.gAdoCon.Execute(query);
+  const double figure = rows.Field(0).ToDouble();
+  rows.Close();
+  return figure;
+}
+
+}  // namespace
+
+double GetAvailableQuantity(basGoodsRequest& session, CommonDb& db, std::string_view itemId) {
+  db.strTableName("ashops");
+  const late::Value department = db.fnReturnField("DepartmentID", "ShopID=" + std::to_string(session.gIntShopID));
+  // A shop of no department: only the issue notes that have none either are meant for it. No department has the id 0.
+  const std::int16_t departmentId = department.IsNull() ? std::int16_t{0} : department.ToInt16();
+
+  const double inGodowns = FirstFigure(session, GodownStockQuery(itemId));
+  const double despatched = FirstFigure(session, UnconfirmedDespatchesQuery(itemId));
+  const double issuedFinished = FirstFigure(session, IssuedGoodsQuery(itemId, departmentId, true));
+  const double issuedOpen = FirstFigure(session, IssuedGoodsQuery(itemId, departmentId, false));
+  return inGodowns - (issuedOpen + issuedFinished + despatched);
+}
+
+}  // namespace goods
