@@ -1,0 +1,57 @@
+#include "platform/console/drawing/form_picture.h"
+
+#include <algorithm>
+
+#include "platform/console/drawing/control_pictures.h"
+#include "platform/console/drawing/layout.h"
+
+namespace console {
+namespace {
+
+constexpr int kMostColumns = 96;
+constexpr int kLeastTwipsPerColumn = 80;
+
+int OuterWidth(const controls::Form& form) {
+  int width = form.Width();
+  for (const controls::Control* control : form.Controls()) {
+    if (!control->Container() && control->IsShown()) width = std::max(width, control->Place().left + control->Place().width);
+  }
+  return width;
+}
+
+/// Explains the marks that the picture may hold.
+std::string Legend(const controls::Form& form) {
+  std::string legend;
+  const auto explain = [&](bool used, std::string_view meaning) {
+    if (used) legend.append(legend.empty() ? "" : ", ").append(meaning);
+  };
+  const auto any = [&](auto isMarked) {
+    return std::any_of(form.Controls().begin(), form.Controls().end(), [&](const controls::Control* control) {
+      return control->Kind() != controls::ControlKind::Menu && control->IsShown() && isMarked(*control);
+    });
+  };
+  explain(any([](const controls::Control& control) { return MarkOf(control) == "»"; }), "» has the focus");
+  explain(any([](const controls::Control& control) { return MarkOf(control) == "~"; }), "~ disabled");
+  explain(any([](const controls::Control& control) {
+            const auto* grid = dynamic_cast<const controls::FlexGrid*>(&control);
+            return grid && HasRedRows(*grid);
+          }),
+          "! red");
+  return legend;
+}
+
+}  // namespace
+
+std::vector<std::string> DrawForm(const controls::Form& form) {
+  const int twipsPerColumn = std::max(kLeastTwipsPerColumn, OuterWidth(form) / kMostColumns);
+  const Canvas inside = DrawChildren(form, nullptr, twipsPerColumn);
+  const std::string legend = Legend(form);
+  Canvas sheet;
+  const int width =
+      std::max({inside.Width() + 3, form.Width() / twipsPerColumn + 2, Length(form.Caption()) + 6, Length(legend) + 6});
+  sheet.Box(0, 0, width, inside.Height() + 2, form.Caption(), legend);
+  sheet.Paste(1, 1, inside);
+  return sheet.Lines();
+}
+
+}  // namespace console

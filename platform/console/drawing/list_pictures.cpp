@@ -1,0 +1,101 @@
+#include <algorithm>
+#include <cmath>
+
+#include "platform/console/drawing/control_pictures.h"
+#include "platform/console/drawing/table_picture.h"
+
+namespace console {
+namespace {
+
+constexpr long kLeastRows = 3;
+constexpr long kMostRows = 15;
+
+/// The rows that fit below the headings.
+long RoomFor(const controls::Control& control) {
+  return std::clamp<long>(control.Place().height / kTwipsPerRow - 1, kLeastRows, kMostRows);
+}
+
+int InCharacters(int twips, int twipsPerColumn) {
+  return twips <= 0 ? 0 : std::max(1, (twips + twipsPerColumn / 2) / twipsPerColumn);
+}
+
+Align AlignOf(controls::GridAlignment alignment) {
+  return alignment == controls::GridAlignment::Right    ? Align::Right
+         : alignment == controls::GridAlignment::Center ? Align::Center
+                                                        : Align::Left;
+}
+
+Align AlignOf(controls::ColumnAlignment alignment) {
+  return alignment == controls::ColumnAlignment::Right    ? Align::Right
+         : alignment == controls::ColumnAlignment::Center ? Align::Center
+                                                          : Align::Left;
+}
+
+bool IsRed(const controls::FlexGrid& grid, long row) {
+  return grid.Cols() > 0 && grid.CellForeColor(row, 0) == controls::kRed;
+}
+
+RowWindow ShownRows(const controls::FlexGrid& grid) {
+  return WindowAround(grid.Row(), grid.TopRow(), grid.FixedRows(), grid.Rows() - 1, RoomFor(grid));
+}
+
+std::string GridRowMarks(const controls::FlexGrid& grid, long row) {
+  const auto [low, high] = std::minmax(grid.Row(), grid.RowSel());
+  std::string marks = row >= low && row <= high ? " >" : "  ";
+  return marks + (IsRed(grid, row) ? "!" : " ");
+}
+
+std::string ListLineMarks(const controls::ListView& list, int line) {
+  std::string marks = line == list.SelectedItem() ? " > " : "   ";
+  if (list.CheckBoxes()) marks += list.Item(line).Checked() ? "[x] " : "[ ] ";
+  return marks;
+}
+
+}  // namespace
+
+bool HasRedRows(const controls::FlexGrid& grid) {
+  const RowWindow window = ShownRows(grid);
+  for (long row = window.first; row <= window.last; ++row) {
+    if (IsRed(grid, row)) return true;
+  }
+  return false;
+}
+
+Canvas DrawGrid(const controls::FlexGrid& grid, int columns, int twipsPerColumn) {
+  Table table;
+  table.headingMarks = std::string(MarkOf(grid)) + "  ";
+  for (long col = 0; col < grid.Cols(); ++col) {
+    table.columns.push_back({grid.FixedRows() > 0 && grid.Rows() > 0 ? grid.TextMatrix(0, col) : "",
+                             InCharacters(grid.ColWidth(col), twipsPerColumn), AlignOf(grid.ColAlignment(col))});
+  }
+  const RowWindow window = ShownRows(grid);
+  for (long row = window.first; row <= window.last; ++row) {
+    Table::Row shown{GridRowMarks(grid, row), {}};
+    for (long col = 0; col < grid.Cols(); ++col) shown.cells.push_back(grid.TextMatrix(row, col));
+    table.rows.push_back(std::move(shown));
+  }
+  table.above = window.first - grid.FixedRows();
+  table.below = grid.Rows() - 1 - window.last;
+  return DrawTable(table, columns);
+}
+
+Canvas DrawList(const controls::ListView& list, int columns, int twipsPerColumn) {
+  Table table;
+  table.headingMarks = std::string(MarkOf(list)) + "  " + (list.CheckBoxes() ? "    " : "");
+  for (int index = 1; index <= list.ColumnCount(); ++index) {
+    const controls::ColumnHeader& column = list.Column(index);
+    table.columns.push_back({column.text, InCharacters(column.width, twipsPerColumn), AlignOf(column.alignment)});
+  }
+  const RowWindow window = WindowAround(list.SelectedItem(), list.VisibleLine(), 1, list.Count(), RoomFor(list));
+  for (long line = window.first; line <= window.last; ++line) {
+    const auto number = static_cast<int>(line);
+    Table::Row shown{ListLineMarks(list, number), {list.Item(number).Text()}};
+    for (int sub = 1; sub < list.ColumnCount(); ++sub) shown.cells.push_back(list.Item(number).SubItem(sub));
+    table.rows.push_back(std::move(shown));
+  }
+  table.above = window.first - 1;
+  table.below = list.Count() - window.last;
+  return DrawTable(table, columns);
+}
+
+}  // namespace console
