@@ -28,6 +28,9 @@ void Connection::RollbackTrans() {
 void Connection::SetCommandTimeout(int seconds) {
   Target(object_).Put("CommandTimeout", late::Value(static_cast<std::int32_t>(seconds)));
 }
+int Connection::CommandTimeout() {
+  return Target(object_).Get("CommandTimeout").ToInt32();
+}
 int Connection::State() {
   return Target(object_).Get("State").ToInt32();
 }

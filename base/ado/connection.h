@@ -23,6 +23,7 @@ class Connection {
   void RollbackTrans();
   /// Seconds; 0 waits for ever.
   void SetCommandTimeout(int seconds);
+  int CommandTimeout();
   int State();
 
  private:

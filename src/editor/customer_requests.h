@@ -26,19 +26,20 @@ class CustomerRequests {
   CustomerRequests(basGoodsRequest& session, CommonDb& db, controls::ListView& documents, controls::ListView& lines)
       : session_(session), db_(db), documents_(documents), lines_(lines) {}
 
-  /// Clears the list and shows the documents on offer. A database error leaves the list as it was.
+  /// Shows the documents on offer, unchecked. A database error leaves the list as it was.
   void ShowOnOffer();
-  /// Shows the documents of an existing request, checked, and behind them those on offer; the list stays empty when the request
-  /// has none. Whether it has any.
+  /// Shows the documents of an existing request, checked, and behind them those on offer; the list is empty when the request has
+  /// none. Whether it has any. Everything is read before the list (and with it the form) is touched: a database error leaves
+  /// both as they were.
   bool ShowOwn(std::int32_t requestId);
-  /// Empties the list.
+  /// Empties the list; the request's lines stay.
   void Clear();
-  /// Takes the quantities of every checked document out of the lines again and unchecks it. A database error changes nothing.
+  /// Takes the quantities of the checked documents out of the lines and unchecks them. A database error changes nothing.
   void UncheckAll();
-  /// After a person has checked or unchecked the document: adds its lines, or takes them out. A database error puts the mark
-  /// back and is raised.
+  /// After a person has checked or unchecked the document: adds its quantities to the lines, or takes them out. A database error
+  /// puts the mark back and is raised.
   void TakeChecked(controls::ListItem& document);
-  /// Whether one of the checked documents is a project request.
+  /// Whether a checked invoice is a project request.
   bool IsProjectRequestChecked() const;
 
   /// A document of the list is an invoice unless it has a re-export number.
@@ -48,25 +49,19 @@ class CustomerRequests {
  private:
   struct Document {
     std::string number;
+    std::string reexportNo;  ///< empty for an invoice
     std::int32_t id = 0;
-    bool isReexport = false;
     bool isOwn = false;
   };
-  struct DocumentLine {
-    std::int32_t itemId = 0;
-    std::string description;
-    std::string code;
-    double quantity = 0;
-    std::string remarks;
-    std::string unit;
-  };
+  using Documents = std::vector<Document>;
 
-  std::vector<Document> OwnDocuments(std::int32_t requestId) const;
-  std::vector<Document> DocumentsOnOffer() const;
-  std::vector<DocumentLine> LinesOf(const controls::ListItem& document) const;
-  void Show(const std::vector<Document>& documents);
-  void AddLines(const std::vector<DocumentLine>& documentLines);
-  void TakeOutLines(const std::vector<DocumentLine>& documentLines);
+  void AppendOwn(Documents& documents, std::int32_t requestId) const;
+  void AppendOnOffer(Documents& documents) const;
+  void Show(const Documents& documents);
+  /// The document's lines as (field, record); see the fields beside the queries.
+  late::ArrayPtr LinesOf(const controls::ListItem& document) const;
+  void AddQuantities(const late::Array& documentLines);
+  void TakeOutQuantities(const late::Array& documentLines);
   void RemoveLine(int line);
 
   basGoodsRequest& session_;

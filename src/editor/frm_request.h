@@ -37,13 +37,13 @@ class frmRequest : public ModuleForm {
   controls::OptionButton optporeq{*this, "optporeq"};
   controls::Label lblRemarks{*this, "lblRemarks"};
   controls::TextBox txtRemarks{*this, "txtRemarks"};
-  controls::CheckBox chkcutomerrequest{*this, "chkcutomerrequest"};
 
   // The lines and the customer documents.
   controls::TabControl sstabGoodsReq{*this, "sstabGoodsReq"};
   controls::ListView lvwrequest{*this, "lvwrequest"};
   controls::ListView lvwCustomerReq{*this, "lvwCustomerReq"};
 
+  controls::CheckBox chkcutomerrequest{*this, "chkcutomerrequest"};
   controls::CheckBox chkTransFinished{*this, "chkTransFinished"};
   controls::CommandButton cmdOK{*this, "cmdOK"};
   controls::CommandButton cmdCancel{*this, "cmdCancel"};
@@ -62,9 +62,12 @@ class frmRequest : public ModuleForm {
   std::int32_t lngCurrentLine = 0;
 
   /// The documents that an existing request is linked to, checked, and behind them those on offer. The register's Edit calls it
-  /// before it shows the editor, which it loads. A request without links gets an unticked box and a hidden page. A database error
-  /// is raised, and leaves the editor unloaded: a save without the links would lose them.
+  /// before it shows the editor, which it loads. A request without links gets an unticked box and a hidden page. Database errors
+  /// are raised before the editor is loaded: shown without its links, the request would lose them at the next save.
   void ShowOwnLinks(std::int32_t requestId);
+
+  /// Whether a line of lvwrequest asks for more than 0.
+  bool HasLineWithQuantity() const;
 
  protected:
   void Design() override;
@@ -72,6 +75,7 @@ class frmRequest : public ModuleForm {
  private:
   void DesignHeader();
   void DesignLists();
+  void DesignFooter();
   void DesignMenu();
   void WireEvents();
 
@@ -80,9 +84,9 @@ class frmRequest : public ModuleForm {
   void LoadExistingRequest();
   void Form_Activate();
   void Form_QueryUnload(bool& cancel, int mode);
+  bool IsChanged() const;
 
   void cmdOK_Click();
-  void cmdCancel_Click();
   void chkcutomerrequest_Click();
   void lvwCustomerReq_ItemCheck(controls::ListItem& document);
   void SetBoxQuietly(bool ticked);

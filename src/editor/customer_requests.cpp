@@ -1,0 +1,232 @@
+#include "src/editor/customer_requests.h"
+
+#include <algorithm>
+#include <functional>
+#include <set>
+#include <unordered_map>
+
+#include "base/vb/error.h"
+#include "base/vb/format.h"
+#include "base/vb/text.h"
+#include "src/editor/customer_documents.h"
+#include "src/editor/query_rows.h"
+#include "src/editor/renumbering.h"
+#include "src/shared/request_lines.h"
+
+namespace goods {
+namespace {
+
+/// A quantity as the item list keeps it.
+std::string QuantityText(double quantity) {
+  return vb::Format(quantity, "#0.000");
+}
+
+double QuantityOf(const controls::ListItem& line) {
+  return vb::Val(line.SubItem(kLineQty));
+}
+
+double DocumentQuantity(const late::Array& documentLines, std::size_t record) {
+  const late::Value& quantity = documentLines.At(kDocLineQty, record);
+  return quantity.IsNull() ? 0 : quantity.ToDouble();
+}
+
+/// Equal to the last decimal that is kept: two ways to the same figure may differ in the bits behind it.
+bool SameQuantity(double a, double b) {
+  return QuantityText(a) == QuantityText(b);
+}
+
+/// Where the items are in the list, so that a long document on a long list does not search it for every line. An item that has
+/// several lines is found in the first.
+class LinesByItem {
+ public:
+  explicit LinesByItem(const controls::ListView& lines) {
+    for (int line = lines.Count(); line >= 1; --line) {
+      places_[vb::CLng(vb::Val(lines.Item(line).SubItem(kLineItemId)))].push_back(line);
+    }
+  }
+  /// 0 when the item has no line.
+  int Find(std::int32_t itemId) const {
+    const auto found = places_.find(itemId);
+    return found == places_.end() || found->second.empty() ? 0 : found->second.back();
+  }
+  void Added(std::int32_t itemId, int line) { places_[itemId].push_back(line); }
+  void ForgetFirst(std::int32_t itemId) { places_[itemId].pop_back(); }
+
+ private:
+  std::unordered_map<std::int32_t, std::vector<int>> places_;  ///< the last one is the first line of the item
+};
+
+}  // namespace
+
+bool CustomerRequests::IsInvoice(const controls::ListItem& document) {
+  return vb::Trim(document.SubItem(kDocumentReexportNo)).empty();
+}
+
+std::int32_t CustomerRequests::DocumentId(const controls::ListItem& document) {
+  return vb::CLng(vb::Val(document.SubItem(kDocumentId)));
+}
+
+void CustomerRequests::ShowOnOffer() {
+  Documents documents;
+  AppendOnOffer(documents);
+  Show(documents);
+}
+
+bool CustomerRequests::ShowOwn(std::int32_t requestId) {
+  Documents documents;
+  AppendOwn(documents, requestId);
+  const bool hasOwn = !documents.empty();
+  if (hasOwn) AppendOnOffer(documents);
+  Show(documents);
+  return hasOwn;
+}
+
+void CustomerRequests::AppendOwn(Documents& documents, std::int32_t requestId) const {
+  const std::int32_t shop = session_.gIntShopID;
+  const std::int32_t company = session_.gIntCompanyID;
+  std::set<std::int32_t> invoices;
+  const late::ArrayPtr linked = ReadRows(session_, LinkedInvoicesQuery(requestId, shop, company));
+  for (std::size_t row = 0; row < linked->columns; ++row) {
+    const std::int32_t id = linked->At(kLinkedInvoiceId, row).ToInt32();
+    invoices.insert(id);
+    documents.push_back({linked->At(kLinkedInvoiceNo, row).TextOrEmpty(), "", id, true});
+  }
+  // The next save writes the links anew from the list, so each of them must be in it: re-exports, too, and a document that the
+  // shop no longer has. Where no number can be shown, the id stands for it.
+  const late::ArrayPtr links = ReadRows(session_, LinksQuery(requestId, shop, company));
+  for (std::size_t row = 0; row < links->columns; ++row) {
+    if (const late::Value& reexport = links->At(kLinkReexportId, row); !reexport.IsNull()) {
+      std::string number(vb::Trim(links->At(kLinkReexportNo, row).TextOrEmpty()));
+      if (number.empty()) number = std::to_string(reexport.ToInt32());
+      documents.push_back({number, number, reexport.ToInt32(), true});
+    } else if (const late::Value& invoice = links->At(kLinkInvoiceId, row); !invoice.IsNull()) {
+      const std::int32_t id = invoice.ToInt32();
+      if (!invoices.contains(id)) documents.push_back({std::to_string(id), "", id, true});
+    }
+  }
+}
+
+void CustomerRequests::AppendOnOffer(Documents& documents) const {
+  std::set<std::pair<bool, std::int32_t>> own;
+  for (const Document& document : documents) own.insert({document.reexportNo.empty(), document.id});
+  const late::ArrayPtr rows = ReadRows(session_, DocumentsOnOfferQuery(session_.gIntShopID, session_.gIntCompanyID));
+  for (std::size_t row = 0; row < rows->columns; ++row) {
+    const late::Value& invoiceNo = rows->At(kOfferInvoiceNo, row);
+    std::string reexportNo = rows->At(kOfferReexportNo, row).TextOrEmpty();
+    const std::int32_t id = rows->At(kOfferId, row).ToInt32();
+    // A cancelled request that is looked at holds its documents no longer: they are both its own and on offer.
+    if (own.contains({reexportNo.empty(), id})) continue;
+    std::string number = invoiceNo.IsNull() ? reexportNo : invoiceNo.TextOrEmpty();
+    documents.push_back({std::move(number), std::move(reexportNo), id, false});
+  }
+}
+
+void CustomerRequests::Show(const Documents& documents) {
+  documents_.Clear();
+  for (const Document& document : documents) {
+    controls::ListItem& entry = documents_.Add(std::to_string(documents_.Count() + 1));
+    entry.SetSubItem(kDocumentRequestNo, document.number);
+    entry.SetSubItem(kDocumentId, std::to_string(document.id));
+    entry.SetSubItem(kDocumentReexportNo, document.reexportNo);
+    entry.SetChecked(document.isOwn);
+  }
+}
+
+void CustomerRequests::Clear() {
+  documents_.Clear();
+}
+
+void CustomerRequests::UncheckAll() {
+  std::vector<std::pair<controls::ListItem*, late::ArrayPtr>> checked;
+  for (int entry = 1; entry <= documents_.Count(); ++entry) {
+    controls::ListItem& document = documents_.Item(entry);
+    if (document.Checked()) checked.emplace_back(&document, LinesOf(document));
+  }
+  for (auto& [document, documentLines] : checked) {
+    TakeOutQuantities(*documentLines);
+    document->SetChecked(false);
+  }
+}
+
+void CustomerRequests::TakeChecked(controls::ListItem& document) {
+  late::ArrayPtr documentLines;
+  try {
+    documentLines = LinesOf(document);
+  } catch (const vb::RunTimeError&) {
+    document.SetChecked(!document.Checked());
+    throw;
+  }
+  if (document.Checked()) {
+    AddQuantities(*documentLines);
+  } else {
+    TakeOutQuantities(*documentLines);
+  }
+}
+
+late::ArrayPtr CustomerRequests::LinesOf(const controls::ListItem& document) const {
+  const std::int32_t id = DocumentId(document);
+  return ReadRows(session_,
+                  IsInvoice(document) ? InvoiceLinesQuery(id, session_.gIntShopID) : ReexportLinesQuery(id, session_.gIntShopID));
+}
+
+void CustomerRequests::AddQuantities(const late::Array& documentLines) {
+  LinesByItem places(lines_);
+  for (std::size_t record = 0; record < documentLines.columns; ++record) {
+    const std::int32_t itemId = documentLines.At(kDocLineItemId, record).ToInt32();
+    const double quantity = DocumentQuantity(documentLines, record);
+    if (const int place = places.Find(itemId)) {
+      controls::ListItem& line = lines_.Item(place);
+      line.SetSubItem(kLineQty, QuantityText(QuantityOf(line) + quantity));
+      continue;
+    }
+    controls::ListItem& line = lines_.Add(std::to_string(lines_.Count() + 1));
+    line.SetSubItem(kLineItemCode, documentLines.At(kDocLineCode, record).TextOrEmpty());
+    line.SetSubItem(kLineItemName, documentLines.At(kDocLineName, record).TextOrEmpty());
+    line.SetSubItem(kLineQty, QuantityText(quantity));
+    line.SetSubItem(kLineItemId, std::to_string(itemId));
+    line.SetSubItem(kLineRemarks, documentLines.At(kDocLineRemarks, record).TextOrEmpty());
+    line.SetSubItem(kLineUnit, documentLines.At(kDocLineUnit, record).TextOrEmpty());
+    places.Added(itemId, lines_.Count());
+  }
+}
+
+void CustomerRequests::TakeOutQuantities(const late::Array& documentLines) {
+  LinesByItem places(lines_);
+  std::set<int, std::greater<>> doomed;  // from the last one up, so that the numbers of the others stay right
+  for (std::size_t record = 0; record < documentLines.columns; ++record) {
+    const std::int32_t itemId = documentLines.At(kDocLineItemId, record).ToInt32();
+    const double quantity = DocumentQuantity(documentLines, record);
+    const int place = places.Find(itemId);
+    if (place == 0) continue;
+    controls::ListItem& line = lines_.Item(place);
+    if (SameQuantity(QuantityOf(line), quantity)) {
+      doomed.insert(place);
+      places.ForgetFirst(itemId);
+    } else {
+      // Changed by hand in between, it may well become negative: the user then sees what is wrong.
+      line.SetSubItem(kLineQty, QuantityText(QuantityOf(line) - quantity));
+    }
+  }
+  for (const int line : doomed) RemoveLine(line);
+  if (!doomed.empty()) RenumberLines(lines_);
+}
+
+void CustomerRequests::RemoveLine(int line) {
+  // The helper removes the selected line; the user's own selection moves along with its line.
+  const int selected = lines_.SelectedItem();
+  lines_.Select(line);
+  db_.fnDeleteListview(lines_, line, lines_.Count());
+  if (selected != line) lines_.Select(selected > line ? selected - 1 : selected);
+}
+
+bool CustomerRequests::IsProjectRequestChecked() const {
+  for (int entry = 1; entry <= documents_.Count(); ++entry) {
+    const controls::ListItem& document = documents_.Item(entry);
+    if (!document.Checked() || !IsInvoice(document)) continue;
+    const std::string query = ProjectRequestQuery(DocumentId(document), session_.gIntShopID, session_.gIntCompanyID);
+    if (ReadRows(session_, query)->columns > 0) return true;
+  }
+  return false;
+}
+
+}  // namespace goods

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "base/controls/list_view.h"
+#include "src/entry/session.h"
+#include "src/shared/common_db.h"
+
+namespace goods {
+
+/// Appends every active item of the shop whose stock is at or below its reorder level, with its reorder quantity, to the editor's
+/// item list. An item without a stock row is not proposed. Database errors are raised; the lines appended so far stay.
+void ProposeStockOutItems(basGoodsRequest& session, CommonDb& db, controls::ListView& lines);
+
+}  // namespace goods
