@@ -32,6 +32,6 @@ class ShopDatabase {
   }
 
  private:
-  decltype(suite::Database::Open("")) database_;
+  std::shared_ptr<suite::Database> database_;
   ado::Connection connection_;
 };
