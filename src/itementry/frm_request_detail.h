@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -70,11 +71,14 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void SelectFetchModeOption();
   void ArrangeOptionButtons();
   void FocusEntryField();
+  /// Moves the focus to the first of these that can take it.
+  void FocusFirstOf(std::initializer_list<controls::Control*> candidates);
   void Form_KeyDown(int& keyCode, int shift);
   void OptionClicked();
   void OptionKeyPressed(int& character);
 
   // One line's fields.
+  void ClearEntryFields();
   void cboItem_Click();
   void ProposeReorderQuantity(std::int32_t itemId);
   void ShowAvailableQuantity(std::int32_t itemId);
@@ -82,6 +86,7 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void cboItem_Validate(bool& cancel);
   void txtQuantity_KeyPress(int& character);
   void txtreqcomments_KeyPress(int& character);
+  bool IsAdding() const { return Session().gStrDetailMode == "N"; }
   /// 0 when no item is selected.
   std::int32_t SelectedItemId() const;
   double EnteredQuantity() const;
@@ -104,11 +109,11 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void cmdOk_Click();
   bool RefusesEntry();
   bool IsDuplicateItem() const;
-  bool AddLine();
+  bool AddLine(double limit);
   void RewriteLine();
   void ClearForNextLine();
   void ShowNextLineOrClose();
-  void MarkChangedLine();
+  bool DiffersFromLoaded() const;
   void cmdFirst_Click();
   void Cmdprev_Click();
   void cmdNext_Click();

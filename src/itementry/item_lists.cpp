@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/vb/error.h"
 #include "base/vb/text.h"
 #include "src/fetch/item_type_filter.h"
 

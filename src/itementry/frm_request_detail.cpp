@@ -1,0 +1,221 @@
+// Loading and activation, the list options, the keys of the whole form, and the fields of one line.
+
+#include "src/itementry/frm_request_detail.h"
+
+#include "base/vb/format.h"
+#include "base/vb/number.h"
+#include "base/vb/text.h"
+#include "src/itementry/item_lists.h"
+#include "src/itementry/packing_types.h"
+#include "src/itementry/stock_availability.h"
+#include "src/shared/form_color.h"
+#include "src/shared/list_views.h"
+
+namespace goods {
+
+void frmRequestDetail::Form_Load() {
+  firstActivation_ = true;
+  itemCode_.clear();
+  CreateHelpers();
+  if (lines_.lvwrequest.Count() < 2) EnableNavigation(false, false);
+
+  const std::string shopId = std::to_string(Session().gIntShopID);
+  objCommonDB_.strTableName("ashops");
+  const std::string settings = objCommonDB_.fnReturnField("miscsettings13", "shopid=" + shopId).TextOrEmpty();
+  showAvailability_ = vb::InStr(settings, "d") > 0;
+  lblavail.SetVisible(showAvailability_);
+  txtavailqty.SetVisible(showAvailability_);
+
+  objCommonDB_.strTableName("apackagesettings");
+  txtitemcode.SetEnabled(!objCommonDB_.fnReturnField("allowitemcodeduplication").TrueOrFalse());
+  if (!Session().gBlnRequestForNonShopItem) optItemsNotInShop.SetVisible(false);
+  ArrangeOptionButtons();
+}
+
+void frmRequestDetail::CreateHelpers() {
+  objCommonDB_ = CommonDb();
+  objCommonGen_ = CommonGen();
+  objFetch_ = ItemFetch();
+  objCommonDB_ = CommonDb(Session());
+  // Without these the form still takes lines: their absence is reported now, and again when one of them is asked for something.
+  Trap("Form_Load", [&] { objCommonGen_ = CommonGen(Session()); });
+  Trap("Form_Load", [&] { objFetch_ = ItemFetch(Session()); });
+  Trap("Form_Load", [&] { Applyformcolor(Session(), *this); });
+}
+
+void frmRequestDetail::ArrangeOptionButtons() {
+  if (Session().gBlnRequestForNonShopItem) return;
+  // Closes the gap of the hidden option.
+  picOptions.SetLeft(990);
+  picOptions.SetWidth(7765);
+  optStockoutitems.SetLeft(0);
+  optAvaingodnotinshop.SetLeft(1485);
+  optall.SetLeft(5580);
+}
+
+void frmRequestDetail::Form_Activate() {
+  ReadAliases();
+  if (firstActivation_) {
+    if (IsAdding()) {
+      cboItem.Clear();
+      // The lines added now count on from the last one, whichever the editor showed before.
+      lines_.lngCurrentLine = lines_.lvwrequest.Count();
+    }
+    RememberLoadedValues();
+    SelectFetchModeOption();
+    firstActivation_ = false;
+  }
+  // A lookup of this form that closes activates the form, too: what is entered then stays as it is.
+  if (!fetching_) {
+    if (Session().gStrDetailMode != "E") {
+      cboItem.SetListIndex(cboItem.ListCount() > 0 ? 0 : -1);
+    } else {
+      cmdFetch.SetEnabled(false);
+      LoadCurrentLine();
+      if (txtitemcode.Enabled() && txtitemcode.Visible()) txtitemcode.SetEnabled(false);
+    }
+  }
+  FocusEntryField();
+}
+
+void frmRequestDetail::ReadAliases() {
+  basGoodsRequest& session = Session();
+  objCommonDB_.strTableName("apackagesettings");
+  session.gBlnAliasEnabled = objCommonDB_.fnReturnField("alias").TrueOrFalse();
+  if (!session.gBlnAliasEnabled) return;
+  objCommonDB_.strTableName("aalias");
+  session.gStrGodownAlias = objCommonDB_.fnReturnField("Alias", "aliasid =2").TextOrEmpty();
+  session.gStrShopAlias = objCommonDB_.fnReturnField("Alias", "aliasid =1").TextOrEmpty();
+  optAvaingodnotinshop.SetCaption("Available in " + session.gStrGodownAlias + " Not available in " + session.gStrShopAlias);
+  optall.SetCaption("All I&tems in " + session.gStrShopAlias);
+  optItemsNotInShop.SetCaption("Items &not in " + session.gStrShopAlias);
+}
+
+void frmRequestDetail::SelectFetchModeOption() {
+  switch (ListOfFetchMode(Session().gStrFetchMode)) {
+    case ItemListMode::StockOut:
+      optStockoutitems.SetValue(true);
+      break;
+    case ItemListMode::InGodownNotInShop:
+      optAvaingodnotinshop.SetValue(true);
+      break;
+    case ItemListMode::NotInShop:
+      // The mode may come from a shop that offers the list; here it may be hidden.
+      (optItemsNotInShop.Visible() ? optItemsNotInShop : optall).SetValue(true);
+      break;
+    case ItemListMode::AllInShop:
+      optall.SetValue(true);
+      break;
+  }
+}
+
+void frmRequestDetail::FocusEntryField() {
+  if (cboItem.ListIndex() != -1) {
+    FocusFirstOf({&txtQuantity});
+  } else {
+    FocusFirstOf({&txtitemcode, &cboItem});
+  }
+}
+
+void frmRequestDetail::FocusFirstOf(std::initializer_list<controls::Control*> candidates) {
+  for (controls::Control* candidate : candidates) {
+    if (!candidate->CanFocus()) continue;
+    candidate->SetFocus();
+    return;
+  }
+}
+
+void frmRequestDetail::Form_KeyDown(int& keyCode, int shift) {
+  if (keyCode != controls::kKeyF3 || !cmdFetch.Enabled()) return;
+  if (shift == 0) {
+    keyCode = 0;
+    cmdFetch_Click();
+  } else if (shift == controls::kShift) {
+    keyCode = 0;
+    ShowFetchDialog();
+  }
+}
+
+void frmRequestDetail::OptionClicked() {
+  if (!IsAdding()) return;
+  ClearEntryFields();
+  cboItem.Clear();
+}
+
+void frmRequestDetail::OptionKeyPressed(int& character) {
+  if (character == controls::kCharReturn) FocusFirstOf({&cmdFetch});
+}
+
+void frmRequestDetail::ClearEntryFields() {
+  for (controls::TextBox* box : {&txtavailqty, &txtitemcode, &txtpartcode, &txtQuantity, &txtreqcomments}) box->SetText("");
+  lvwpacktype.Clear();
+}
+
+void frmRequestDetail::cboItem_Click() {
+  if (cboItem.ListIndex() == -1) return;
+  const std::int32_t itemId = SelectedItemId();
+  if (IsAdding()) ProposeReorderQuantity(itemId);
+  if (txtavailqty.Visible()) ShowAvailableQuantity(itemId);
+}
+
+void frmRequestDetail::ProposeReorderQuantity(std::int32_t itemId) {
+  objCommonDB_.strTableName("aShopItemDetail");
+  txtQuantity.SetText(objCommonDB_
+                          .fnReturnField("reorderquantity", "shopid=" + std::to_string(Session().gIntShopID) +
+                                                                " and itemid=" + std::to_string(itemId))
+                          .TextOrEmpty());
+}
+
+void frmRequestDetail::ShowAvailableQuantity(std::int32_t itemId) {
+  Trap("GetAvailableQuantity",
+       [&] { txtavailqty.SetText(vb::NumberText(GetAvailableQuantity(Session(), objCommonDB_, std::to_string(itemId)))); });
+}
+
+void frmRequestDetail::cboItem_KeyPress(int& character) {
+  if (character != controls::kCharReturn) return;
+  objCommonGen_.SelectComboItemByName(cboItem, cboItem.Text());
+  FocusFirstOf({&cmdFetch});
+}
+
+void frmRequestDetail::cboItem_Validate(bool& cancel) {
+  cancel = cboItem.ListIndex() == -1 && !cboItem.Text().empty();
+}
+
+void frmRequestDetail::txtQuantity_KeyPress(int& character) {
+  if (character == '.' && Session().gBlnIntegerQuantity) {
+    character = 0;
+    Tell("Only Integer Quantity is allowed");
+  } else if (character == '-') {
+    character = 0;
+  } else if (character == controls::kCharReturn) {
+    if (SelectedItemId() > 0) Calcpacktypeqty();
+    SendTabOnEnter(*this, character);
+  } else {
+    objCommonGen_.TextValidateNum(txtQuantity, character, 18, 3);
+  }
+}
+
+void frmRequestDetail::txtreqcomments_KeyPress(int& character) {
+  if (character == controls::kCharReturn) FocusFirstOf({&cmdOk});
+}
+
+std::int32_t frmRequestDetail::SelectedItemId() const {
+  const int index = cboItem.ListIndex();
+  return index == -1 ? 0 : cboItem.ItemData(index);
+}
+
+double frmRequestDetail::EnteredQuantity() const {
+  // Lines may have come with thousands separated; a quantity never ends at a comma.
+  return vb::Val(vb::Replace(txtQuantity.Text(), ",", ""));
+}
+
+void frmRequestDetail::FillPackTypeinList(std::int32_t itemId) {
+  Trap("FillPackTypeinList", [&] { FillPackingTypes(objCommonDB_, lvwpacktype, itemId); });
+}
+
+void frmRequestDetail::Calcpacktypeqty() {
+  if (lvwpacktype.Count() == 0) return;
+  Trap("Calcpacktypeqty", [&] { CountPacks(objCommonDB_, lvwpacktype, SelectedItemId(), EnteredQuantity()); });
+}
+
+}  // namespace goods

@@ -1,0 +1,124 @@
+// How the item of a line is found: by its code, in the item lookup, in the fetch dialog.
+
+#include "base/vb/text.h"
+#include "src/fetch/frm_fetch.h"
+#include "src/itementry/frm_request_detail.h"
+#include "src/itementry/item_lists.h"
+#include "src/itementry/item_lookup.h"
+
+namespace goods {
+namespace {
+
+/// Says for as long as it lives that a lookup is up.
+class Fetching {
+ public:
+  explicit Fetching(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Fetching() { flag_ = false; }
+  Fetching(const Fetching&) = delete;
+  Fetching& operator=(const Fetching&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
+
+void frmRequestDetail::txtitemcode_KeyPress(int& character) {
+  // Codes go into statements between single quotes.
+  if (character == controls::kCharApostrophe) character = 0;
+  if (character != controls::kCharReturn) return;
+  const std::string code(vb::Trim(txtitemcode.Text()));
+  if (code.empty()) {
+    FocusFirstOf({&cmdFetch});
+  } else if (const auto found = FindItemByCode(Session(), objCommonDB_, code)) {
+    TakeItem(*found);
+  } else {
+    RefuseItemCode();
+  }
+}
+
+void frmRequestDetail::TakeItem(const PickedItem& item) {
+  // One entry at a time: the line's item code belongs to the item found last, which a person could not tell from older entries.
+  cboItem.Clear();
+  cboItem.AddItem(item.itemDescription, item.itemId);
+  objCommonGen_.SelectComboItemByValue(cboItem, item.itemId);
+  itemCode_ = item.itemCode;
+  txtpartcode.SetText(item.partCode);
+  FillPackTypeinList(item.itemId);
+  FocusFirstOf({&txtQuantity});
+}
+
+void frmRequestDetail::RefuseItemCode() {
+  Tell("Scan valid barcode ");
+  txtitemcode.SelectAll();  // the next scan takes the place of this one
+  FocusFirstOf({&txtitemcode});
+}
+
+void frmRequestDetail::cmdFetch_Click() {
+  {
+    const Fetching fetching(fetching_);
+    FillItemList();
+    Desktop().DoEvents();
+  }
+  if (IsLoaded() && cboItem.ListIndex() != -1) FocusFirstOf({&txtQuantity});
+}
+
+void frmRequestDetail::ShowFetchDialog() {
+  {
+    const Fetching fetching(fetching_);
+    if (!frmFetch_) frmFetch_ = std::make_shared<FrmFetch>(Session(), static_cast<ItemEntryPort&>(*this));
+    frmFetch_->Show(this);
+    Desktop().DoEvents();
+  }
+  if (IsLoaded() && cboItem.ListIndex() != -1) FocusFirstOf({&txtQuantity});
+}
+
+void frmRequestDetail::FillItemList() {
+  Trap("FillItemList", [&] {
+    // A lookup that was missing when the form was loaded is asked for again, and reported missing again.
+    if (!objFetch_) objFetch_ = ItemFetch(Session());
+    if (ShowItemList(Session(), objCommonDB_, objFetch_, SelectedList())) TakeFetchedRow();
+  });
+}
+
+void frmRequestDetail::TakeFetchedRow() {
+  ado::Recordset& rows = Session().gRsFetchItems;
+  const PickedItem item{rows.Field("itemid").ToInt32(), rows.Field("itemcode").TextOrEmpty(),
+                        rows.Field("itemdescription").TextOrEmpty(), rows.Field("part_code").TextOrEmpty()};
+  cboItem.Clear();
+  cboItem.AddItem(item.itemDescription, item.itemId);
+  cboItem.SetListIndex(cboItem.NewIndex());
+  txtitemcode.SetText(item.itemCode);
+  itemCode_ = item.itemCode;
+  txtpartcode.SetText(item.partCode);
+  FillPackTypeinList(item.itemId);
+}
+
+ItemListMode frmRequestDetail::SelectedList() const {
+  if (optStockoutitems.Value()) return ItemListMode::StockOut;
+  if (optAvaingodnotinshop.Value()) return ItemListMode::InGodownNotInShop;
+  if (optItemsNotInShop.Value()) return ItemListMode::NotInShop;
+  return ItemListMode::AllInShop;
+}
+
+bool frmRequestDetail::TakeItemCode(const PickedItem& item) {
+  txtitemcode.SetText(item.itemCode);
+  const auto found = FindItemByCode(Session(), objCommonDB_, vb::Trim(item.itemCode));
+  if (!found && !MayItemCodesRepeat(objCommonDB_)) {
+    RefuseItemCode();
+    return false;
+  }
+  // The code may be another item's barcode or shortcut, or no item's alone: the row that the user picked decides.
+  TakeItem(found && found->itemId == item.itemId ? *found : item);
+  return true;
+}
+
+void frmRequestDetail::TakeStockOutItem(const PickedItem& item) {
+  cboItem.Clear();
+  cboItem.AddItem(item.itemDescription, item.itemId);
+  cboItem.SetListIndex(cboItem.NewIndex());
+  itemCode_ = item.itemCode;
+  txtpartcode.SetText(item.partCode);
+}
+
+}  // namespace goods

@@ -1,0 +1,121 @@
+// Taking the entered line over into the editor's list.
+
+#include "base/vb/format.h"
+#include "base/vb/number.h"
+#include "base/vb/text.h"
+#include "src/itementry/frm_request_detail.h"
+#include "src/shared/item_lookups.h"
+
+namespace goods {
+
+void frmRequestDetail::cmdOk_Click() {
+  objCommonDB_.strTableName("ashops");
+  const double limit =
+      vb::Val(objCommonDB_.fnReturnField("MaxRequestItemsToHQ", " shopid=" + std::to_string(Session().gIntShopID)).TextOrEmpty());
+  if (RefusesEntry()) return;
+  if (IsAdding()) {
+    if (!AddLine(limit)) return;
+    if (DiffersFromLoaded()) lines_.MarkChanged();
+    ClearForNextLine();
+  } else {
+    RewriteLine();
+    if (DiffersFromLoaded()) lines_.MarkChanged();
+    ShowNextLineOrClose();
+  }
+}
+
+bool frmRequestDetail::RefusesEntry() {
+  if (cboItem.ListIndex() == -1) {
+    Tell("Select an item");
+    FocusFirstOf({&cboItem});
+  } else if (EnteredQuantity() == 0) {
+    Tell("Enter quantity");
+    FocusFirstOf({&txtQuantity});
+  } else if (Session().gBlnIntegerQuantity && vb::InStr(txtQuantity.Text(), ".") > 0) {
+    Tell("Only Integer Quantity is allowed");
+    FocusFirstOf({&txtQuantity});
+  } else if (IsDuplicateItem()) {
+    Tell(cboItem.Text() + " Already Exists");
+    FocusFirstOf({&cboItem});
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool frmRequestDetail::IsDuplicateItem() const {
+  if (!IsAdding()) return false;
+  const double itemId = SelectedItemId();
+  for (int line = 1; line <= lines_.lvwrequest.Count(); ++line) {
+    if (vb::Val(lines_.lvwrequest.Item(line).SubItem(kLineItemId)) == itemId) return true;
+  }
+  return false;
+}
+
+bool frmRequestDetail::AddLine(double limit) {
+  controls::ListView& list = lines_.lvwrequest;
+  const int number = list.Count() + 1;
+  if (limit >= 1 && number > limit) {
+    Tell("No more items can be Added in this request");
+    return false;
+  }
+  const std::int32_t itemId = SelectedItemId();
+  const std::string unit = GetItemUnitCode(Session(), itemId);
+
+  ++lines_.lngCurrentLine;
+  controls::ListItem& line = list.Add(std::to_string(number));
+  line.SetSubItem(kLineItemCode, itemCode_);
+  line.SetSubItem(kLineItemName, cboItem.Text());
+  line.SetSubItem(kLineQty, vb::Format(EnteredQuantity(), "#0.000"));
+  line.SetSubItem(kLineItemId, std::to_string(itemId));
+  line.SetSubItem(kLineRemarks, vb::Trim(txtreqcomments.Text()));
+  line.SetSubItem(kLineUnit, unit);
+  line.SetSubItem(kLinePartCode, vb::Trim(txtpartcode.Text()));
+  if (list.Count() > 1) EnableNavigation(true, true);
+  list.Select(number);
+  list.EnsureVisible(number);
+  return true;
+}
+
+void frmRequestDetail::RewriteLine() {
+  const std::int32_t itemId = SelectedItemId();
+  objCommonDB_.strTableName("aitem");
+  const std::string partCode = objCommonDB_.fnReturnField("part_code", "itemid=" + std::to_string(itemId)).TextOrEmpty();
+
+  // A changed line keeps its item code and unit, and takes the part code from the item: unlike an added one.
+  controls::ListItem& line = lines_.lvwrequest.Item(lines_.lvwrequest.SelectedItem());
+  line.SetSubItem(kLineItemName, cboItem.Text());
+  line.SetSubItem(kLineQty, vb::Format(EnteredQuantity(), "#0.000"));
+  line.SetSubItem(kLineItemId, std::to_string(itemId));
+  line.SetSubItem(kLinePartCode, partCode);
+  line.SetSubItem(kLineRemarks, vb::Trim(txtreqcomments.Text()));
+}
+
+void frmRequestDetail::ClearForNextLine() {
+  cboItem.SetListIndex(-1);
+  ClearEntryFields();
+  cboItem.SetEnabled(true);
+  optStockoutitems.SetEnabled(true);
+  optAvaingodnotinshop.SetEnabled(true);
+  FocusFirstOf({&txtitemcode, &cboItem});
+}
+
+void frmRequestDetail::ShowNextLineOrClose() {
+  controls::ListView& list = lines_.lvwrequest;
+  const int next = list.SelectedItem() + 1;
+  if (next > list.Count()) {
+    Unload();
+    return;
+  }
+  GoToLine(next);
+  EnableNavigation(true, next < list.Count());
+  FocusFirstOf({&txtQuantity});
+}
+
+bool frmRequestDetail::DiffersFromLoaded() const {
+  // Comments count as well: a line whose comments alone were changed is lost unless the editor offers to save.
+  return EnteredQuantity() != vb::Val(vb::Replace(txtQuantity.Tag(), ",", "")) ||
+         vb::Trim(cboItem.Text()) != vb::Trim(cboItem.Tag()) || vb::Trim(txtreqcomments.Text()) != vb::Trim(txtreqcomments.Tag());
+}
+
+}  // namespace goods
