@@ -1,0 +1,61 @@
+#include "tests/support/test_workstation.h"
+
+#include "base/vb/error.h"
+
+namespace support {
+namespace {
+
+class Reader : public controls::InputFile {
+ public:
+  explicit Reader(std::string text) : text_(std::move(text)) {}
+  std::optional<std::string> ReadLine() override {
+    if (position_ >= text_.size()) return std::nullopt;
+    const std::size_t end = text_.find_first_of("\r\n", position_);
+    std::string line = text_.substr(position_, end == std::string::npos ? std::string::npos : end - position_);
+    position_ = end == std::string::npos ? text_.size() : end + 1;
+    if (end != std::string::npos && text_[end] == '\r' && position_ < text_.size() && text_[position_] == '\n') ++position_;
+    return line;
+  }
+
+ private:
+  std::string text_;
+  std::size_t position_ = 0;
+};
+
+class Writer : public controls::OutputFile {
+ public:
+  explicit Writer(std::string& file) : file_(file) {}
+  void Write(std::string_view text) override { file_ += text; }
+  void Close() override {}
+
+ private:
+  std::string& file_;
+};
+
+}  // namespace
+
+void TestWorkstation::WriteSettings(const std::vector<std::pair<std::string, std::string>>& settings) {
+  std::string text;
+  for (const auto& [key, value] : settings) text += key + " :=" + value + "\r\n";
+  files["C:\\shop\\ShopSetting.txt"] = text;
+}
+
+std::unique_ptr<controls::InputFile> TestWorkstation::OpenForInput(std::string_view path) {
+  const auto found = files.find(std::string(path));
+  if (found == files.end()) vb::Raise(vb::kFileNotFound);
+  return std::make_unique<Reader>(found->second);
+}
+
+std::unique_ptr<controls::OutputFile> TestWorkstation::OpenForOutput(std::string_view path) {
+  if (path.empty()) vb::Raise(vb::kBadFileName);
+  if (refusedPaths.contains(std::string(path))) vb::Raise(vb::kPermissionDenied);
+  std::string& file = files[std::string(path)];
+  file.clear();
+  return std::make_unique<Writer>(file);
+}
+
+std::unique_ptr<controls::OutputFile> TestWorkstation::OpenForAppend(std::string_view path) {
+  return std::make_unique<Writer>(files[std::string(path)]);
+}
+
+}  // namespace support

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/controls/workstation.h"
+
+namespace support {
+
+/// A machine in memory: a clock that stands still, files by name, programs that are only noted.
+class TestWorkstation : public controls::Workstation {
+ public:
+  vb::Date now = vb::MakeDate(2024, 3, 15, 10, 30, 5);
+  std::string windowsDirectory = "C:\\WINDOWS";
+  std::map<std::string, std::string> files;          ///< contents as bytes, by path
+  std::set<std::string> refusedPaths;                ///< opening these for output is error 70
+  std::vector<std::pair<std::string, int>> started;  ///< command lines with their window styles
+
+  /// Puts ShopSetting.txt into the application folder: one "key :=value" a line.
+  void WriteSettings(const std::vector<std::pair<std::string, std::string>>& settings);
+
+  vb::Date Now() override { return now; }
+  std::string ApplicationFolder() override { return "C:\\shop"; }
+  std::string WindowsDirectory() override { return windowsDirectory; }
+  std::string TempFolder() override { return "C:\\temp"; }
+  bool FileExists(std::string_view path) override { return files.contains(std::string(path)); }
+  std::unique_ptr<controls::InputFile> OpenForInput(std::string_view path) override;
+  std::unique_ptr<controls::OutputFile> OpenForOutput(std::string_view path) override;
+  std::unique_ptr<controls::OutputFile> OpenForAppend(std::string_view path) override;
+  void StartProgram(std::string_view commandLine, int style) override { started.emplace_back(commandLine, style); }
+};
+
+}  // namespace support
