@@ -125,6 +125,11 @@ void frmRequestDetail::FocusFirstOf(std::initializer_list<controls::Control*> ca
   }
 }
 
+void frmRequestDetail::EnterTo(controls::CommandButton& button, int& character) {
+  character = 0;  // the Enter that leads to a button does not press it
+  FocusFirstOf({&button});
+}
+
 void frmRequestDetail::Form_KeyDown(int& keyCode, int shift) {
   if (keyCode != controls::kKeyF3 || !cmdFetch.Enabled()) return;
   if (shift == 0) {
@@ -143,7 +148,7 @@ void frmRequestDetail::OptionClicked() {
 }
 
 void frmRequestDetail::OptionKeyPressed(int& character) {
-  if (character == controls::kCharReturn) FocusFirstOf({&cmdFetch});
+  if (character == controls::kCharReturn) EnterTo(cmdFetch, character);
 }
 
 void frmRequestDetail::ClearEntryFields() {
@@ -174,7 +179,7 @@ void frmRequestDetail::ShowAvailableQuantity(std::int32_t itemId) {
 void frmRequestDetail::cboItem_KeyPress(int& character) {
   if (character != controls::kCharReturn) return;
   objCommonGen_.SelectComboItemByName(cboItem, cboItem.Text());
-  FocusFirstOf({&cmdFetch});
+  EnterTo(cmdFetch, character);
 }
 
 void frmRequestDetail::cboItem_Validate(bool& cancel) {
@@ -196,7 +201,7 @@ void frmRequestDetail::txtQuantity_KeyPress(int& character) {
 }
 
 void frmRequestDetail::txtreqcomments_KeyPress(int& character) {
-  if (character == controls::kCharReturn) FocusFirstOf({&cmdOk});
+  if (character == controls::kCharReturn) EnterTo(cmdOk, character);
 }
 
 std::int32_t frmRequestDetail::SelectedItemId() const {

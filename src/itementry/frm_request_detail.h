@@ -73,6 +73,7 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void FocusEntryField();
   /// Moves the focus to the first of these that can take it.
   void FocusFirstOf(std::initializer_list<controls::Control*> candidates);
+  void EnterTo(controls::CommandButton& button, int& character);
   void Form_KeyDown(int& keyCode, int shift);
   void OptionClicked();
   void OptionKeyPressed(int& character);

@@ -29,7 +29,7 @@ void frmRequestDetail::txtitemcode_KeyPress(int& character) {
   if (character != controls::kCharReturn) return;
   const std::string code(vb::Trim(txtitemcode.Text()));
   if (code.empty()) {
-    FocusFirstOf({&cmdFetch});
+    EnterTo(cmdFetch, character);
   } else if (const auto found = FindItemByCode(Session(), objCommonDB_, code)) {
     TakeItem(*found);
   } else {
