@@ -56,11 +56,7 @@ void frmRequestDetail::ArrangeOptionButtons() {
 void frmRequestDetail::Form_Activate() {
   ReadAliases();
   if (firstActivation_) {
-    if (IsAdding()) {
-      cboItem.Clear();
-      // The lines added now count on from the last one, whichever the editor showed before.
-      lines_.lngCurrentLine = lines_.lvwrequest.Count();
-    }
+    if (IsAdding()) cboItem.Clear();
     RememberLoadedValues();
     SelectFetchModeOption();
     firstActivation_ = false;
