@@ -40,7 +40,7 @@ RowWindow ShownRows(const controls::FlexGrid& grid) {
 }
 
 std::string GridRowMarks(const controls::FlexGrid& grid, long row) {
-  const auto [low, high] = std::minmax(grid.Row(), grid.RowSel());
+  const auto [low, high] = std::minmax({grid.Row(), grid.RowSel()});
   std::string marks = row >= low && row <= high ? " >" : "  ";
   return marks + (IsRed(grid, row) ? "!" : " ");
 }
