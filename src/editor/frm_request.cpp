@@ -220,6 +220,7 @@ void frmRequest::lvwrequest_ItemClick(controls::ListItem& line) {
 void frmRequest::mnuAdd_Click() {
   if (!cmdOK.Enabled()) return;
   Session().gStrDetailMode = "N";
+  lngCurrentLine = lvwrequest.Count();  // item entry moves it on to each line that it appends
   ItemEntry().Show(this);
 }
 
