@@ -290,7 +290,7 @@ void FlexGrid::SetColAlignment(long col, GridAlignment alignment) {
 Color FlexGrid::CellForeColor(long row, long col) const {
   CheckCell(row, col);
   const GridRow& cells = rows_[At(row)];
-  const Color own = cells.colors ? (*cells.colors)[At(col)].fore : kDefaultColor;
+  const Color own = cells.colors && At(col) < cells.colors->size() ? (*cells.colors)[At(col)].fore : kDefaultColor;
   return own == kDefaultColor ? cells.rowFore : own;
 }
 
@@ -305,8 +305,9 @@ FlexGrid::CellColors& FlexGrid::ColorsOf(long row, long col) {
 void FlexGrid::SetCellForeColor(long row, long col, Color color) {
   CheckCell(row, col);
   GridRow& cells = rows_[At(row)];
-  // A cell that goes back to the default inside a coloured row: the row's colour becomes that of its other cells.
-  if (const Color whole = std::exchange(cells.rowFore, kDefaultColor); whole != kDefaultColor) {
+  if (color == kDefaultColor && cells.rowFore != kDefaultColor) {
+    // A cell goes back to the default inside a coloured row: the row's colour becomes that of its other cells.
+    const Color whole = std::exchange(cells.rowFore, kDefaultColor);
     for (long other = 0; other < Cols(); ++other) {
       if (CellColors& colors = ColorsOf(row, other); colors.fore == kDefaultColor) colors.fore = whole;
     }
@@ -328,7 +329,7 @@ void FlexGrid::SetRowForeColor(long row, Color color) {
 Color FlexGrid::CellBackColor(long row, long col) const {
   CheckCell(row, col);
   const GridRow& cells = rows_[At(row)];
-  return cells.colors ? (*cells.colors)[At(col)].back : kDefaultColor;
+  return cells.colors && At(col) < cells.colors->size() ? (*cells.colors)[At(col)].back : kDefaultColor;
 }
 
 void FlexGrid::SetCellBackColor(long row, long col, Color color) {

@@ -41,6 +41,7 @@ bool Form::MoveFocus(Control* control) {
   if (activeControl_ == control) return true;
   // A handler that runs because a control is being left moves the focus itself: no second validation, no second lost-focus.
   if (activeControl_ && leaving_ != activeControl_ && !Leave(*activeControl_, control, move)) {
+    LeaveUnreachable();
     return IsLoaded() && activeControl_ == control;
   }
   Enter(control);
@@ -58,11 +59,9 @@ void Form::RequestFocus(Control& control) {
 void Form::LeaveUnreachable() {
   if (!activeControl_ || !IsActive() || activeControl_->CanFocus()) return;
   Control* left = activeControl_;
+  if (leaving_ == left) return;  // the move that leaves it is under way
   const unsigned move = ++focusMoves_;
-  if (leaving_ != left) {
-    left->LostFocus.Fire();
-    if (focusMoves_ != move || !IsLoaded()) return;
-  }
+  if (!Leave(*left, nullptr, move)) return;
   Enter(NextInTabOrder(left));
 }
 

@@ -111,6 +111,12 @@ void ListView::SetColumnText(int index, std::string_view text) {
   Changed(Aspect::Layout);
 }
 
+void ListView::SetCheckBoxes(bool checkBoxes) {
+  Touch();
+  checkBoxes_ = checkBoxes;
+  Changed(Aspect::Layout);
+}
+
 int ListView::Count() const {
   Touch();
   return static_cast<int>(items_.size());

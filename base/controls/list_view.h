@@ -60,7 +60,7 @@ class ListView : public Control {
   void SetColumnAlignment(int index, ColumnAlignment alignment);
   void SetColumnText(int index, std::string_view text);
   bool CheckBoxes() const { return checkBoxes_; }
-  void SetCheckBoxes(bool checkBoxes) { checkBoxes_ = checkBoxes; }
+  void SetCheckBoxes(bool checkBoxes);
 
   int Count() const;
   ListItem& Item(int index);

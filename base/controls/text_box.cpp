@@ -67,6 +67,19 @@ void TextBox::SelectAll() {
   SetSelLength(Length(text_));
 }
 
+void TextBox::SetMaxLength(int length) {
+  Touch();
+  if (length < 0) vb::Raise(vb::kInvalidPropertyValue);
+  maxLength_ = length;
+  Changed(Aspect::Layout);
+}
+
+void TextBox::SetLocked(bool locked) {
+  Touch();
+  locked_ = locked;
+  Changed(Aspect::Layout);
+}
+
 void TextBox::TypeOver(std::string_view text) {
   Touch();
   if (locked_) return;

@@ -20,9 +20,9 @@ class TextBox : public Control {
   void SelectAll();
   /// 0 is no limit; counts characters.
   int MaxLength() const { return maxLength_; }
-  void SetMaxLength(int length) { maxLength_ = length; }
+  void SetMaxLength(int length);
   bool Locked() const { return locked_; }
-  void SetLocked(bool locked) { locked_ = locked; }
+  void SetLocked(bool locked);
   bool MultiLine() const { return multiLine_; }
   void SetMultiLine(bool multiLine) { multiLine_ = multiLine; }
   /// Right-aligned text, for figures.
