@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "base/late/object.h"
+#include "suite/database/engine/session.h"
+
+namespace suite {
+
+/// The ADO Connection object.
+class Connection : public late::TableObject<Connection> {
+ public:
+  Connection() = default;
+  Connection(std::shared_ptr<Session> session, std::shared_ptr<void> database, std::string connectionString)
+      : session_(std::move(session)), database_(std::move(database)), connectionString_(std::move(connectionString)) {}
+  ~Connection() override;
+
+  static const late::MemberTable<Connection>& Members();
+  std::string TypeName() const override { return "Connection"; }
+
+  /// The open session; error 3709 when the connection is closed, for those who want to work on it.
+  const std::shared_ptr<Session>& OpenSession() const;
+  int CursorLocation() const { return cursorLocation_; }
+
+ private:
+  void Open(late::Arguments& arguments);
+  void Close();
+  late::Value Execute(late::Arguments& arguments);
+  late::Value BeginTrans();
+  Session& Required() const;
+
+  std::shared_ptr<Session> session_;
+  std::shared_ptr<void> database_;
+  std::string connectionString_;
+  int timeout_ = 30;
+  int cursorLocation_ = 2;
+};
+
+}  // namespace suite
