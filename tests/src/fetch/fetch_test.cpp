@@ -1,0 +1,245 @@
+#include "tests/src/fetch/fetch_shop.h"
+
+namespace fetch_test {
+namespace {
+
+using goods::FrmFetch;
+using goods::ItemListMode;
+using Fetch = FetchShop;
+
+constexpr std::string_view kAllItems =
+    "select a.itemid,a.itemcode,v.itemdescription ,a.brand,a.modelno,isnull(a.part_code,'')part_code  from ashopitemdetail "
+    "s,vwitemdescription v, aitem a where a.itemid = v.itemid  and s.itemid = v.itemid and s.shopid = 1 and a.Active = 1";
+
+TEST_F(Fetch, TheFilterFindsTextAnywhereInTheChosenColumn) {
+  Open(ItemListMode::AllInShop, [&] {
+    EXPECT_TRUE(dialog->txtFetch.HasFocus());
+    EXPECT_EQ(dialog->cboFetch.Text(), "ItemDescription") << "the shop's preferred field";
+    Filter(" blue rim ");
+    EXPECT_TRUE(shop.log.Sent(std::string(kAllItems) + " and v.itemdescription like '%blue rim%' "));
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1021;KT1024;KT1026;");
+    EXPECT_EQ(dialog->txtFetch.Text(), "");
+    EXPECT_EQ(dialog->flexMaster.Row(), 3) << "the last row is current";
+    EXPECT_EQ(dialog->flexMaster.ColSel(), FrmFetch::kPartCode);
+    EXPECT_EQ(dialog->flexMaster.ColWidth(FrmFetch::kItemId), 0);
+
+    support::Choose(dialog->cboFetch, "Brand");
+    Filter("tashira");
+    EXPECT_TRUE(shop.log.Sent(std::string(kAllItems) + " and a.brand like '%tashira%' ")) << "filters do not add up";
+    const long tashira = RowsShown();
+    Filter("tashira");
+    EXPECT_EQ(RowsShown(), tashira) << "the column stays chosen";
+  });
+}
+
+TEST_F(Fetch, EnterInTheEmptyFilterListsEverything) {
+  Open(ItemListMode::AllInShop, [&] {
+    Filter("");
+    EXPECT_EQ(std::to_string(RowsShown()), shop.Row("select count(*) from aShopItemDetail s inner join aItem a on a.ItemId = "
+                                                    "s.ItemID where s.ShopID = 1 and a.active = 1"));
+    const long everything = RowsShown();
+    support::Choose(dialog->cboFetch, "Brand");
+    Filter("");
+    EXPECT_EQ(RowsShown(), everything) << "also the items of no brand";
+  });
+}
+
+TEST_F(Fetch, StockOutItemsAreThoseBelowTheirLevelWithoutAPendingRequest) {
+  Open(ItemListMode::StockOut, [&] {
+    Filter("");
+    EXPECT_TRUE(shop.log.Sent(
+        "select a.itemid ,a.itemcode, v.itemdescription,a.brand,a.modelno,isnull(a.part_code,'')part_code  from "
+        "vwInquiryShopStock ms, aitem a, vwitemdescription v, ashopitemdetail sd  Where a.active = 1 and a.itemID = ms.itemID "
+        "and "
+        "a.itemID = v.itemID  and a.itemtype <> 'B' and sd.itemid=a.itemid and sd.shopid=ms.shopid and sd.shopid=1 and "
+        "sd.requestraised=0 group by sd.shopid,a.itemid ,a.itemcode, sd.itemReorderLevel,a.brand,a.modelno,v.itemdescription,"
+        "a.part_code having sum(stock)< sd.itemReorderLevel and v.itemdescription like '%%' "));
+    const std::string codes = Column(FrmFetch::kItemCode);
+    EXPECT_NE(codes.find("KT1008;"), std::string::npos) << "stock -2, level 10";
+    EXPECT_EQ(codes.find("KT1003;"), std::string::npos) << "stock at its level";
+    EXPECT_EQ(codes.find("KT1006;"), std::string::npos) << "already requested";
+  });
+}
+
+TEST_F(Fetch, ItemsOfGodownsComeFromTheProcedureAsAFilterAlone) {
+  Open(ItemListMode::InGodownNotInShop, [&] {
+    Filter("");
+    EXPECT_TRUE(shop.log.Sent("spgodownitemnotinshop 1,' and v.itemdescription like ''%%'' '"));
+    EXPECT_GT(RowsShown(), 1);
+    EXPECT_NE(dialog->flexMaster.TextMatrix(1, FrmFetch::kItemCode), "");
+  });
+}
+
+TEST_F(Fetch, ItemsThatTheShopDoesNotKeep) {
+  Open(ItemListMode::NotInShop, [&] {
+    Filter("saucepan");
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1005;");
+  });
+}
+
+TEST_F(Fetch, ShopsOfTypeBSeeItemsOfThatType) {
+  shop.session.gIntShopID = 3;
+  Open(ItemListMode::StockOut, [&] { Filter(""); });
+  EXPECT_EQ(shop.session.gStrItemTypeFilter, " and a.itemtype = 'B'");
+  Open(ItemListMode::AllInShop, [&] {
+    EXPECT_EQ(dialog->cboFetch.Text(), "ItemCode");
+    Filter("9000");
+    EXPECT_GT(RowsShown(), 1);
+  });
+}
+
+TEST_F(Fetch, APastedApostropheFindsWhatItNames) {
+  shop.Run("update smpItemDescription set ItemDescription = 'O''Brien''s frying pan' where ItemID = 1");
+  Open(ItemListMode::AllInShop, [&] {
+    support::Type(dialog->txtFetch, "O'Br");
+    EXPECT_EQ(dialog->txtFetch.Text(), "OBr") << "the key is swallowed";
+    dialog->txtFetch.SelectAll();
+    dialog->txtFetch.Paste("O'Brien");
+    support::Press(dialog->txtFetch, "Enter");
+    EXPECT_TRUE(shop.log.Sent(std::string(kAllItems) + " and v.itemdescription like '%O''Brien%' "));
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1001;");
+  });
+  Open(ItemListMode::InGodownNotInShop, [&] {
+    dialog->txtFetch.Paste("O'Brien");
+    support::Press(dialog->txtFetch, "Enter");
+    EXPECT_TRUE(shop.log.Sent("spgodownitemnotinshop 1,' and v.itemdescription like ''%O''''Brien%'' '"));
+  });
+}
+
+TEST_F(Fetch, NothingFoundLeavesHeadingsAndAnEmptyRow) {
+  Open(ItemListMode::AllInShop, [&] {
+    Filter("frying");
+    Filter("no such thing");
+    EXPECT_EQ(RowsShown(), 1);
+    EXPECT_EQ(dialog->flexMaster.Cols(), 6);
+    EXPECT_EQ(dialog->flexMaster.TextMatrix(0, FrmFetch::kBrand), "Brand" + std::string(50, ' '));
+    EXPECT_EQ(Column(FrmFetch::kItemCode), ";");
+    support::Click(dialog->CmdOk);
+    EXPECT_TRUE(dialog->IsLoaded());
+    Filter("frying");
+    EXPECT_GT(RowsShown(), 1);
+  });
+  EXPECT_TRUE(entry.lines.empty());
+}
+
+TEST_F(Fetch, ADatabaseErrorLeavesListAndFilterText) {
+  Open(ItemListMode::AllInShop, [&] {
+    Filter("blue rim");
+    dialog->txtFetch.Paste("O'Brien");
+    shop.log.FailAt(1);
+    shop.desktop.ExpectMessage("Connection broken by the test\n(FrmFetch GridPopulate, -2147217900)");
+    support::Press(dialog->txtFetch, "Enter");
+    EXPECT_EQ(dialog->txtFetch.Text(), "O'Brien");
+    EXPECT_EQ(RowsShown(), 3);
+    EXPECT_EQ(shop.desktop.hourglasses, 0);
+  });
+}
+
+TEST_F(Fetch, SortingFollowsTheListAndTheDirection) {
+  Open(ItemListMode::AllInShop, [&] {
+    Filter("rim");
+    support::Choose(dialog->cboColNames, "ItemDescription");
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1026;KT1021;KT1024;");
+    EXPECT_EQ(dialog->flexMaster.Row(), 3);
+    support::Click(dialog->optDescend);
+    EXPECT_EQ(dialog->cboColNames.ListIndex(), -1);
+    support::Choose(dialog->cboColNames, "ItemDescription");
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1024;KT1021;KT1026;");
+
+    // This entry sorts on the brand alone.
+    support::Click(dialog->optAscend);
+    Filter("lamp");
+    support::Choose(dialog->cboColNames, "ItemCode");
+    support::Choose(dialog->cboColNames, "ItemCode,ItemDescription");
+    for (long row = 2; row < dialog->flexMaster.Rows(); ++row) {
+      EXPECT_LE(dialog->flexMaster.TextMatrix(row - 1, FrmFetch::kBrand), dialog->flexMaster.TextMatrix(row, FrmFetch::kBrand));
+    }
+    EXPECT_TRUE(shop.desktop.sawHourglass);
+    EXPECT_EQ(shop.desktop.hourglasses, 0);
+  });
+}
+
+TEST_F(Fetch, TypingJumpsToTheFirstRowThatBeginsSo) {
+  Open(ItemListMode::AllInShop, [&] {
+    Filter("frying pan");
+    support::Type(dialog->txtsearch, "KT1003");
+    EXPECT_EQ(dialog->flexMaster.Row(), RowsShown()) << "no column to search on yet";
+    support::Choose(dialog->cboSearch, "ItemCode");
+    support::Enter(dialog->txtsearch, "kt1002");
+    EXPECT_EQ(dialog->flexMaster.TextMatrix(dialog->flexMaster.Row(), FrmFetch::kItemDescription), "Frying pan 24 cm");
+    EXPECT_EQ(dialog->flexMaster.TopRow(), dialog->flexMaster.Row());
+    EXPECT_EQ(dialog->flexMaster.ColSel(), FrmFetch::kPartCode);
+  });
+}
+
+TEST_F(Fetch, AChosenItemIsHandedOverInEveryMode) {
+  Open(ItemListMode::AllInShop, [&] {
+    Filter("limescale");
+    support::Press(dialog->flexMaster, "Enter");
+    EXPECT_FALSE(dialog->IsLoaded());
+  });
+  EXPECT_EQ(entry.lines, (std::vector<std::string>{"code SP1001", "packings 258"}));
+
+  entry.lines.clear();
+  shop.Run("update smpShopStock set stock = 0 where shopid = 1 and itemid = 258");
+  shop.Run("update aShopItemDetail set ItemReorderLevel = 5, RequestRaised = 0 where ShopID = 1 and ItemID = 258");
+  Open(ItemListMode::StockOut, [&] {
+    Filter("limescale");
+    support::DoubleClick(dialog->flexMaster);
+  });
+  EXPECT_EQ(entry.lines,
+            (std::vector<std::string>{"code SP1001", "item 258 Kettle limescale filter [KE17-703]", "packings 258"}));
+
+  entry.lines.clear();
+  entry.refuses = true;
+  Open(ItemListMode::NotInShop, [&] {
+    Filter("saucepan");
+    support::Click(dialog->CmdOk);
+    EXPECT_FALSE(dialog->IsLoaded());
+  });
+  EXPECT_EQ(entry.lines, (std::vector<std::string>{"code KT1005"})) << "no packings of an item that was refused";
+}
+
+TEST_F(Fetch, ARowWithoutAnItemOnlyClosesTheDialog) {
+  Open(ItemListMode::AllInShop, [&] {
+    dialog->flexMaster.SetTextMatrix(1, FrmFetch::kItemId, "0");
+    dialog->flexMaster.SetTextMatrix(1, FrmFetch::kItemCode, "X");
+    support::Click(dialog->CmdOk);
+    EXPECT_FALSE(dialog->IsLoaded());
+  });
+  EXPECT_TRUE(entry.lines.empty());
+}
+
+TEST_F(Fetch, KeysLeadThroughTheDialog) {
+  Open(ItemListMode::AllInShop, [&] {
+    Filter("frying pan");
+    dialog->flexMaster.SetRow(2);
+    support::Press(dialog->txtFetch, "Up");
+    EXPECT_TRUE(dialog->flexMaster.HasFocus());
+    EXPECT_EQ(dialog->flexMaster.Row(), 2);
+    EXPECT_EQ(dialog->flexMaster.RowSel(), RowsShown());
+    support::Press(dialog->txtsearch, "Ctrl+D");
+    EXPECT_TRUE(dialog->flexMaster.HasFocus());
+    support::Press(dialog->cboFetch, "Enter");
+    EXPECT_TRUE(dialog->txtFetch.HasFocus());
+    support::Press(dialog->txtFetch, "Esc");
+    EXPECT_FALSE(dialog->IsLoaded());
+  });
+}
+
+TEST_F(Fetch, EachOpeningStartsAnew) {
+  shop.Run("update LOsSettings set defaultfetch = null where ShopID = 1");
+  Open(ItemListMode::AllInShop, [&] {
+    support::Choose(dialog->cboFetch, "Brand");
+    Filter("oskeda");
+  });
+  Open(ItemListMode::NotInShop, [&] {
+    EXPECT_EQ(dialog->cboFetch.Text(), "ItemDescription");
+    EXPECT_EQ(RowsShown(), 1);
+    Filter("");
+    EXPECT_EQ(Column(FrmFetch::kItemCode).find("KT1001;"), std::string::npos);
+  });
+}
+
+}  // namespace
+}  // namespace fetch_test

@@ -1,0 +1,89 @@
+#include "src/fetch/frm_fetch.h"
+#include "tests/src/itementry/item_entry_shop.h"
+
+namespace itementry_test {
+namespace {
+
+/// The fetch dialog over the item entry form it was opened from.
+class FetchDialog : public ItemEntryShop {
+ protected:
+  /// Shift+F3, a filter, and OK on the row left current (the last one).
+  void Pick(std::string_view filter) {
+    shop.desktop.ExpectForm("FrmFetch", [&](controls::Form& opened) {
+      auto& dialog = dynamic_cast<goods::FrmFetch&>(opened);
+      support::Enter(dialog.txtFetch, filter);
+      support::Press(dialog.txtFetch, "Enter");
+      beforeOk(dialog);
+      support::Click(dialog.CmdOk);
+    });
+    support::Press(form->cmdFetch, "Shift+F3");
+  }
+
+  std::function<void(goods::FrmFetch&)> beforeOk = [](goods::FrmFetch&) {};
+};
+
+TEST_F(FetchDialog, APickedItemIsTakenAsIfItsCodeHadBeenTyped) {
+  Add([&] {
+    Pick("limescale");
+    EXPECT_EQ(ChosenItem(), "Kettle limescale filter");
+    EXPECT_EQ(form->txtitemcode.Text(), "SP1001");
+    EXPECT_EQ(form->txtpartcode.Text(), "KE17-703");
+    EXPECT_EQ(Packings(), "Single=");
+    EXPECT_TRUE(form->txtQuantity.HasFocus());
+  });
+}
+
+TEST_F(FetchDialog, AStockOutItemComesIntoTheFormAsItStands) {
+  Add([&] {
+    support::Click(form->optStockoutitems);
+    Pick("Stock pot 5 l");
+    EXPECT_EQ(ChosenItem(), "Stock pot 5 l");
+    EXPECT_EQ(form->txtQuantity.Text(), "25");
+    support::Click(form->cmdOk);
+    EXPECT_EQ(Line(1), "1|KT1008|Stock pot 5 l|25.000|8||PCS|");
+  });
+}
+
+TEST_F(FetchDialog, TheRowDecidesWhereItsCodeNamesAnotherItem) {
+  Add([&] {
+    Pick("Chopping board bamboo");  // KT1019, which is a barcode of another item
+    EXPECT_EQ(ChosenItem(), "Chopping board bamboo 30 x 40 cm");
+    shop.Run("update aPackageSettings set allowitemcodeduplication = 1");
+    Pick("Frying pan 24");
+    EXPECT_EQ(ChosenItem(), "Frying pan 24 cm") << "where codes may repeat, no code names an item";
+  });
+}
+
+TEST_F(FetchDialog, AnItemThatMayNotBeRequestedIsRefused) {
+  Add([&] {
+    Scan("KT1012");
+    Refused("Scan valid barcode ");
+    Pick("Dinner plate white");  // in the shop's list, not for sale
+    EXPECT_EQ(ChosenItem(), "Chef's knife 20 cm");
+    EXPECT_EQ(Packings(), "Single= Inner box= Dozen=");
+  });
+}
+
+TEST_F(FetchDialog, ClosingItChangesNothing) {
+  Add([&] {
+    Scan("KT1012");
+    shop.desktop.ExpectForm("FrmFetch", [](controls::Form& opened) {
+      auto& dialog = dynamic_cast<goods::FrmFetch&>(opened);
+      support::Press(dialog.txtFetch, "Enter");
+      support::Click(dialog.CmdClose);
+    });
+    support::Press(form->txtQuantity, "Shift+F3");
+    EXPECT_EQ(ChosenItem() + form->txtQuantity.Text(), "Chef's knife 20 cm48");
+  });
+}
+
+TEST_F(FetchDialog, ItIsClosedWhereFetchingIs) {
+  GivenLine(1, "2.000");
+  Edit(1, [&] {
+    support::Press(form->txtQuantity, "Shift+F3");
+    support::Press(form->txtQuantity, "F3");
+  });
+}
+
+}  // namespace
+}  // namespace itementry_test

@@ -1,0 +1,212 @@
+#include "suite/helpers/frm_lookup.h"
+#include "tests/src/itementry/item_entry_shop.h"
+#include "tests/src/itementry/recording_lookup.h"
+
+namespace itementry_test {
+namespace {
+
+class ItemLists : public ItemEntryShop {
+ protected:
+  /// Puts this one row into the recordset that the lookup was handed, as a user's choice would.
+  void TakesTheRow(std::string_view query) {
+    diary->cancelled = false;
+    diary->onShow = [this, query = std::string(query)] {
+      diary->handed.CloseIfOpen();
+      diary->handed.Open(query, session.gAdoCon, ado::kStatic);
+    };
+  }
+  bool WasTold(std::string_view line) const {
+    return std::find(diary->told.begin(), diary->told.end(), line) != diary->told.end();
+  }
+
+  std::shared_ptr<LookupDiary> diary = InstallRecordingLookup(shop.registry);
+};
+
+constexpr std::string_view kKettleFilter =
+    "select a.ItemId itemid, a.ItemCode itemcode, v.ItemDescription itemdescription, a.part_code from aItem a"
+    " inner join vwItemDescription v on v.ItemID = a.ItemId where a.ItemId = ";
+
+TEST_F(ItemLists, TheLookupIsToldEverythingInItsOrder) {
+  Add([&] {
+    support::Click(form->optall);
+    diary->told.clear();
+    support::Press(form->txtitemcode, "F3");
+    const std::vector<std::string> expected{
+        "adocon=<Connection>",
+        "strMsgboxTitle=Shop",
+        "lngUserID=1",
+        "strQuery=select a.itemid,a.itemcode,v.itemdescription ,a.brand,a.modelno,isnull(a.part_code,'')part_code  from "
+        "ashopitemdetail s,vwitemdescription v, aitem a where a.itemid = v.itemid  and a.itemtype <> 'B' and s.itemid = v.itemid "
+        "and s.shopid = 1 and a.Active = 1 and forsales=1",
+        "setRecordSet=<Recordset>",
+        "setFieldNames=ItemID,ItemCode,ItemDescription,Brand,ModelNo,Part_Code",
+        "setFieldCaptions=Item ID,Item Code,Item Description,Brand,Model No,Part Code",
+        "setFieldWidths=0,2000,4000,2000,2000,2000",
+        "setDefaultFetchField=2",
+        "setInterfaceCaption=Item Fetch",
+        "setShopId=1",
+        "setFetchType=I",
+        "setLocationType=S",
+        "PreserveData=True",
+        "InterfaceId=1503",
+        "DataIdentifier=03",
+        "ForcedRefresh=True",
+        "Show",
+    };
+    EXPECT_EQ(diary->told, expected);
+    EXPECT_EQ(session.gStrFetchMode, "QUERY3");
+  });
+}
+
+TEST_F(ItemLists, EachOptionHasItsList) {
+  Add([&] {
+    support::Click(form->optStockoutitems);
+    support::Click(form->cmdFetch);
+    EXPECT_TRUE(WasTold(
+        "strQuery=select a.itemid ,a.itemcode, v.itemdescription,a.brand,a.modelno,isnull(a.part_code,'')part_code  from "
+        "vwInquiryShopStock ms, aitem a, vwitemdescription v, ashopitemdetail sd  Where a.active = 1 and forsales=1 and a.itemID "
+        "= "
+        "ms.itemID and a.itemID = v.itemID  and a.itemtype <> 'B' and sd.itemid=a.itemid and sd.shopid=ms.shopid and sd.shopid=1 "
+        "group by sd.shopid,a.itemid ,a.itemcode, sd.itemReorderLevel,a.brand,a.modelno,v.itemdescription,a.part_code having "
+        "sum(stock)< = sd.itemReorderLevel"));
+    EXPECT_TRUE(WasTold("DataIdentifier=01"));
+    support::Click(form->optAvaingodnotinshop);
+    support::Click(form->cmdFetch);
+    EXPECT_TRUE(WasTold("strQuery= spgodownitemnotinshop 1, '',1"));
+    EXPECT_TRUE(WasTold("DataIdentifier=02"));
+    support::Click(form->optItemsNotInShop);
+    support::Click(form->cmdFetch);
+    EXPECT_TRUE(
+        WasTold("strQuery=select i.ItemId, i.ItemCode, v.ItemDescription, i.Brand, i.ModelNo,  isnull(i.part_code,'')part_code "
+                "from aItem i inner join vwitemdescription v on i.ItemId=v.ItemId left outer join aShopItemDetail si on "
+                "i.ItemId=si.ItemId and si.ShopId=1 where si.ItemId is null and Active=1 and forsales=1"));
+    EXPECT_TRUE(WasTold("DataIdentifier=04"));
+  });
+}
+
+TEST_F(ItemLists, OnlyAnotherModeForcesARefreshAndTheModeOutlivesTheForm) {
+  const auto refreshes = [&] {
+    std::string flags;
+    for (const std::string& line : diary->told) {
+      if (line.starts_with("ForcedRefresh=")) flags += line.substr(14) + " ";
+    }
+    return flags;
+  };
+  Add([&] {
+    support::Click(form->cmdFetch);
+    support::Click(form->cmdFetch);
+  });
+  Add([&] {
+    support::Click(form->cmdFetch);
+    support::Click(form->optItemsNotInShop);
+    support::Click(form->cmdFetch);
+    support::Click(form->cmdFetch);
+  });
+  EXPECT_EQ(refreshes(), "True False False True False ");
+  Add([&] { EXPECT_TRUE(form->optItemsNotInShop.Value()); });
+}
+
+TEST_F(ItemLists, TheShopsPreferredFieldIsSearchedFirst) {
+  const std::vector<std::pair<std::string, std::string>> preferences{
+      {"itemcode", "1"}, {"PART_CODE", "5"}, {"ItemID", "2"}, {"colour", "2"}};
+  for (const auto& [preferred, index] : preferences) {
+    shop.Run("update LOsSettings set defaultfetch = '" + preferred + "' where ShopID = 1");
+    diary->told.clear();
+    Add([&] { support::Click(form->cmdFetch); });
+    EXPECT_TRUE(WasTold("setDefaultFetchField=" + index)) << preferred;
+  }
+}
+
+TEST_F(ItemLists, TheChosenRowComesIntoTheForm) {
+  TakesTheRow(std::string(kKettleFilter) + "258");
+  Add([&] {
+    Scan("KT1012");
+    support::Press(form->txtQuantity, "F3");
+    EXPECT_EQ(ChosenItem(), "Kettle limescale filter");
+    EXPECT_EQ(form->cboItem.ListCount(), 1);
+    EXPECT_EQ(form->txtitemcode.Text(), "SP1001");
+    EXPECT_EQ(form->txtpartcode.Text(), "KE17-703");
+    EXPECT_EQ(Packings(), "Single=");
+    EXPECT_TRUE(form->txtQuantity.HasFocus());
+    TakesTheRow(std::string(kKettleFilter) + "1");  // without a part code
+    support::Press(form->txtQuantity, "F3");
+    EXPECT_EQ(form->txtpartcode.Text(), "");
+    support::Click(form->cmdOk);
+    EXPECT_EQ(Line(1), "1|KT1001|Frying pan 20 cm|40.000|1||PCS|");
+  });
+}
+
+TEST_F(ItemLists, TheLookupMayHandBackARecordsetOfItsOwn) {
+  TakesTheRow(std::string(kKettleFilter) + "258");
+  diary->onTake = [&](late::Value& recordset) { recordset = shop.registry.Create("ADODB.Recordset"); };
+  Add([&] {
+    support::Click(form->cmdFetch);
+    EXPECT_EQ(ChosenItem(), "Kettle limescale filter");
+    EXPECT_EQ(session.gRsFetchItems.Object(), diary->handed.Object());
+  });
+}
+
+TEST_F(ItemLists, ACancelledOrEmptyFetchChangesNothing) {
+  Add([&] {
+    Scan("KT1012");
+    support::Enter(form->txtQuantity, "7");
+    support::Click(form->cmdFetch);
+    EXPECT_EQ(ChosenItem() + form->txtitemcode.Text() + form->txtQuantity.Text(), "Chef's knife 20 cmKT10127");
+    TakesTheRow(std::string(kKettleFilter) + "-1");
+    support::Click(form->cmdFetch);
+    EXPECT_EQ(ChosenItem() + form->txtitemcode.Text() + form->txtQuantity.Text(), "Chef's knife 20 cmKT10127");
+  });
+}
+
+TEST_F(ItemLists, AFailingListLeavesTheFormAsItWas) {
+  Add([&] {
+    Scan("KT1012");
+    diary->onShow = [] { vb::Raise(2812, "Could not find stored procedure 'spgodownitemnotinshop'"); };
+    ExpectError("Could not find stored procedure 'spgodownitemnotinshop'", "FillItemList", 2812);
+    support::Click(form->cmdFetch);
+    EXPECT_EQ(ChosenItem(), "Chef's knife 20 cm");
+    EXPECT_EQ(form->txtitemcode.Text(), "KT1012");
+  });
+}
+
+using SuiteLookup = ItemEntryShop;
+
+TEST_F(SuiteLookup, ItemsAreChosenInTheSuitesOwnLookup) {
+  Add([&] {
+    shop.desktop.ExpectForm("frmLookup", [](controls::Form& opened) {
+      auto& lookup = dynamic_cast<suite::frmLookup&>(opened);
+      support::Enter(lookup.txtsearch, "Knife set 8");
+      support::Click(lookup.cmdOk);
+    });
+    support::Press(form->txtitemcode, "F3");
+    EXPECT_EQ(ChosenItem(), "Knife set 8 pieces with block");
+    support::Click(form->cmdOk);
+    EXPECT_EQ(editor->lvwrequest.Item(1).SubItem(goods::kLineItemCode), "KT1016");
+
+    // After the line is added its item is still in the combo: closing the lookup must not choose it again.
+    shop.desktop.ExpectForm("frmLookup", [](controls::Form& lookup) { lookup.CloseByUser(); });
+    support::Press(form->txtitemcode, "F3");
+    EXPECT_EQ(ChosenItem(), "");
+    EXPECT_EQ(form->txtQuantity.Text(), "");
+    EXPECT_TRUE(form->txtitemcode.HasFocus());
+  });
+}
+
+TEST_F(SuiteLookup, EveryListCanBeShown) {
+  Add([&] {
+    for (controls::OptionButton* option :
+         {&form->optStockoutitems, &form->optAvaingodnotinshop, &form->optall, &form->optItemsNotInShop}) {
+      support::Click(*option);
+      shop.desktop.ExpectForm("frmLookup", [&](controls::Form& opened) {
+        auto& lookup = dynamic_cast<suite::frmLookup&>(opened);
+        EXPECT_NE(lookup.flexMaster.TextMatrix(1, 1), "") << option->Name();
+        support::Press(lookup.flexMaster, "Enter");
+      });
+      support::Click(form->cmdFetch);
+      EXPECT_NE(ChosenItem(), "") << option->Name();
+    }
+  });
+}
+
+}  // namespace
+}  // namespace itementry_test

@@ -1,0 +1,120 @@
+#include "tests/src/itementry/item_entry_shop.h"
+
+namespace itementry_test {
+namespace {
+
+using Opening = ItemEntryShop;
+
+std::string CannotCreate() {
+  return std::string(vb::ErrorText(vb::kCannotCreateObject));
+}
+
+TEST_F(Opening, AddingStartsEmptyInTheBarcodeBox) {
+  Add([&] {
+    EXPECT_EQ(form->Caption(), "Goods Request Details");
+    EXPECT_EQ(ChosenItem(), "");
+    EXPECT_TRUE(form->txtitemcode.HasFocus());
+    EXPECT_TRUE(form->optall.Value());
+    EXPECT_TRUE(form->cmdFetch.Enabled());
+    EXPECT_EQ(EnabledNavigation(), "");
+  });
+}
+
+TEST_F(Opening, NavigationNeedsTwoLines) {
+  GivenLine(1, "2.000");
+  Add([&] { EXPECT_EQ(EnabledNavigation(), ""); });
+  GivenLine(2, "3.000");
+  Add([&] { EXPECT_EQ(EnabledNavigation(), "First Prev Next Last"); });
+}
+
+TEST_F(Opening, TheLastFetchModeIsSelectedAgain) {
+  const std::vector<std::pair<std::string, controls::OptionButton*>> modes{{"QUERY1", &form->optStockoutitems},
+                                                                           {"QUERY2", &form->optAvaingodnotinshop},
+                                                                           {"QUERY3", &form->optall},
+                                                                           {"QUERY4", &form->optItemsNotInShop},
+                                                                           {"", &form->optall}};
+  for (const auto& [mode, option] : modes) {
+    session.gStrFetchMode = mode;
+    Add([&, chosen = option] { EXPECT_TRUE(chosen->Value()) << mode; });
+  }
+}
+
+TEST_F(Opening, AShopThatRequestsOnlyItsOwnItemsHasThreeLists) {
+  LogOnTo(2);
+  session.gStrFetchMode = "QUERY4";  // left over from a shop that has the fourth
+  Add([&] {
+    EXPECT_FALSE(form->optItemsNotInShop.Visible());
+    EXPECT_TRUE(form->optall.Value());
+    EXPECT_EQ(form->picOptions.Place().left, 990);
+    EXPECT_EQ(form->picOptions.Place().width, 7765);
+    EXPECT_EQ(form->optStockoutitems.Place().left, 0);
+    EXPECT_EQ(form->optAvaingodnotinshop.Place().left, 1485);
+    EXPECT_EQ(form->optall.Place().left, 5580);
+  });
+}
+
+TEST_F(Opening, OnlyShopsSetUpForItSeeTheAvailableQuantity) {
+  Add([&] { EXPECT_TRUE(form->txtavailqty.Visible() && form->lblavail.Visible()); });
+  LogOnTo(2);
+  Add([&] {
+    EXPECT_FALSE(form->txtavailqty.Visible() || form->lblavail.Visible());
+    Scan("KT1001");
+  });
+  EXPECT_TRUE(shop.log.Starting("select isnull(sum(gsstock)").empty());
+}
+
+TEST_F(Opening, AliasesNameTheShopAndTheGodown) {
+  shop.Run("update aPackageSettings set alias = 1");
+  Add([&] {
+    EXPECT_EQ(form->optAvaingodnotinshop.Caption(), "Available in Warehouse Not available in Store");
+    EXPECT_EQ(form->optall.Caption(), "All I&tems in Store");
+    EXPECT_EQ(form->optItemsNotInShop.Caption(), "Items &not in Store");
+    EXPECT_EQ(form->optStockoutitems.Caption(), "&Stock Out Items");
+  });
+  shop.Run("update aPackageSettings set alias = 0");
+  Add([&] { EXPECT_EQ(form->optall.Caption(), "All I&tems in Shop"); });
+}
+
+TEST_F(Opening, WhereCodesMayRepeatTheBarcodeBoxIsClosed) {
+  shop.Run("update aPackageSettings set allowitemcodeduplication = 1");
+  Add([&] {
+    EXPECT_FALSE(form->txtitemcode.Enabled());
+    EXPECT_TRUE(form->cboItem.HasFocus());
+  });
+}
+
+TEST_F(Opening, WithoutTheLookupLinesAreStillEntered) {
+  shop.registry.Unregister("Lookup.clsFetch");
+  ExpectError(CannotCreate(), "Form_Load", vb::kCannotCreateObject);
+  Add([&] {
+    ExpectError(CannotCreate(), "FillItemList", vb::kCannotCreateObject);
+    support::Press(form->txtitemcode, "F3");
+    Scan("KT1001");
+    support::Click(form->cmdOk);
+    EXPECT_EQ(LineCount(), 1);
+  });
+}
+
+TEST_F(Opening, AnotherListStartsANewLineWhileAdding) {
+  GivenLine(1, "2.000");
+  Add([&] {
+    Scan("KT1002");
+    support::Type(form->txtreqcomments, "blue");
+    support::Click(form->optStockoutitems);
+    EXPECT_EQ(form->cboItem.ListCount(), 0);
+    EXPECT_EQ(form->lvwpacktype.Count(), 0);
+    for (const controls::TextBox* box :
+         {&form->txtavailqty, &form->txtitemcode, &form->txtpartcode, &form->txtQuantity, &form->txtreqcomments}) {
+      EXPECT_EQ(box->Text(), "") << box->Name();
+    }
+    support::Press(form->optStockoutitems, "Enter");
+    EXPECT_TRUE(form->cmdFetch.HasFocus());
+  });
+}
+
+TEST_F(Opening, BothKeysThatFindItemsAreNamed) {
+  Add([&] { EXPECT_EQ(form->cmdFetch.ToolTipText(), "Fetch items (F3), search items (Shift+F3)"); });
+}
+
+}  // namespace
+}  // namespace itementry_test
