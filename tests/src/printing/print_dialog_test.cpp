@@ -1,0 +1,167 @@
+#include <gtest/gtest.h>
+
+#include "src/printing/frm_print.h"
+#include "tests/src/printing/slip_shop.h"
+
+namespace {
+
+using support::SlipShop;
+
+/// Notes every call the report server gets; what it returns notes too.
+class ReportServer : public late::Object {
+ public:
+  ReportServer(std::string name, std::shared_ptr<std::vector<std::string>> calls)
+      : name_(std::move(name)), calls_(std::move(calls)) {}
+  late::Value Invoke(std::string_view member, late::Access, std::span<late::Value> arguments) override {
+    std::string call = name_ + "." + std::string(member);
+    for (const late::Value& argument : arguments) call += "|" + argument.TextOrEmpty();
+    const bool answersObject =
+        member == "OpenReport" || member == "ParameterFields" || member == "Item" || member == "PrintWindowOptions";
+    if (!answersObject || member == "OpenReport") calls_->push_back(call);
+    if (!answersObject) return {};
+    const std::string index = member == "Item" ? "(" + arguments[0].ToText() + ")" : "";
+    return late::Value(late::ObjectPtr(std::make_shared<ReportServer>(std::string(member) + index, calls_)));
+  }
+  bool Has(std::string_view) const override { return true; }
+  std::string TypeName() const override { return name_; }
+
+ private:
+  std::string name_;
+  std::shared_ptr<std::vector<std::string>> calls_;
+};
+
+/// The register with request 5 in its current row, and the print dialog over it.
+class PrintDay : public SlipShop {
+ public:
+  PrintDay() : registerForm(std::make_shared<goods::frmMaster>(session)), view{registerForm->flexMaster, ""} {
+    LogOn();
+    Settings({});
+    registerForm->Load();
+    errors->lines.clear();
+    registerForm->flexMaster.SetTextMatrix(1, 0, "5");
+    registerForm->flexMaster.SetRow(1);
+    dialog = std::make_shared<goods::frmPrint>(session, view);
+  }
+  void Print(const std::function<void(goods::frmPrint&)>& work) {
+    desktop.ExpectForm("frmPrint", [&](controls::Form&) { work(*dialog); });
+    dialog->Show();
+  }
+
+  std::shared_ptr<goods::frmMaster> registerForm;
+  goods::RegisterView view;
+  std::shared_ptr<goods::frmPrint> dialog;
+};
+
+TEST(PrintDialog, OpensOnTheScreenWhateverTheSettingsChose) {
+  PrintDay day;
+  for (const auto& [windowsprint, printtoscreen] : {std::pair{"0", "0"}, {"0", "1"}, {"1", "0"}}) {
+    day.Settings({{"windowsprint", windowsprint}, {"printtoscreen", printtoscreen}});
+    day.Print([&](goods::frmPrint& dialog) {
+      EXPECT_TRUE(dialog.optScreen.Value());
+      EXPECT_FALSE(dialog.optPrint.Value());
+      EXPECT_EQ(dialog.optwindowsprint.Visible(), std::string_view(windowsprint) == "1");
+      support::Press(dialog.optScreen, "Esc");
+      EXPECT_FALSE(dialog.IsLoaded());
+    });
+  }
+  EXPECT_TRUE(day.workstation.started.empty());
+}
+
+TEST(PrintDialog, ToScreenWritesTheSlipAndStartsTheEditorMaximised) {
+  struct Case {
+    const char* windows;
+    const char* editorFile;
+    const char* commandLine;
+  };
+  for (const Case& machine :
+       {Case{"C:\\WINDOWS", "C:\\WINDOWS\\command\\edit.com", "C:\\WINDOWS\\command\\edit.com   c:\\Reqtohq.txt"},
+        Case{"C:\\WinNT", "C:\\WinNT\\system32\\edit.com", "C:\\WinNT\\system32\\edit.com   c:\\Reqtohq.txt"},
+        Case{"C:\\Windows", "", "notepad.exe   c:\\Reqtohq.txt"}}) {
+    PrintDay day;
+    day.workstation.windowsDirectory = machine.windows;
+    if (*machine.editorFile != '\0') day.workstation.files[machine.editorFile] = "program";
+    day.Print([](goods::frmPrint& dialog) { support::Click(dialog.cmdOK); });
+    ASSERT_EQ(day.workstation.started.size(), 1u);
+    EXPECT_EQ(day.workstation.started[0].first, machine.commandLine);
+    EXPECT_EQ(day.workstation.started[0].second, 3);
+    EXPECT_TRUE(day.workstation.files.contains("C:\\Reqtohq.txt"));
+    EXPECT_TRUE(day.desktop.sawHourglass);
+    EXPECT_EQ(day.desktop.hourglasses, 0);
+  }
+}
+
+TEST(PrintDialog, AGuardedRootOfDriveCSendsTheSlipToTheTemporaryFolder) {
+  PrintDay day;
+  day.workstation.refusedPaths.insert("C:\\Reqtohq.txt");
+  day.Print([](goods::frmPrint& dialog) { support::Click(dialog.cmdOK); });
+  EXPECT_TRUE(day.workstation.files.contains("C:\\temp\\Reqtohq.txt"));
+  ASSERT_EQ(day.workstation.started.size(), 1u);
+  EXPECT_EQ(day.workstation.started[0].first, "notepad.exe   C:\\temp\\Reqtohq.txt");
+}
+
+TEST(PrintDialog, ToPrinterWritesToThePortOnly) {
+  PrintDay day;
+  day.Print([](goods::frmPrint& dialog) {
+    support::Click(dialog.optPrint);
+    support::Click(dialog.cmdOK);
+  });
+  EXPECT_TRUE(day.workstation.files.contains("LPT1"));
+  EXPECT_FALSE(day.workstation.files.contains("C:\\Reqtohq.txt"));
+  EXPECT_TRUE(day.workstation.started.empty());
+}
+
+TEST(PrintDialog, APortThatCannotBeReachedIsToldAndTheDialogGoes) {
+  PrintDay day;
+  day.workstation.refusedPaths.insert("LPT1");
+  day.Print([](goods::frmPrint& dialog) {
+    support::Click(dialog.optPrint);
+    support::Click(dialog.cmdOK);
+    EXPECT_FALSE(dialog.IsLoaded());
+  });
+  EXPECT_EQ(day.errors->lines, std::vector<std::string>{"frmMaster |PrintBill|70|"});
+}
+
+TEST(PrintDialog, WindowsPrintDrivesTheReportServerInOrder) {
+  PrintDay day;
+  const auto calls = std::make_shared<std::vector<std::string>>();
+  day.registry.Register("Crystal.CRPE.Application", [calls] { return std::make_shared<ReportServer>("Application", calls); });
+  day.Settings({{"windowsprint", "1"}});
+  day.workstation.files["C:\\shop\\ShopSetting.txt"] += "reportpassword :=own secret\r\n";
+  day.Print([](goods::frmPrint& dialog) {
+    support::Click(dialog.optwindowsprint);
+    support::Click(dialog.cmdOK);
+  });
+  const std::vector<std::string> expected = {"Application.LogOnServer|pdsodbc.dll|admindsnv2|adminv2|admin|own secret",
+                                             "Application.OpenReport|C:\\shop\\reports\\reqtohq.rpt",
+                                             "Item(1).SetCurrentValue|Request To HQ",
+                                             "Item(2).SetCurrentValue| ",
+                                             "Item(3).SetCurrentValue|5",
+                                             "Item(4).SetCurrentValue|1",
+                                             "Item(5).SetCurrentValue|Ana Lima",
+                                             "Item(6).SetCurrentValue|Grocery"};
+  ASSERT_GE(calls->size(), expected.size() + 2);
+  EXPECT_EQ(std::vector<std::string>(calls->begin(), calls->begin() + static_cast<long>(expected.size())), expected);
+  EXPECT_EQ(calls->back(), "OpenReport.Preview|Request To HQ|0|0|0|0|" + std::to_string(0x1CF0000));
+  EXPECT_TRUE(day.errors->lines.empty());
+}
+
+TEST(PrintDialog, WithoutAReportServerTheDialogSaysSoAndGoes) {
+  PrintDay day;
+  day.Settings({{"windowsprint", "1"}});
+  day.Print([](goods::frmPrint& dialog) {
+    support::Click(dialog.optwindowsprint);
+    support::Click(dialog.cmdOK);
+    EXPECT_FALSE(dialog.IsLoaded());
+  });
+  EXPECT_EQ(day.errors->lines, std::vector<std::string>{"frmPrint |WIndowsprint|429|"});
+}
+
+TEST(PrintDialog, ARegisterWithoutACurrentRequestPassesNought) {
+  PrintDay day;
+  day.registerForm->flexMaster.SetTextMatrix(1, 0, "");
+  day.Print([](goods::frmPrint& dialog) { support::Click(dialog.cmdOK); });
+  EXPECT_EQ(day.log.Starting("select u.UnitCode").size(), 1u);
+  EXPECT_NE(day.log.Starting("select u.UnitCode")[0].find("h.GRHrequestID=0 "), std::string::npos);
+}
+
+}  // namespace
