@@ -155,6 +155,8 @@ create table aTableColumns (
     columnheader varchar(100) null
 )
 go
+create index aTableColumnsTable on aTableColumns (tableid)
+go
 create table aListviewHeader (
     lvwid int not null,
     lvwtransname varchar(50) null,
