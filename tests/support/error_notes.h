@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/late/object.h"
+
+namespace support {
+
+/// Stands in for the error component and notes what it is told, "form|routine|number|mode", instead of showing it.
+class ErrorNotes : public late::TableObject<ErrorNotes> {
+ public:
+  /// Puts itself in the place of whatever is registered; the notes outlive the registry's objects.
+  static std::shared_ptr<ErrorNotes> Install(late::ClassRegistry& registry) {
+    auto notes = std::make_shared<ErrorNotes>();
+    registry.Unregister("ErrLog.ErrorDetails");
+    registry.Register("ErrLog.ErrorDetails", [notes] { return notes; });
+    return notes;
+  }
+
+  std::vector<std::string> lines;
+  std::vector<std::string> users;  ///< the user's name of each line
+
+  static const late::MemberTable<ErrorNotes>& Members() {
+    static const late::MemberTable<ErrorNotes> table{{"ErrorTrack",
+                                                      [](ErrorNotes& self, late::Arguments& told) {
+                                                        self.lines.push_back(told[0].ToText() + "|" + told[2].ToText() + "|" +
+                                                                             told[3].ToText() + "|" + told[6].ToText());
+                                                        self.users.push_back(told[1].ToText());
+                                                        return late::Value(true);
+                                                      },
+                                                      nullptr, 8, 8}};
+    return table;
+  }
+  std::string TypeName() const override { return "ErrorDetails"; }
+};
+
+}  // namespace support
