@@ -73,6 +73,14 @@ void Dump(const controls::Control& control, Output& output) {
   }
 }
 
+void Show(const TextDesktop& desktop, Output& output) {
+  // A message may come before there is any form.
+  if (desktop.ActiveForm() || !desktop.HasMessage()) {
+    for (const std::string& line : DrawForm(ActiveForm(desktop))) output.Text(line);
+  }
+  for (const std::string& line : desktop.MessagePicture()) output.Text(line);
+}
+
 void Global(const GlobalReader& globals, std::string_view name, Output& output) {
   const late::Value value = globals(name);
   if (value.IsMissing()) throw CommandError("no global " + Quote(name));
@@ -85,7 +93,7 @@ CommandGroup LookingCommands(const TextDesktop& desktop, Output& output, GlobalR
   CommandGroup group{"Looking", {}};
   group.commands.push_back({"show", "", "the active form as a picture", Moment::Always, [&](Words& words) {
                               words.End();
-                              for (const std::string& line : DrawForm(ActiveForm(desktop))) output.Text(line);
+                              Show(desktop, output);
                             }});
   group.commands.push_back(
       {"get", "NAME.PROPERTY | focus | form", "a property, e.g. get txtRemarks.Text", Moment::Always, [&](Words& words) {

@@ -6,6 +6,7 @@
 #include "base/controls/menu.h"
 #include "base/vb/text.h"
 #include "platform/console/drawing/form_picture.h"
+#include "platform/console/drawing/message_picture.h"
 #include "platform/console/escape.h"
 
 namespace console {
@@ -91,6 +92,16 @@ std::string_view AnswerName(controls::Answer answer) {
     default:
       return "ok";
   }
+}
+
+std::vector<std::string> TextDesktop::MessagePicture() const {
+  if (!message_) return {};
+  std::vector<std::string> buttons;
+  for (const auto button : ButtonsOf(message_->message)) {
+    std::string name(AnswerName(button));
+    buttons.push_back(button == controls::Answer::Ok ? "OK" : vb::UCase(vb::Left(name, 1)) + vb::Mid(name, 2));
+  }
+  return DrawMessage(message_->message, buttons);
 }
 
 void TextDesktop::ReadAndHandle(std::string_view prompt) {

@@ -68,6 +68,18 @@ TEST(Drawing, TheOtherPageShowsItsListAndADisabledButton) {
 )");
 }
 
+TEST(Drawing, AnOpenMessageStandsBelowItsForm) {
+  const std::string picture = PictureOf("click cmdOK\nshow");
+  const std::size_t message = picture.find("┌─ Shop");
+  ASSERT_NE(message, std::string::npos);
+  ExpectPicture("\n" + picture.substr(message), R"(
+┌─ Shop ────────────────────────┐
+│ Save Changes?                 │
+│  < Yes > »< No >  < Cancel >  │
+└───────────────────────────────┘
+)");
+}
+
 TEST(Drawing, ATableKeepsTheCurrentRowInSight) {
   const auto shown = [](long current, long top) {
     const RowWindow window = WindowAround(current, top, 1, 100, 5);

@@ -1,0 +1,27 @@
+#include "platform/console/drawing/message_picture.h"
+
+#include <algorithm>
+
+#include "base/vb/text.h"
+#include "platform/console/drawing/canvas.h"
+
+namespace console {
+
+std::vector<std::string> DrawMessage(const controls::Message& message, const std::vector<std::string>& buttons) {
+  Canvas inside;
+  int row = 0;
+  const std::string text = vb::Replace(vb::Replace(message.text, "\r\n", "\n"), "\r", "\n");
+  for (const std::string& line : vb::Split(text, "\n")) inside.Put(1, row++, line);
+  std::string line;
+  for (std::size_t i = 0; i < buttons.size(); ++i) {
+    line += static_cast<int>(i) + 1 == message.DefaultButton() ? " »< " : "  < ";
+    line += buttons[i] + " >";
+  }
+  inside.Put(0, row, line);
+  Canvas sheet;
+  sheet.Box(0, 0, std::max(inside.Width() + 4, Length(message.title) + 6), inside.Height() + 2, message.title);
+  sheet.Paste(1, 1, inside);
+  return sheet.Lines();
+}
+
+}  // namespace console
