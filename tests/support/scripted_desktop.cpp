@@ -101,8 +101,8 @@ void ScriptedDesktop::RunModal(controls::Form& form) {
   opened.push_back(form.Name());
   Step step;
   if (Next(Step::Kind::Form, form.Name(), step) && step.work) step.work(form);
-  for (int attempt = 0; form.IsLoaded() && attempt < 3; ++attempt) form.CloseByUser();
-  if (form.IsLoaded()) throw std::runtime_error(form.Name() + " cannot be closed");
+  for (int attempt = 0; form.IsShown() && attempt < 3; ++attempt) form.CloseByUser();
+  if (form.IsShown()) throw std::runtime_error(form.Name() + " cannot be closed");
 }
 
 void Type(controls::Control& control, std::string_view text) {
