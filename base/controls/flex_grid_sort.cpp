@@ -1,6 +1,9 @@
 // Sorting of whole rows. Each key is read once from its cell; the rows move once, at the end.
 
 #include <algorithm>
+#include <array>
+#include <cctype>
+#include <charconv>
 #include <numeric>
 
 #include "base/controls/flex_grid.h"
@@ -24,27 +27,83 @@ struct KeyColumn {
 };
 
 /// Comparing folded texts byte by byte orders like a comparison without regard to case.
-std::string Folded(std::string_view text) {
+std::string Folded(const std::string& text) {
+  static const std::array<char, 128> ascii = [] {
+    std::array<char, 128> table{};
+    for (std::size_t c = 0; c < table.size(); ++c) table[c] = static_cast<char>(vb::FoldCharacter(static_cast<char32_t>(c)));
+    return table;
+  }();
   std::string folded;
   folded.reserve(text.size());
   for (std::size_t offset = 0; offset < text.size();) {
+    if (const auto byte = static_cast<unsigned char>(text[offset]); byte < ascii.size()) {
+      folded += ascii[byte];
+      ++offset;
+      continue;
+    }
     vb::AppendCharacter(folded, vb::FoldCharacter(vb::NextCharacter(text, offset)));
   }
   return folded;
 }
 
-void AddGenericKey(KeyColumn& keys, const std::string& text) {
-  const bool number = vb::IsNumeric(text);
-  keys.isNumber.push_back(number ? 1 : 0);
-  keys.numbers.push_back(number ? vb::CDbl(text) : 0);
-  keys.texts.push_back(Folded(text));
+/// Plain figures ("-12.5"), nearly all there is in a column of numbers, read without the runtime's whole number rules.
+bool ReadPlainNumber(const std::string& text, double& number) {
+  constexpr std::size_t kExactDigits = 15;
+  if (text.empty() || text.size() > kExactDigits || text.find_first_not_of("0123456789.-") != std::string::npos) return false;
+  const char* end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
+  return result.ec == std::errc() && result.ptr == end;
+}
+
+double NumberOf(const std::string& text) {
+  double number = 0;
+  return ReadPlainNumber(text, number) ? number : vb::Val(text);
+}
+
+/// Whether the cell counts as a number in a generic sort.
+bool ReadGenericNumber(const std::string& text, double& number) {
+  if (text.empty() || std::isalpha(static_cast<unsigned char>(text.front()))) return false;
+  if (ReadPlainNumber(text, number)) return true;
+  if (!vb::IsNumeric(text)) return false;
+  number = vb::CDbl(text);
+  return true;
+}
+
+using CellTexts = std::vector<const std::string*>;
+
+void FoldAll(KeyColumn& keys, const CellTexts& cells) {
+  keys.texts.reserve(cells.size());
+  for (const std::string* cell : cells) keys.texts.push_back(Folded(*cell));
 }
 
 /// A generic column of numbers alone, or without any, needs no look at each pair.
-void Simplify(KeyColumn& keys) {
-  const auto numbers = std::count(keys.isNumber.begin(), keys.isNumber.end(), 1);
-  if (numbers == 0) keys.kind = KeyKind::Text;
-  if (static_cast<std::size_t>(numbers) == keys.isNumber.size()) keys.kind = KeyKind::Number;
+void ReadGenericKeys(KeyColumn& keys, const CellTexts& cells) {
+  std::size_t numbers = 0;
+  for (const std::string* cell : cells) {
+    double number = 0;
+    const bool isNumber = ReadGenericNumber(*cell, number);
+    numbers += isNumber ? 1 : 0;
+    keys.isNumber.push_back(isNumber ? 1 : 0);
+    keys.numbers.push_back(number);
+  }
+  keys.kind = numbers == cells.size() ? KeyKind::Number : numbers == 0 ? KeyKind::Text : KeyKind::Generic;
+  if (keys.kind != KeyKind::Number) FoldAll(keys, cells);
+}
+
+KeyColumn ReadKeys(GridSort kind, const CellTexts& cells) {
+  KeyColumn keys;
+  if (kind <= GridSort::GenericDescending) {
+    ReadGenericKeys(keys, cells);
+  } else if (kind <= GridSort::NumericDescending) {
+    keys.kind = KeyKind::Number;
+    keys.numbers.reserve(cells.size());
+    for (const std::string* cell : cells) keys.numbers.push_back(NumberOf(*cell));
+  } else if (kind <= GridSort::TextNoCaseDescending) {
+    FoldAll(keys, cells);
+  } else {
+    for (const std::string* cell : cells) keys.texts.push_back(*cell);
+  }
+  return keys;
 }
 
 int Compare(const KeyColumn& keys, std::size_t a, std::size_t b) {
@@ -103,21 +162,10 @@ void FlexGrid::Sort(GridSort kind) {
 
   std::vector<KeyColumn> columns;
   for (long col = std::min(col_, colSel_); col <= std::max(col_, colSel_); ++col) {
-    KeyColumn& keys = columns.emplace_back();
-    for (auto row = begin; row != begin + static_cast<long>(count); ++row) {
-      const std::string& text = CellText(*row, col);
-      if (kind <= GridSort::GenericDescending) {
-        AddGenericKey(keys, text);
-      } else if (kind <= GridSort::NumericDescending) {
-        keys.numbers.push_back(vb::Val(text));
-      } else {
-        keys.texts.push_back(kind <= GridSort::TextNoCaseDescending ? Folded(text) : text);
-      }
-    }
-    keys.kind = kind <= GridSort::GenericDescending   ? KeyKind::Generic
-                : kind <= GridSort::NumericDescending ? KeyKind::Number
-                                                      : KeyKind::Text;
-    if (keys.kind == KeyKind::Generic) Simplify(keys);
+    CellTexts cells;
+    cells.reserve(count);
+    for (auto row = begin; row != begin + static_cast<long>(count); ++row) cells.push_back(&CellText(*row, col));
+    columns.push_back(ReadKeys(kind, cells));
   }
 
   std::vector<std::size_t> order(count);
