@@ -1,0 +1,114 @@
+#include "platform/windows/desktop/combo_view.h"
+
+#include "base/vb/text.h"
+#include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/text_view.h"
+#include "platform/windows/wide_text.h"
+
+namespace windows {
+
+using controls::ComboStyle;
+
+void ComboView::Create(HWND parent, int id) {
+  const DWORD style = combo_.Style() == ComboStyle::DropDownList ? CBS_DROPDOWNLIST : CBS_DROPDOWN | CBS_AUTOHSCROLL;
+  CreateChild(parent, id, WC_COMBOBOXW, "", style | WS_TABSTOP | WS_VSCROLL);
+  ShowEntries();
+}
+
+void ComboView::Update(controls::Aspect aspect) {
+  ControlView::Update(aspect);
+  if (aspect == controls::Aspect::Items) ShowEntries();
+  if (aspect == controls::Aspect::Text || aspect == controls::Aspect::Selection) ShowText();
+}
+
+void ComboView::ShowEntries() {
+  updating_ = true;
+  SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
+  SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
+  for (int index = 0; index < combo_.ListCount(); ++index) {
+    SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(combo_.List(index)).c_str()));
+  }
+  SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(Handle(), nullptr, TRUE);
+  updating_ = false;
+  ShowText();
+}
+
+void ComboView::ShowText() {
+  updating_ = true;
+  SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(combo_.ListIndex()), 0);
+  if (combo_.Style() == ComboStyle::DropDown) {
+    const std::string text = combo_.Text();
+    const std::wstring wide = Wide(text);
+    if (WindowText(Handle()) != wide) SetWindowTextW(Handle(), wide.c_str());
+    const auto units = [&](int characters) { return static_cast<WORD>(Wide(vb::Left(text, characters)).size()); };
+    SendMessageW(Handle(), CB_SETEDITSEL, 0, MAKELPARAM(units(combo_.SelStart()), units(combo_.SelStart() + combo_.SelLength())));
+  }
+  updating_ = false;
+}
+
+void ComboView::OnCommand(int code) {
+  if (updating_) return;
+  if (code == CBN_SELENDOK) {
+    const auto index = static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0));
+    SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
+    if (index >= 0) combo_.Pick(index);
+  } else if (code == CBN_EDITCHANGE) {
+    Pull();
+  }
+}
+
+bool ComboView::WantsNatively(const MSG& message) const {
+  if (message.message == WM_SYSKEYDOWN) return message.wParam == VK_DOWN || message.wParam == VK_UP;
+  if (message.message != WM_KEYDOWN) return false;
+  const WPARAM key = message.wParam;
+  if (key == VK_F4 || key == VK_PROCESSKEY) return true;
+  if (IsDropped()) {
+    return key == VK_UP || key == VK_DOWN || key == VK_PRIOR || key == VK_NEXT || key == VK_RETURN || key == VK_ESCAPE;
+  }
+  return combo_.Style() == ComboStyle::DropDown && (key == VK_LEFT || key == VK_RIGHT || key == VK_HOME || key == VK_END);
+}
+
+void ComboView::Pull() {
+  if (combo_.Style() != ComboStyle::DropDown || IsDropped()) return;
+  const std::wstring text = WindowText(Handle());
+  if (const std::string typed = Utf8(text); typed != combo_.Text()) combo_.TakeEdited(typed);
+  DWORD start = 0;
+  DWORD end = 0;
+  SendMessageW(Handle(), CB_GETEDITSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  const auto characters = [&](DWORD units) {
+    return static_cast<int>(vb::Len(Utf8(std::wstring_view(text).substr(0, std::min<std::size_t>(units, text.size())))));
+  };
+  updating_ = true;
+  combo_.SetSelStart(characters(start));
+  combo_.SetSelLength(characters(end) - characters(start));
+  updating_ = false;
+}
+
+bool ComboView::Copy() {
+  if (combo_.Style() != ComboStyle::DropDown) return false;
+  Pull();
+  const std::string selected = vb::Mid(combo_.Text(), combo_.SelStart() + 1, combo_.SelLength());
+  if (!selected.empty()) PutOnClipboard(Handle(), selected);
+  return true;
+}
+
+bool ComboView::Cut() {
+  if (!Copy()) return false;
+  if (combo_.SelLength() > 0) combo_.TypeOver("");
+  return true;
+}
+
+bool ComboView::Paste() {
+  if (combo_.Style() != ComboStyle::DropDown) return false;
+  Pull();
+  combo_.Paste(ClipboardText(Handle()));
+  return true;
+}
+
+std::optional<LRESULT> ComboView::Intercept(UINT message, WPARAM, LPARAM) {
+  if (message == WM_PASTE && Paste()) return 0;
+  return std::nullopt;
+}
+
+}  // namespace windows

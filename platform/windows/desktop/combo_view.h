@@ -1,0 +1,33 @@
+#pragma once
+
+#include "base/controls/combo_box.h"
+#include "platform/windows/desktop/control_view.h"
+
+namespace windows {
+
+class ComboView : public ControlView {
+ public:
+  ComboView(FormWindow& window, controls::ComboBox& combo) : ControlView(window, combo), combo_(combo) {}
+
+  void Create(HWND parent, int id) override;
+  void Update(controls::Aspect aspect) override;
+  void OnCommand(int code) override;
+  bool WantsNatively(const MSG& message) const override;
+  void Pull() override;
+  bool Copy() override;
+  bool Cut() override;
+  bool Paste() override;
+
+ protected:
+  std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  bool IsDropped() const { return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0; }
+  void ShowEntries();
+  void ShowText();
+
+  controls::ComboBox& combo_;
+  bool updating_ = false;
+};
+
+}  // namespace windows

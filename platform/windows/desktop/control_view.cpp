@@ -1,0 +1,88 @@
+#include "platform/windows/desktop/control_view.h"
+
+#include "base/controls/keys.h"
+#include "platform/windows/desktop/form_window.h"
+#include "platform/windows/wide_text.h"
+
+namespace windows {
+namespace {
+
+int ShiftState(WPARAM mouseKeys) {
+  return ((mouseKeys & MK_SHIFT) != 0 ? controls::kShift : 0) | ((mouseKeys & MK_CONTROL) != 0 ? controls::kCtrl : 0);
+}
+
+}  // namespace
+
+std::wstring WindowText(HWND handle) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(handle, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
+ControlView::~ControlView() {
+  if (handle_ == nullptr) return;
+  RemoveWindowSubclass(handle_, &ControlView::Subclass, 1);
+  DestroyWindow(handle_);
+}
+
+HWND ControlView::CreateChild(HWND parent, int id, const wchar_t* windowClass, const std::string& text, DWORD style,
+                              DWORD extendedStyle) {
+  handle_ = CreateWindowExW(extendedStyle, windowClass, Wide(text).c_str(), style | WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 10, 10,
+                            parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ThisModule(), nullptr);
+  SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(window_.Measures().Font()), FALSE);
+  SetWindowSubclass(handle_, &ControlView::Subclass, 1, reinterpret_cast<DWORD_PTR>(this));
+  return handle_;
+}
+
+void ControlView::Update(controls::Aspect aspect) {
+  switch (aspect) {
+    case controls::Aspect::Enabled:
+    case controls::Aspect::Visible:
+    case controls::Aspect::Position:
+    case controls::Aspect::Layout:
+      window_.Arrange();
+      break;
+    case controls::Aspect::Colors:
+      InvalidateRect(handle_, nullptr, TRUE);
+      break;
+    default:
+      break;
+  }
+}
+
+void ControlView::MouseMoved(POINT) {
+  model_.MouseMove.Fire();
+}
+
+LRESULT CALLBACK ControlView::Subclass(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
+  auto* view = reinterpret_cast<ControlView*>(data);
+  std::optional<LRESULT> answer;
+  view->window_.Guarded([&] { answer = view->Handle(message, wParam, lParam); });
+  return answer ? *answer : DefSubclassProc(handle, message, wParam, lParam);
+}
+
+std::optional<LRESULT> ControlView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SETFOCUS:
+      window_.FocusArrived(*this);
+      break;
+    case WM_MOUSEMOVE:
+      MouseMoved({static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
+      break;
+    case WM_RBUTTONUP: {
+      // The window may be gone once the handlers have run, so nothing of it is touched afterwards.
+      FormWindow& window = window_;
+      const std::weak_ptr<late::Object> form = window.Form().weak_from_this();
+      const int shift = ShiftState(wParam);
+      if (model_.CanFocus() && !model_.HasFocus() && !window.Form().MoveFocus(&model_)) return 0;
+      model_.MouseDown.Fire(controls::kRightButton, shift);
+      if (!form.expired()) model_.MouseUp.Fire(controls::kRightButton, shift);
+      return 0;
+    }
+    default:
+      break;
+  }
+  return Intercept(message, wParam, lParam);
+}
+
+}  // namespace windows

@@ -1,0 +1,111 @@
+// How key messages of a form's windows become the model's keys.
+
+#include "base/controls/keyboard.h"
+#include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/windows_desktop.h"
+
+namespace windows {
+namespace {
+
+using namespace controls;
+
+bool IsDown(int key) {
+  return GetKeyState(key) < 0;
+}
+
+int ShiftState() {
+  return (IsDown(VK_SHIFT) ? kShift : 0) | (IsDown(VK_CONTROL) ? kCtrl : 0) | (IsDown(VK_MENU) ? kAlt : 0);
+}
+
+/// The character that a key-down gives, taken out of the queue; 0 for keys without one. A pair of surrogates is one character.
+char32_t TakeCharacter(const MSG& keyDown) {
+  TranslateMessage(&keyDown);
+  MSG character{};
+  if (!PeekMessageW(&character, keyDown.hwnd, WM_CHAR, WM_CHAR, PM_REMOVE)) return 0;
+  const auto unit = static_cast<char32_t>(character.wParam);
+  if (unit < 0xD800 || unit > 0xDBFF) return unit;
+  if (!PeekMessageW(&character, keyDown.hwnd, WM_CHAR, WM_CHAR, PM_REMOVE)) return 0xFFFD;
+  return 0x10000 + ((unit - 0xD800) << 10) + (static_cast<char32_t>(character.wParam) - 0xDC00);
+}
+
+}  // namespace
+
+bool FormWindow::RunClipboardKey(ControlView& view, WPARAM key, bool control, bool shift) {
+  if (control && !shift) {
+    switch (key) {
+      case 'C':
+      case VK_INSERT:
+        return view.Copy();
+      case 'X':
+        return view.Cut();
+      case 'V':
+        return view.Paste();
+      case 'A':
+        return view.SelectAll();
+      default:
+        return false;
+    }
+  }
+  if (shift && !control && key == VK_INSERT) return view.Paste();
+  return shift && !control && key == VK_DELETE && view.Cut();
+}
+
+void FormWindow::RunNatively(ControlView& view, const MSG& message) {
+  // The handlers hear of the key; what it does to the caret is the window's own.
+  const std::weak_ptr<late::Object> form = form_.weak_from_this();
+  Control& control = view.Model();
+  int code = static_cast<int>(message.wParam);
+  const int shift = ShiftState();
+  if (message.message == WM_KEYDOWN) {
+    if (form_.KeyPreview()) form_.KeyDown.Fire(code, shift);
+    if (code != 0 && form_.IsShown()) control.KeyDown.Fire(code, shift);
+    if (code == 0 || form.expired() || !form_.IsShown()) return;
+  }
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+  if (form.expired() || !form_.IsShown()) return;
+  view.Pull();
+  if (message.message != WM_KEYDOWN) return;
+  if (form_.KeyPreview()) form_.KeyUp.Fire(code, shift);
+  if (form_.IsShown()) control.KeyUp.Fire(code, shift);
+}
+
+bool FormWindow::HandleKey(const MSG& message) {
+  ControlView* view = ViewOf(GetFocus());
+  if (view != nullptr && view->WantsNatively(message)) {
+    RunNatively(*view, message);
+    return true;
+  }
+  KeyStroke key;
+  key.shift = ShiftState();
+  switch (message.message) {
+    case WM_SYSKEYDOWN: {
+      // Alt with a letter or digit is an access key; the rest of the system keys (Alt+F4, Alt+blank) stay the system's.
+      const bool access = (message.wParam >= 'A' && message.wParam <= 'Z') || (message.wParam >= '0' && message.wParam <= '9');
+      if (!access || (key.shift & kAlt) == 0) return false;
+      key.keyCode = static_cast<int>(message.wParam);
+      break;
+    }
+    case WM_KEYDOWN:
+      if (message.wParam == VK_SHIFT || message.wParam == VK_CONTROL || message.wParam == VK_MENU) return false;
+      if (view != nullptr) {
+        view->Pull();
+        if (RunClipboardKey(*view, message.wParam, (key.shift & kCtrl) != 0, (key.shift & kShift) != 0)) return true;
+      }
+      key.keyCode = static_cast<int>(message.wParam);
+      key.character = TakeCharacter(message);
+      break;
+    case WM_CHAR:  // a character without a key of its own: input methods, other programs
+      if (view != nullptr) view->Pull();
+      key.character = static_cast<char32_t>(message.wParam);
+      break;
+    case WM_KEYUP:  // the model's keyboard has told of it
+      return true;
+    default:
+      return false;
+  }
+  PressKey(form_, key);
+  return true;
+}
+
+}  // namespace windows

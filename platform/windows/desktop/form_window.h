@@ -1,0 +1,87 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "base/controls/form.h"
+#include "platform/windows/desktop/control_view.h"
+#include "platform/windows/desktop/metrics.h"
+
+namespace windows {
+
+class WindowsDesktop;
+
+/// The window of one form: its frame, the views of its controls, focus, keys, tool tips and growing. Lives from the form's
+/// showing to its closing.
+class FormWindow {
+ public:
+  FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner);
+  ~FormWindow();
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+
+  HWND Handle() const { return handle_; }
+  controls::Form& Form() const { return form_; }
+  const Metrics& Measures() const { return metrics_; }
+
+  void Show();
+  /// Caption, size and colour from the model.
+  void UpdateFrame();
+  void UpdateControl(controls::Control& control, controls::Aspect aspect);
+  void FocusMoved(controls::Control* control);
+  /// Positions, visibility and enabled state of all controls, once the messages at hand are done.
+  void Arrange();
+  /// A key message for this form: handled by the model's keyboard, by the control's window (then its text is taken over), or not
+  /// at all (false).
+  bool HandleKey(const MSG& message);
+  /// A window got the system's focus, by mouse mostly: the model follows, or takes it back.
+  void FocusArrived(ControlView& view);
+  /// Runs work that came from a window procedure: no exception passes through the system, it waits for the message loop.
+  void Guarded(const std::function<void()>& work);
+  ControlView* ViewOf(const controls::Control* control) const;
+
+ private:
+  struct Dirty {
+    controls::Control* control;
+    controls::Aspect aspect;
+    auto operator<=>(const Dirty&) const = default;
+  };
+
+  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+  bool Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer);
+  LRESULT Paint(UINT message, WPARAM wParam, LPARAM lParam);
+  bool Notify(NMHDR& header, LRESULT& answer);
+  void CreateViews();
+  void CreateToolTips();
+  void ShowToolTip(NMTTDISPINFOW& info);
+  void Flush();
+  void Place();
+  RECT PlaceOf(const controls::Control& control) const;
+  ControlView* ViewOf(HWND child) const;
+  bool RunClipboardKey(ControlView& view, WPARAM key, bool control, bool shift);
+  void RunNatively(ControlView& view, const MSG& message);
+  HBRUSH BrushFor(controls::Color color);
+
+  WindowsDesktop& desktop_;
+  controls::Form& form_;
+  std::shared_ptr<late::Object> keep_;
+  Metrics metrics_;
+  HWND handle_ = nullptr;
+  HWND toolTips_ = nullptr;
+  std::vector<std::unique_ptr<ControlView>> views_;
+  std::map<HWND, ControlView*> viewByHandle_;
+  std::map<controls::Color, HBRUSH> brushes_;
+  std::set<Dirty> dirty_;
+  bool flushPosted_ = false;
+  bool arrange_ = false;
+  bool movingFocus_ = false;
+  SIZE designSize_{};
+  std::wstring toolTipText_;
+};
+
+}  // namespace windows

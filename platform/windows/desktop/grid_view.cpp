@@ -1,0 +1,189 @@
+#include "platform/windows/desktop/grid_view.h"
+
+#include <algorithm>
+
+#include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/lines_view.h"
+#include "platform/windows/wide_text.h"
+
+namespace windows {
+
+using controls::Aspect;
+using controls::GridAlignment;
+
+void GridView::Create(HWND parent, int id) {
+  CreateChild(parent, id, WC_LISTVIEWW, "", WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_OWNERDATA,
+              WS_EX_CLIENTEDGE);
+  const DWORD style = LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER;
+  SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, style, static_cast<LPARAM>(style));
+  ShowColumns();
+  ShowRows();
+}
+
+void GridView::ShowColumns() {
+  const auto count =
+      static_cast<int>(SendMessageW(reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0)), HDM_GETITEMCOUNT, 0, 0));
+  for (int surplus = count - 1; surplus >= grid_.Cols(); --surplus) {
+    SendMessageW(Handle(), LVM_DELETECOLUMN, static_cast<WPARAM>(surplus), 0);
+  }
+  for (int index = 0; index < grid_.Cols(); ++index) {
+    std::wstring text = grid_.FixedRows() > 0 ? Wide(grid_.TextMatrix(0, index)) : std::wstring();
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
+    const GridAlignment alignment = grid_.ColAlignment(index);
+    column.fmt = alignment == GridAlignment::Right    ? LVCFMT_RIGHT
+                 : alignment == GridAlignment::Center ? LVCFMT_CENTER
+                                                      : LVCFMT_LEFT;
+    column.cx = Window().Measures().Pixels(grid_.ColWidth(index));
+    column.pszText = text.data();
+    SendMessageW(Handle(), index < count ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, static_cast<WPARAM>(index),
+                 reinterpret_cast<LPARAM>(&column));
+  }
+}
+
+void GridView::ShowRows() {
+  updating_ = true;
+  const COLORREF back = ScreenColor(grid_.BackColor());
+  SendMessageW(Handle(), LVM_SETBKCOLOR, 0, static_cast<LPARAM>(back));
+  SendMessageW(Handle(), LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(back));
+  SendMessageW(Handle(), LVM_SETITEMCOUNT, static_cast<WPARAM>(std::max(0L, grid_.Rows() - grid_.FixedRows())), LVSICF_NOSCROLL);
+  updating_ = false;
+  ShowCurrentRow();
+}
+
+void GridView::ShowCurrentRow() {
+  updating_ = true;
+  LVITEMW state{};
+  state.stateMask = state.state = LVIS_FOCUSED | LVIS_SELECTED;
+  const long item = grid_.Row() - grid_.FixedRows();
+  if (item >= 0) {
+    SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&state));
+    // A row brought to the top by code stays at the top; otherwise it is enough that the current row is in view.
+    if (grid_.TopRow() != shownTop_ && grid_.TopRow() >= grid_.FixedRows()) {
+      shownTop_ = grid_.TopRow();
+      SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(std::max(0L, grid_.Rows() - grid_.FixedRows() - 1)), FALSE);
+      SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(shownTop_ - grid_.FixedRows()), FALSE);
+    }
+    SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
+  }
+  InvalidateRect(Handle(), nullptr, FALSE);
+  updating_ = false;
+}
+
+void GridView::Update(Aspect aspect) {
+  ControlView::Update(aspect);
+  switch (aspect) {
+    case Aspect::Layout:
+    case Aspect::Items:
+    case Aspect::Text:
+      ShowColumns();
+      ShowRows();
+      break;
+    case Aspect::Selection:
+      ShowCurrentRow();
+      break;
+    case Aspect::Colors:
+      ShowRows();
+      break;
+    default:
+      break;
+  }
+}
+
+bool GridView::IsSelected(long row) const {
+  return row >= std::min(grid_.Row(), grid_.RowSel()) && row <= std::max(grid_.Row(), grid_.RowSel());
+}
+
+void GridView::PaintCell(NMLVCUSTOMDRAW& draw) const {
+  const long row = RowOf(static_cast<int>(draw.nmcd.dwItemSpec));
+  const long column = draw.iSubItem;
+  if (row >= grid_.Rows() || column >= grid_.Cols()) return;
+  const controls::Color fore = grid_.CellForeColor(row, column);
+  const controls::Color back = grid_.CellBackColor(row, column);
+  draw.clrText = ScreenColor(fore == controls::kDefaultColor ? grid_.ForeColor() : fore);
+  draw.clrTextBk = ScreenColor(back == controls::kDefaultColor ? grid_.BackColor() : back);
+  if (!IsSelected(row)) return;
+  COLORREF selection = ScreenColor(grid_.BackColorSel());
+  // A selection in the colour of its surroundings would be none; a text in the colour of the selection cannot be read.
+  if (!IsReadable(selection, draw.clrTextBk)) selection = GetSysColor(COLOR_HIGHLIGHT);
+  draw.clrTextBk = selection;
+  draw.clrText = ScreenColor(grid_.ForeColorSel());
+  if (!IsReadable(draw.clrText, selection))
+    draw.clrText = IsReadable(RGB(255, 255, 255), selection) ? RGB(255, 255, 255) : RGB(0, 0, 0);
+}
+
+LRESULT GridView::Paint(NMLVCUSTOMDRAW& draw) const {
+  switch (draw.nmcd.dwDrawStage) {
+    case CDDS_PREPAINT:
+      return CDRF_NOTIFYITEMDRAW;
+    case CDDS_ITEMPREPAINT:
+      // The window's own idea of a selection stays away: the model's colours show it.
+      draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+      PaintCell(draw);
+      return CDRF_NOTIFYSUBITEMDRAW;
+    case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
+      PaintCell(draw);
+      return CDRF_NEWFONT;
+    default:
+      return CDRF_DODEFAULT;
+  }
+}
+
+void GridView::Clicked(const NMITEMACTIVATE& click) {
+  LVHITTESTINFO hit{};
+  hit.pt = click.ptAction;
+  SendMessageW(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  if (hit.iItem < 0 || RowOf(hit.iItem) >= grid_.Rows()) return;
+  if ((click.uKeyFlags & LVKF_SHIFT) != 0) {
+    grid_.SelectRange(grid_.Row(), RowOf(hit.iItem));
+  } else {
+    grid_.ClickCell(RowOf(hit.iItem), std::clamp<long>(hit.iSubItem, 0, grid_.Cols() - 1));
+  }
+}
+
+std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
+  switch (header.code) {
+    case LVN_GETDISPINFOW: {
+      LVITEMW& item = reinterpret_cast<NMLVDISPINFOW&>(header).item;
+      const long row = RowOf(item.iItem);
+      if ((item.mask & LVIF_TEXT) != 0 && row < grid_.Rows() && item.iSubItem < grid_.Cols()) {
+        CopyText(grid_.TextMatrix(row, item.iSubItem), item);
+      }
+      return 0;
+    }
+    case NM_CUSTOMDRAW:
+      return Paint(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+    case NM_CLICK:
+      Clicked(reinterpret_cast<NMITEMACTIVATE&>(header));
+      return 0;
+    case NM_DBLCLK:
+      grid_.DblClick.Fire();
+      return 0;
+    case LVN_COLUMNCLICK:
+      if (grid_.FixedRows() > 0) grid_.ClickCell(0, reinterpret_cast<NMLISTVIEW&>(header).iSubItem);
+      return 0;
+    case LVN_ITEMCHANGED:
+      // The mouse button went down on another row: it becomes current before the click that follows.
+      if (const auto& change = reinterpret_cast<NMLISTVIEW&>(header);
+          !updating_ && change.iItem >= 0 && (change.uNewState & LVIS_SELECTED) != 0 && RowOf(change.iItem) < grid_.Rows() &&
+          GetKeyState(VK_SHIFT) >= 0 && RowOf(change.iItem) != grid_.Row()) {
+        updating_ = true;
+        grid_.SetRow(RowOf(change.iItem));
+        updating_ = false;
+        InvalidateRect(Handle(), nullptr, FALSE);
+      }
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+void GridView::MouseMoved(POINT point) {
+  LVHITTESTINFO hit{};
+  hit.pt = point;
+  SendMessageW(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  if (hit.iItem < 0 || RowOf(hit.iItem) >= grid_.Rows() || hit.iSubItem >= grid_.Cols()) return;
+  grid_.MoveMouse(RowOf(hit.iItem), hit.iSubItem);
+}
+
+}  // namespace windows

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "base/controls/flex_grid.h"
+#include "platform/windows/desktop/control_view.h"
+
+namespace windows {
+
+/// A flex grid as a virtual list: the grid's row 0 is the heading, the window asks for the rows it shows. Row and cell colours
+/// and the selection are painted from the model.
+class GridView : public ControlView {
+ public:
+  GridView(FormWindow& window, controls::FlexGrid& grid) : ControlView(window, grid), grid_(grid) {}
+
+  void Create(HWND parent, int id) override;
+  void Update(controls::Aspect aspect) override;
+  std::optional<LRESULT> OnNotify(NMHDR& header) override;
+  void MouseMoved(POINT point) override;
+
+ private:
+  void ShowColumns();
+  void ShowRows();
+  void ShowCurrentRow();
+  LRESULT Paint(NMLVCUSTOMDRAW& draw) const;
+  void PaintCell(NMLVCUSTOMDRAW& draw) const;
+  void Clicked(const NMITEMACTIVATE& click);
+  long RowOf(int item) const { return item + grid_.FixedRows(); }
+  bool IsSelected(long row) const;
+
+  controls::FlexGrid& grid_;
+  bool updating_ = false;
+  long shownTop_ = -1;
+};
+
+}  // namespace windows

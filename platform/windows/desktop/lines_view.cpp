@@ -1,0 +1,140 @@
+#include "platform/windows/desktop/lines_view.h"
+
+#include "platform/windows/desktop/form_window.h"
+#include "platform/windows/wide_text.h"
+
+namespace windows {
+
+using controls::Aspect;
+using controls::ColumnAlignment;
+
+void CopyText(const std::string& text, LVITEMW& item) {
+  if (item.cchTextMax <= 0) return;
+  const std::wstring wide = Wide(text);
+  const auto length = std::min(wide.size(), static_cast<std::size_t>(item.cchTextMax) - 1);
+  std::copy_n(wide.begin(), length, item.pszText);
+  item.pszText[length] = L'\0';
+}
+
+void LinesView::Create(HWND parent, int id) {
+  CreateChild(parent, id, WC_LISTVIEWW, "",
+              WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_OWNERDATA | LVS_NOSORTHEADER, WS_EX_CLIENTEDGE);
+  DWORD style = LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER;
+  if (list_.CheckBoxes()) style |= LVS_EX_CHECKBOXES;
+  SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, style, static_cast<LPARAM>(style));
+  // The check marks are the model's.
+  SendMessageW(Handle(), LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK, 0);
+  ShowColumns();
+  ShowLines();
+}
+
+void LinesView::ShowColumns() {
+  while (SendMessageW(Handle(), LVM_DELETECOLUMN, 0, 0) != 0) {
+  }
+  for (int index = 1; index <= list_.ColumnCount(); ++index) {
+    const controls::ColumnHeader& header = list_.Column(index);
+    std::wstring text = Wide(header.text);
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
+    column.fmt = header.alignment == ColumnAlignment::Right    ? LVCFMT_RIGHT
+                 : header.alignment == ColumnAlignment::Center ? LVCFMT_CENTER
+                                                               : LVCFMT_LEFT;
+    column.cx = Window().Measures().Pixels(header.width);
+    column.pszText = text.data();
+    SendMessageW(Handle(), LVM_INSERTCOLUMNW, static_cast<WPARAM>(index - 1), reinterpret_cast<LPARAM>(&column));
+  }
+}
+
+void LinesView::ShowLines() {
+  updating_ = true;
+  const COLORREF back = ScreenColor(list_.BackColor());
+  SendMessageW(Handle(), LVM_SETBKCOLOR, 0, static_cast<LPARAM>(back));
+  SendMessageW(Handle(), LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(back));
+  SendMessageW(Handle(), LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(ScreenColor(list_.ForeColor())));
+  SendMessageW(Handle(), LVM_SETITEMCOUNT, static_cast<WPARAM>(list_.Count()), LVSICF_NOSCROLL);
+  LVITEMW state{};
+  state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  if (const int line = list_.SelectedItem(); line > 0) {
+    state.state = state.stateMask;
+    SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(line - 1), reinterpret_cast<LPARAM>(&state));
+    SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(line - 1), FALSE);
+  } else {
+    SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&state));
+  }
+  InvalidateRect(Handle(), nullptr, FALSE);
+  updating_ = false;
+}
+
+void LinesView::Update(Aspect aspect) {
+  ControlView::Update(aspect);
+  if (aspect == Aspect::Layout) ShowColumns();
+  if (aspect == Aspect::Items || aspect == Aspect::Selection || aspect == Aspect::Layout || aspect == Aspect::Colors) ShowLines();
+}
+
+void LinesView::Describe(LVITEMW& item) const {
+  const int line = item.iItem + 1;
+  if (line < 1 || line > list_.Count()) return;
+  const controls::ListItem& model = list_.Item(line);
+  if ((item.mask & LVIF_TEXT) != 0) {
+    const bool known = item.iSubItem < list_.ColumnCount();
+    CopyText(item.iSubItem == 0 ? model.Text() : known ? model.SubItem(item.iSubItem) : std::string(), item);
+  }
+  if ((item.mask & LVIF_STATE) != 0 && list_.CheckBoxes()) {
+    item.state = INDEXTOSTATEIMAGEMASK(model.Checked() ? 2u : 1u);
+    item.stateMask = LVIS_STATEIMAGEMASK;
+  }
+}
+
+void LinesView::Clicked(const NMITEMACTIVATE& click) {
+  LVHITTESTINFO hit{};
+  hit.pt = click.ptAction;
+  SendMessageW(Handle(), LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  if (hit.iItem < 0 || hit.iItem >= list_.Count()) {
+    list_.Click.Fire();
+  } else if (list_.CheckBoxes() && (hit.flags & LVHT_ONITEMSTATEICON) != 0) {
+    list_.CheckItem(hit.iItem + 1, !list_.Item(hit.iItem + 1).Checked());
+  } else {
+    list_.ClickItem(hit.iItem + 1);
+  }
+}
+
+std::optional<LRESULT> LinesView::OnNotify(NMHDR& header) {
+  switch (header.code) {
+    case LVN_GETDISPINFOW:
+      Describe(reinterpret_cast<NMLVDISPINFOW&>(header).item);
+      return 0;
+    case NM_CLICK:
+      Clicked(reinterpret_cast<NMITEMACTIVATE&>(header));
+      return 0;
+    case NM_DBLCLK:
+      list_.DblClick.Fire();
+      return 0;
+    case LVN_COLUMNCLICK:
+      list_.ColumnClick.Fire(reinterpret_cast<NMLISTVIEW&>(header).iSubItem + 1);
+      return 0;
+    case LVN_ITEMCHANGED:
+      // The mouse button went down on another line; the click follows when it comes up.
+      if (const auto& change = reinterpret_cast<NMLISTVIEW&>(header);
+          !updating_ && change.iItem >= 0 && (change.uNewState & LVIS_SELECTED) != 0 && change.iItem < list_.Count()) {
+        updating_ = true;
+        list_.Select(change.iItem + 1);
+        updating_ = false;
+      }
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::string LinesView::ToolTipAt(POINT point) const {
+  LVHITTESTINFO hit{};
+  hit.pt = point;
+  SendMessageW(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  if (hit.iItem >= 0 && hit.iItem < list_.Count() && hit.iSubItem > 0 && hit.iSubItem < list_.ColumnCount()) {
+    const std::string& tip = list_.Item(hit.iItem + 1).SubItemToolTip(hit.iSubItem);
+    if (!tip.empty()) return tip;
+  }
+  return list_.ToolTipText();
+}
+
+}  // namespace windows

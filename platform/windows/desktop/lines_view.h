@@ -1,0 +1,31 @@
+#pragma once
+
+#include "base/controls/list_view.h"
+#include "platform/windows/desktop/control_view.h"
+
+namespace windows {
+
+/// A list view model as a virtual list: the window asks for the lines it shows.
+class LinesView : public ControlView {
+ public:
+  LinesView(FormWindow& window, controls::ListView& list) : ControlView(window, list), list_(list) {}
+
+  void Create(HWND parent, int id) override;
+  void Update(controls::Aspect aspect) override;
+  std::optional<LRESULT> OnNotify(NMHDR& header) override;
+  std::string ToolTipAt(POINT point) const override;
+
+ private:
+  void ShowColumns();
+  void ShowLines();
+  void Describe(LVITEMW& item) const;
+  void Clicked(const NMITEMACTIVATE& click);
+
+  controls::ListView& list_;
+  bool updating_ = false;
+};
+
+/// Copies a text into the buffer that the window offers, cut to its size.
+void CopyText(const std::string& text, LVITEMW& item);
+
+}  // namespace windows

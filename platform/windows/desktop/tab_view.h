@@ -1,0 +1,25 @@
+#pragma once
+
+#include <vector>
+
+#include "base/controls/tab_control.h"
+#include "platform/windows/desktop/control_view.h"
+
+namespace windows {
+
+class TabView : public ControlView {
+ public:
+  TabView(FormWindow& window, controls::TabControl& tab) : ControlView(window, tab), tab_(tab) {}
+
+  void Create(HWND parent, int id) override;
+  void Update(controls::Aspect aspect) override;
+  std::optional<LRESULT> OnNotify(NMHDR& header) override;
+
+ private:
+  void ShowPages();
+
+  controls::TabControl& tab_;
+  std::vector<int> shownPages_;  // the model's pages behind the window's tabs
+};
+
+}  // namespace windows

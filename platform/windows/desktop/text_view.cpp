@@ -1,0 +1,147 @@
+#include "platform/windows/desktop/text_view.h"
+
+#include "base/vb/text.h"
+#include "platform/windows/desktop/form_window.h"
+#include "platform/windows/wide_text.h"
+
+namespace windows {
+namespace {
+
+/// Positions of the window are UTF-16 units, of the model characters.
+int UnitsOf(const std::string& text, int characters) {
+  return static_cast<int>(Wide(vb::Left(text, characters)).size());
+}
+int CharactersOf(const std::wstring& text, DWORD units) {
+  return static_cast<int>(vb::Len(Utf8(std::wstring_view(text).substr(0, std::min<std::size_t>(units, text.size())))));
+}
+
+bool IsDown(int key) {
+  return GetKeyState(key) < 0;
+}
+
+}  // namespace
+
+void TextView::Create(HWND parent, int id) {
+  DWORD style = WS_TABSTOP | (box_.MultiLine() ? ES_MULTILINE | ES_WANTRETURN | WS_VSCROLL : ES_AUTOHSCROLL);
+  if (box_.RightAligned()) style |= ES_RIGHT;
+  CreateChild(parent, id, WC_EDITW, box_.Text(), style, WS_EX_CLIENTEDGE);
+  Update(controls::Aspect::Layout);
+}
+
+void TextView::Update(controls::Aspect aspect) {
+  ControlView::Update(aspect);
+  if (aspect != controls::Aspect::Text && aspect != controls::Aspect::Selection && aspect != controls::Aspect::Layout) return;
+  updating_ = true;
+  const std::string& text = box_.Text();
+  const std::wstring wide = Wide(text);
+  if (WindowText(Handle()) != wide) SetWindowTextW(Handle(), wide.c_str());
+  SendMessageW(Handle(), EM_SETSEL, static_cast<WPARAM>(UnitsOf(text, box_.SelStart())),
+               UnitsOf(text, box_.SelStart() + box_.SelLength()));
+  SendMessageW(Handle(), EM_SETREADONLY, box_.Locked(), 0);
+  updating_ = false;
+}
+
+void TextView::OnCommand(int code) {
+  // Input methods, undo and other programs change the window itself; the keys do not.
+  if (code == EN_CHANGE && !updating_) Pull();
+}
+
+void TextView::Pull() {
+  const std::wstring text = WindowText(Handle());
+  DWORD start = 0;
+  DWORD end = 0;
+  SendMessageW(Handle(), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  const int first = CharactersOf(text, start);
+  box_.TakeEdited(Utf8(text), first, CharactersOf(text, end) - first);
+}
+
+bool TextView::WantsNatively(const MSG& message) const {
+  if (message.message != WM_KEYDOWN) return false;
+  switch (message.wParam) {
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_HOME:
+    case VK_END:
+      return true;
+    case VK_UP:
+    case VK_DOWN:
+    case VK_PRIOR:
+    case VK_NEXT:
+      return box_.MultiLine();
+    case VK_PROCESSKEY:
+      return true;
+    case 'Z':
+      return IsDown(VK_CONTROL);
+    default:
+      return false;
+  }
+}
+
+bool TextView::Copy() {
+  Pull();
+  if (box_.SelLength() > 0) PutOnClipboard(Handle(), box_.SelText());
+  return true;
+}
+
+bool TextView::Cut() {
+  Copy();
+  if (!box_.Locked() && box_.SelLength() > 0) box_.TypeOver("");
+  return true;
+}
+
+bool TextView::Paste() {
+  Pull();
+  box_.Paste(ClipboardText(Handle()));
+  return true;
+}
+
+bool TextView::SelectAll() {
+  box_.SelectAll();
+  return true;
+}
+
+std::optional<LRESULT> TextView::Intercept(UINT message, WPARAM, LPARAM) {
+  // The box's own menu pastes and cuts, too.
+  switch (message) {
+    case WM_PASTE:
+      Paste();
+      return 0;
+    case WM_CUT:
+      Cut();
+      return 0;
+    case WM_CLEAR:
+      Pull();
+      if (!box_.Locked() && box_.SelLength() > 0) box_.TypeOver("");
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::string ClipboardText(HWND owner) {
+  if (!OpenClipboard(owner)) return {};
+  std::string text;
+  if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
+    if (const auto* wide = static_cast<const wchar_t*>(GlobalLock(data))) {
+      text = Utf8(wide);
+      GlobalUnlock(data);
+    }
+  }
+  CloseClipboard();
+  return text;
+}
+
+void PutOnClipboard(HWND owner, const std::string& text) {
+  if (!OpenClipboard(owner)) return;
+  EmptyClipboard();
+  const std::wstring wide = Wide(text);
+  const std::size_t bytes = (wide.size() + 1) * sizeof(wchar_t);
+  if (const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes)) {
+    CopyMemory(GlobalLock(memory), wide.c_str(), bytes);
+    GlobalUnlock(memory);
+    if (!SetClipboardData(CF_UNICODETEXT, memory)) GlobalFree(memory);
+  }
+  CloseClipboard();
+}
+
+}  // namespace windows

@@ -1,0 +1,171 @@
+#include "platform/windows/desktop/windows_desktop.h"
+
+#include "base/controls/form.h"
+#include "base/controls/menu.h"
+#include "platform/windows/desktop/form_window.h"
+#include "platform/windows/wide_text.h"
+
+namespace windows {
+namespace {
+
+/// The visible, enabled top-level windows of this thread but `except`.
+std::vector<HWND> EnabledWindowsOfThread(HWND except) {
+  struct Search {
+    HWND except;
+    std::vector<HWND> found;
+  } search{except, {}};
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM data) -> BOOL {
+        auto& wanted = *reinterpret_cast<Search*>(data);
+        if (window != wanted.except && IsWindowVisible(window) && IsWindowEnabled(window)) wanted.found.push_back(window);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+}  // namespace
+
+WindowsDesktop::WindowsDesktop() = default;
+WindowsDesktop::~WindowsDesktop() = default;
+
+FormWindow* WindowsDesktop::WindowOf(const controls::Form& form) const {
+  const auto found = showings_.find(&form);
+  return found == showings_.end() ? nullptr : found->second.window.get();
+}
+
+HWND WindowsDesktop::HandleOf(const controls::Form* form) const {
+  const FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
+  return window != nullptr ? window->Handle() : GetActiveWindow();
+}
+
+void WindowsDesktop::Opening(controls::Form& form, controls::Form* owner) {
+  Showing& showing = showings_[&form];
+  showing.owner = HandleOf(owner);
+  showing.depth = depth_;
+  showing.window = std::make_unique<FormWindow>(*this, form, showing.owner);
+  for (HWND window : EnabledWindowsOfThread(showing.window->Handle())) {
+    EnableWindow(window, FALSE);
+    showing.disabled.push_back(window);
+  }
+  showing.window->Show();
+}
+
+void WindowsDesktop::Closed(controls::Form& form) {
+  const auto found = showings_.find(&form);
+  if (found == showings_.end()) return;
+  Showing showing = std::move(found->second);
+  showings_.erase(found);
+  // The owner is enabled before the window goes: otherwise the system would activate some other program's window.
+  for (HWND window : showing.disabled) EnableWindow(window, TRUE);
+  if (showing.owner != nullptr) SetActiveWindow(showing.owner);
+  if (showing.depth == depth_) return;
+  ShowWindow(showing.window->Handle(), SW_HIDE);
+  leaving_.push_back(std::move(showing));
+}
+
+void WindowsDesktop::Guarded(const std::function<void()>& work) {
+  ++depth_;
+  try {
+    work();
+  } catch (...) {
+    if (!pending_) pending_ = std::current_exception();
+  }
+  --depth_;
+}
+
+void WindowsDesktop::DestroyLeaving() {
+  std::erase_if(leaving_, [&](const Showing& showing) { return showing.depth >= depth_; });
+}
+
+void WindowsDesktop::RaisePending() {
+  if (pending_) std::rethrow_exception(std::exchange(pending_, nullptr));
+}
+
+void WindowsDesktop::Dispatch(MSG& message) {
+  const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+  if (isKey && ActiveForm() != nullptr) {
+    FormWindow* top = WindowOf(*ActiveForm());
+    if (top != nullptr && (message.hwnd == top->Handle() || IsChild(top->Handle(), message.hwnd))) {
+      bool handled = false;
+      Guarded([&] { handled = top->HandleKey(message); });
+      if (handled) return;
+    }
+  }
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+}
+
+void WindowsDesktop::RunModal(controls::Form& form) {
+  while (form.IsShown() && WindowOf(form) != nullptr) {
+    MSG message{};
+    const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+    if (got <= 0) {
+      // The host quits: this loop ends, and so must those around it.
+      PostQuitMessage(static_cast<int>(message.wParam));
+      break;
+    }
+    Dispatch(message);
+    DestroyLeaving();
+    RaisePending();
+  }
+}
+
+void WindowsDesktop::DoEvents() {
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    Dispatch(message);
+  }
+}
+
+controls::Answer WindowsDesktop::MsgBox(controls::Form* owner, const controls::Message& message) {
+  const HWND window = HandleOf(owner != nullptr ? owner : ActiveForm());
+  // The style numbers are the system's own.
+  UINT style = static_cast<UINT>(message.style);
+  if (window == nullptr) style |= MB_TASKMODAL;
+  const int answer = MessageBoxW(window, Wide(message.text).c_str(), Wide(message.title).c_str(), style);
+  return answer == 0 ? message.AnswerOf(message.DefaultButton()) : static_cast<controls::Answer>(answer);
+}
+
+controls::Menu* WindowsDesktop::PopupMenu(controls::Form& form, controls::Menu& menu) {
+  const HMENU popup = CreatePopupMenu();
+  const auto& entries = menu.Entries();
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    if (!entries[i]->Visible()) continue;
+    if (entries[i]->IsSeparator()) {
+      AppendMenuW(popup, MF_SEPARATOR, 0, nullptr);
+    } else {
+      AppendMenuW(popup, entries[i]->Enabled() ? MF_STRING : MF_STRING | MF_GRAYED, i + 1, Wide(entries[i]->Caption()).c_str());
+    }
+  }
+  POINT mouse{};
+  GetCursorPos(&mouse);
+  const auto chosen = static_cast<std::size_t>(
+      TrackPopupMenuEx(popup, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, mouse.x, mouse.y, HandleOf(&form), nullptr));
+  DestroyMenu(popup);
+  return chosen == 0 ? nullptr : entries[chosen - 1];
+}
+
+void WindowsDesktop::Changed(controls::Control& control, controls::Aspect aspect) {
+  if (FormWindow* window = WindowOf(control.Owner())) window->UpdateControl(control, aspect);
+}
+
+void WindowsDesktop::FormChanged(controls::Form& form) {
+  if (FormWindow* window = WindowOf(form)) window->UpdateFrame();
+}
+
+void WindowsDesktop::FocusMoved(controls::Form& form, controls::Control* control) {
+  if (FormWindow* window = WindowOf(form)) window->FocusMoved(control);
+}
+
+void WindowsDesktop::PointerChanged(controls::Form&, bool hourglass) {
+  hourglasses_ += hourglass ? 1 : -1;
+  SetCursor(LoadCursorW(nullptr, IsWaiting() ? IDC_WAIT : IDC_ARROW));
+}
+
+}  // namespace windows

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "base/controls/desktop.h"
+#include "platform/windows/windows_gate.h"
+
+namespace windows {
+
+class FormWindow;
+
+/// The desktop of real windows: one nested message loop a modal form. Belongs to one thread.
+class WindowsDesktop : public controls::Desktop {
+ public:
+  WindowsDesktop();
+  ~WindowsDesktop() override;
+
+  controls::Answer MsgBox(controls::Form* owner, const controls::Message& message) override;
+  controls::Menu* PopupMenu(controls::Form& form, controls::Menu& menu) override;
+  void DoEvents() override;
+
+  void Changed(controls::Control& control, controls::Aspect aspect) override;
+  void FormChanged(controls::Form& form) override;
+  void FocusMoved(controls::Form& form, controls::Control* control) override;
+  void PointerChanged(controls::Form& form, bool hourglass) override;
+
+  bool IsWaiting() const { return hourglasses_ > 0; }
+  /// Runs work that came from a window procedure; an exception waits for the message loop to raise it again.
+  void Guarded(const std::function<void()>& work);
+
+ protected:
+  void Opening(controls::Form& form, controls::Form* owner) override;
+  void RunModal(controls::Form& form) override;
+  void Closed(controls::Form& form) override;
+
+ private:
+  struct Showing {
+    std::unique_ptr<FormWindow> window;
+    HWND owner = nullptr;
+    int depth = 0;               ///< window procedures that were under way when it opened
+    std::vector<HWND> disabled;  ///< the thread's windows that this form disabled, to be enabled again
+  };
+  FormWindow* WindowOf(const controls::Form& form) const;
+  HWND HandleOf(const controls::Form* form) const;
+  /// Hands a message to the form on top or to the system.
+  void Dispatch(MSG& message);
+  void RaisePending();
+  void DestroyLeaving();
+
+  std::map<const controls::Form*, Showing> showings_;
+  std::vector<Showing> leaving_;  // closed inside one of their own window procedures, which must end first
+  int depth_ = 0;                 // window procedures under way
+  int hourglasses_ = 0;
+  std::exception_ptr pending_;
+};
+
+}  // namespace windows

@@ -1,0 +1,193 @@
+#include "platform/windows/workstation/windows_workstation.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "base/vb/error.h"
+#include "platform/windows/wide_text.h"
+#include "platform/windows/windows_gate.h"
+
+namespace windows {
+namespace {
+
+constexpr DWORD kReadBlock = 64 * 1024;
+
+/// The classic number for what the system says about a file.
+[[noreturn]] void RaiseFileError(DWORD error) {
+  switch (error) {
+    case ERROR_FILE_NOT_FOUND:
+      vb::Raise(vb::kFileNotFound);
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_BAD_NETPATH:
+    case ERROR_INVALID_DRIVE:
+      vb::Raise(vb::kPathNotFound);
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+      vb::Raise(vb::kPermissionDenied);
+    case ERROR_INVALID_NAME:
+      vb::Raise(vb::kBadFileName);
+    default:
+      vb::Raise(vb::kPathFileAccess);
+  }
+}
+
+std::wstring FromAnsi(std::string_view bytes) {
+  if (bytes.empty()) return {};
+  const int size = static_cast<int>(bytes.size());
+  std::wstring text(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, nullptr, 0)), L'\0');
+  MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, text.data(), static_cast<int>(text.size()));
+  return text;
+}
+
+std::string ToAnsi(std::wstring_view text) {
+  if (text.empty()) return {};
+  const int size = static_cast<int>(text.size());
+  std::string bytes(static_cast<std::size_t>(WideCharToMultiByte(CP_ACP, 0, text.data(), size, nullptr, 0, nullptr, nullptr)),
+                    '\0');
+  WideCharToMultiByte(CP_ACP, 0, text.data(), size, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
+  return bytes;
+}
+
+/// A system file handle that closes itself.
+class FileHandle {
+ public:
+  FileHandle(std::string_view path, DWORD access, DWORD disposition) {
+    if (path.empty()) vb::Raise(vb::kBadFileName);
+    handle_ = CreateFileW(Wide(path).c_str(), access, FILE_SHARE_READ, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle_ == INVALID_HANDLE_VALUE) RaiseFileError(GetLastError());
+  }
+  ~FileHandle() { Close(); }
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+  HANDLE Get() const { return handle_; }
+  bool Close() {
+    const bool closed = handle_ == INVALID_HANDLE_VALUE || CloseHandle(handle_) != 0;
+    handle_ = INVALID_HANDLE_VALUE;
+    return closed;
+  }
+
+ private:
+  HANDLE handle_ = INVALID_HANDLE_VALUE;
+};
+
+class Reader : public controls::InputFile {
+ public:
+  explicit Reader(std::string_view path) {
+    const FileHandle file(path, GENERIC_READ, OPEN_EXISTING);
+    std::vector<char> block(kReadBlock);
+    for (DWORD read = kReadBlock; read > 0;) {
+      if (!ReadFile(file.Get(), block.data(), kReadBlock, &read, nullptr)) RaiseFileError(GetLastError());
+      text_.append(block.data(), read);
+    }
+  }
+  std::optional<std::string> ReadLine() override {
+    if (position_ >= text_.size()) return std::nullopt;
+    const std::size_t end = std::min(text_.find_first_of("\r\n", position_), text_.size());
+    const std::string_view line = std::string_view(text_).substr(position_, end - position_);
+    position_ = end + 1;
+    if (end + 1 < text_.size() && text_[end] == '\r' && text_[end + 1] == '\n') ++position_;
+    return Utf8(FromAnsi(line));
+  }
+
+ private:
+  std::string text_;
+  std::size_t position_ = 0;
+};
+
+class Writer : public controls::OutputFile {
+ public:
+  Writer(std::string_view path, DWORD disposition)
+      : file_(path, disposition == OPEN_ALWAYS ? FILE_APPEND_DATA : GENERIC_WRITE, disposition) {}
+  void Write(std::string_view text) override {
+    const std::string bytes = ToAnsi(Wide(text));
+    for (std::size_t sent = 0; sent < bytes.size();) {
+      DWORD written = 0;
+      const bool done =
+          WriteFile(file_.Get(), bytes.data() + sent, static_cast<DWORD>(bytes.size() - sent), &written, nullptr) != 0;
+      if (!done || written == 0) RaiseFileError(GetLastError());
+      sent += written;
+    }
+  }
+  void Close() override {
+    if (!file_.Close()) RaiseFileError(GetLastError());
+  }
+
+ private:
+  FileHandle file_;
+};
+
+/// A printer port ("LPT1") opens as what it is; making a file of its name is not asked for.
+bool IsPort(std::string_view path) {
+  return path.size() >= 4 && path.size() <= 5 &&
+         (path.starts_with("LPT") || path.starts_with("COM") || path.starts_with("lpt") || path.starts_with("com"));
+}
+
+std::string FolderOfModule() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                     reinterpret_cast<LPCWSTR>(&FolderOfModule), &module);
+  std::array<wchar_t, 32768> path{};
+  const DWORD length = GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
+  const std::wstring_view whole(path.data(), length);
+  return Utf8(whole.substr(0, whole.find_last_of(L'\\')));
+}
+
+}  // namespace
+
+WindowsWorkstation::WindowsWorkstation(std::string applicationFolder)
+    : applicationFolder_(applicationFolder.empty() ? FolderOfModule() : std::move(applicationFolder)) {}
+
+vb::Date WindowsWorkstation::Now() {
+  SYSTEMTIME now{};
+  GetLocalTime(&now);
+  return vb::MakeDate(now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond);
+}
+
+std::string WindowsWorkstation::WindowsDirectory() {
+  std::array<wchar_t, 260> path{};
+  const UINT length = GetWindowsDirectoryW(path.data(), static_cast<UINT>(path.size()));
+  return Utf8(std::wstring_view(path.data(), std::min<std::size_t>(length, path.size() - 1)));
+}
+
+std::string WindowsWorkstation::TempFolder() {
+  std::array<wchar_t, MAX_PATH + 1> path{};
+  const DWORD length = GetTempPathW(static_cast<DWORD>(path.size()), path.data());
+  std::wstring_view folder(path.data(), std::min<std::size_t>(length, path.size() - 1));
+  if (folder.ends_with(L'\\')) folder.remove_suffix(1);
+  return Utf8(folder);
+}
+
+bool WindowsWorkstation::FileExists(std::string_view path) {
+  const DWORD attributes = GetFileAttributesW(Wide(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+std::unique_ptr<controls::InputFile> WindowsWorkstation::OpenForInput(std::string_view path) {
+  return std::make_unique<Reader>(path);
+}
+
+std::unique_ptr<controls::OutputFile> WindowsWorkstation::OpenForOutput(std::string_view path) {
+  return std::make_unique<Writer>(path, IsPort(path) ? OPEN_EXISTING : CREATE_ALWAYS);
+}
+
+std::unique_ptr<controls::OutputFile> WindowsWorkstation::OpenForAppend(std::string_view path) {
+  return std::make_unique<Writer>(path, OPEN_ALWAYS);
+}
+
+void WindowsWorkstation::StartProgram(std::string_view commandLine, int style) {
+  std::wstring command = Wide(commandLine);
+  STARTUPINFOW start{};
+  start.cb = sizeof(start);
+  start.dwFlags = STARTF_USESHOWWINDOW;
+  start.wShowWindow = static_cast<WORD>(style == 3 ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process)) {
+    vb::Raise(GetLastError() == ERROR_ACCESS_DENIED ? vb::kPermissionDenied : vb::kFileNotFound);
+  }
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+}
+
+}  // namespace windows
