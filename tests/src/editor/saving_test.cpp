@@ -1,0 +1,277 @@
+#include "base/vb/text.h"
+#include "tests/src/editor/editor_shop.h"
+
+namespace editor_test {
+namespace {
+
+using controls::Answer;
+using support::Click;
+using support::Enter;
+
+class Saving : public EditorShop {
+ protected:
+  static constexpr const char* kFinishQuestion =
+      "You have confirmed the transaction as finished.\r\nCannot modify later; Do you want to continue?";
+  static constexpr int kNoIsDefault = controls::kYesNo + controls::kQuestion + controls::kDefaultButton2;
+
+  /// OK refuses: the message, the focus where it can be mended, nothing written, no transaction and no hourglass left behind.
+  void ExpectRefusal(const std::string& message, int style, const controls::Control& focus) {
+    const std::vector<std::string> before = Everything();
+    log.Clear();
+    desktop.ExpectMessage(message, style == controls::kInformation ? Answer::Ok : Answer::No, style);
+    Click(editor->cmdOK);
+    desktop.Verify();
+    EXPECT_TRUE(editor->IsLoaded());
+    EXPECT_TRUE(focus.HasFocus()) << focus.Name();
+    EXPECT_EQ(before, Everything());
+    EXPECT_EQ(log.Starting("begin").size(), log.Starting("rollback").size());
+    EXPECT_EQ(0u, log.Starting("commit").size());
+    EXPECT_EQ(0, desktop.hourglasses);
+  }
+  /// The error that the server has for this statement is reported.
+  void ExpectServersWords(const std::string& statement) {
+    try {
+      shop.Rows(statement);
+      ADD_FAILURE() << "the server takes " << statement;
+    } catch (const vb::RunTimeError& error) {
+      ExpectError(error.Description(), "cmdOK_Click", error.Number());
+    }
+  }
+  void CloseWithoutSaving() {
+    desktop.ExpectMessage("Save Changes?", Answer::No);
+    Click(editor->cmdCancel);
+  }
+};
+
+TEST_F(Saving, ANewRequestIsWrittenWholeInOneTransaction) {
+  New([&] {
+    AddLine(2, "2.500", "blue");
+    AddLine(6, "0.000");
+    Enter(editor->txtRemarks, "  Nora's order ");
+    support::Click(editor->optporeq);
+    log.Clear();
+    Click(editor->cmdOK);
+    EXPECT_FALSE(editor->IsLoaded());
+  });
+  const std::vector<std::string> expected = {
+      "begin",
+      "select GRHrequestID from mosGoodsRequestHeader where grhrequestno='' and grhshopid=1",
+      "select max(grhrequestid) from mosGoodsRequestHeader where grhshopid = 1",
+      "SELECT Prefix FROM aPrefix WHERE InterfaceID = 1503AND FinancialId = (Select FinancialId from aFinancialYear where "
+      "CurFinancialYear = 1) and shopid=1",
+      "Select isnull(max(convert(int,right(GRHrequestNo,len(GRHrequestNo)-3))),0) from mosGoodsRequestHeader where GRHshopid = 1 "
+      "and len(GRHrequestNo)>len('GR/') and  isnumeric(isnull(right(GRHrequestNo,len(GRHrequestNo)-3),0)) =1 and "
+      "substring(GRHrequestNo,1,len('GR/'))='GR/'",
+      "select UserName from aUsers where Userid = 1",
+      "select * from mosGoodsRequestHeader",
+      "select CURRENT_TIMESTAMP",
+      "insert mosGoodsRequestHeader GRHrequestID=8 GRHrequestno=GR/8 GRHrequestdate=2024-03-15 00:00:00 GRHshopID=1 "
+      "GRHremarks=Nora's order GRHrecaddUser=Nora GRHTransFinished=0 GRHNoofDetails=2 GRHrequestTime=2024-03-15 10:30:05 "
+      "GRHhqrequestgenerated=0 GRHrequesttype=P",
+      "select * from mosGoodsRequestDetail where GRDshopID=1",
+      "insert mosGoodsRequestDetail GRDDetailid=1 GRDshopID=1 GRDrequestID=8 GRDitemID=2 GRDreqcomments=blue GRDgoodQty=2.5 "
+      "GRDexpectremarks=  Nora's order ",
+      "insert mosGoodsRequestDetail GRDDetailid=2 GRDshopID=1 GRDrequestID=8 GRDitemID=6 GRDreqcomments= GRDgoodQty=0 "
+      "GRDexpectremarks=  Nora's order ",
+      "select * from mosGoodsRequestDetail where GRDrequestID = 8",
+      "update aShopItemDetail set RequestRaised=1 where Itemid = 2",
+      "update aShopItemDetail set RequestRaised=1 where Itemid = 6",
+      "select * from mosRequestInvDetail",
+      "commit",
+  };
+  std::vector<std::string> sent;
+  for (const std::string& line : log.lines) {
+    const bool auditing = vb::InStr(line, "smpUserAudit") > 0;
+    const bool afterwards = !sent.empty() && sent.back() == "commit";
+    if (!auditing && !afterwards) sent.push_back(line);
+  }
+  EXPECT_EQ(expected, sent);
+  EXPECT_EQ(std::vector<std::string>{"8|GR/8|N"}, shop.Rows("select recordid, recordno, action from smpUserAudit"));
+  EXPECT_EQ(8, session.gLngRequestID);
+  EXPECT_EQ("GR/8", registerForm->flexMaster.TextMatrix(registerForm->flexMaster.Rows() - 1, 1));
+  EXPECT_EQ(0, desktop.hourglasses);
+  EXPECT_TRUE(desktop.sawHourglass);
+
+  // The line without a quantity is stored, but the next one to open the request does not see it.
+  Edit(8, [&] { EXPECT_EQ((std::vector<std::string>{"1|POT|2.500|2"}), Lines()); });
+}
+
+TEST_F(Saving, AnEditedRequestKeepsWhatItWasCreatedWithAndGetsItsLinesAnew) {
+  shop.Run(
+      "insert into mosRequestInvDetail (reqcompanyid, reqdid, reqddetailid, reqinvdshopid, reqinvdinvoiceid) values (1, 7, 1, 1, "
+      "101)");
+  session.gIntUserID = 2;
+  Edit(7, [&] {
+    editor->lvwrequest.Remove(1);
+    AddLine(3, "0.750");
+    Enter(editor->txtRequestNo, "GR/99");
+    Enter(editor->txtrequestDate, "01/01/2020");
+    log.Clear();
+    Click(editor->cmdOK);
+    EXPECT_FALSE(editor->IsLoaded());
+  });
+  const std::vector<std::string> expected = {
+      "begin",
+      "select * from mosGoodsRequestDetail where GRDrequestID = 7",
+      "update aShopItemDetail set RequestRaised=0 where Itemid = 2",
+      "update aShopItemDetail set RequestRaised=0 where Itemid = 1",
+      "select UserName from aUsers where ShopID=1 and Userid=2",
+      "select * from mosGoodsRequestHeader where grhrequestid=7 and grhshopid=1",
+      "update mosGoodsRequestHeader GRHremarks=weekly GRHrecmoduser=Ines GRHTransFinished=0 GRHNoofDetails=2",
+      "Update mosGoodsRequestHeader set updatetime=getdate() where grhrequestid=7  and grhshopid=1",
+      "delete mosGoodsRequestdetail where grdrequestid=7 and grdshopid=1",
+      "select * from mosGoodsRequestDetail where grdrequestid=7 and GRDshopID=1",
+      "insert mosGoodsRequestDetail GRDDetailid=1 GRDshopID=1 GRDrequestID=7 GRDitemID=1 GRDreqcomments= GRDgoodQty=4 "
+      "GRDexpectremarks=weekly",
+      "insert mosGoodsRequestDetail GRDDetailid=2 GRDshopID=1 GRDrequestID=7 GRDitemID=3 GRDreqcomments= GRDgoodQty=0.75 "
+      "GRDexpectremarks=weekly",
+      "select * from mosGoodsRequestDetail where GRDrequestID = 7",
+      "update aShopItemDetail set RequestRaised=1 where Itemid = 1",
+      "update aShopItemDetail set RequestRaised=1 where Itemid = 3",
+      "delete from mosRequestInvDetail where reqdid = 7 and reqcompanyid=1 and reqinvdshopid=1",
+      "select * from mosRequestInvDetail",
+      "insert mosRequestInvDetail reqcompanyid=1 reqdid=7 reqddetailid=1 reqinvdshopid=1 reqinvdinvoiceid=101 reqReexportID=NULL",
+      "commit",
+  };
+  const std::size_t count = std::min(expected.size(), log.lines.size());
+  EXPECT_EQ(expected, std::vector<std::string>(log.lines.begin(), log.lines.begin() + static_cast<long>(count)));
+  EXPECT_EQ(std::vector<std::string>{"GR/7|2024-03-10 00:00:00|p|Ines|Ines|2024-03-15 10:30:05"},
+            shop.Rows("select GRHrequestno, GRHrequestdate, GRHrequesttype, GRHrecaddUser, GRHrecmoduser, updatetime from "
+                      "mosGoodsRequestHeader where GRHrequestID=7"));
+  // The flags know no shops: item 3 is marked in both, item 2 is free in both.
+  EXPECT_EQ((std::vector<std::string>{"1|1|1", "1|2|0", "1|3|1", "2|1|1", "2|2|0", "2|3|1"}),
+            shop.Rows("select ShopID, ItemID, RequestRaised from aShopItemDetail where ItemID <= 3 order by ShopID, ItemID"));
+}
+
+TEST_F(Saving, RefusalsComeInTheirOrderAndLeaveNoTrace) {
+  New([&] {
+    CheckDocuments({"I-103", "X-102"});
+    Enter(editor->txtrequestDate, "31/02/2024");
+    editor->lvwrequest.Clear();
+    Click(editor->chkTransFinished);
+    Enter(editor->txtRemarks, "typed");
+
+    ExpectRefusal("Enter a valid request date", controls::kInformation, editor->txtrequestDate);
+    EXPECT_TRUE(log.lines.empty()) << "the date is looked at before anything else";
+    Enter(editor->txtrequestDate, "2024-03-14");
+
+    ExpectRefusal(
+        "One of the customer requests you selected is a Project Request.\r\n\r\nYou cannot select more than one request when "
+        "project requests are involved. Please select only one customer request and try again",
+        controls::kInformation, editor->lvwCustomerReq);
+    EXPECT_EQ(1, editor->sstabGoodsReq.Tab());
+    CheckDocument("X-102", false);
+
+    ExpectRefusal("Atleast one detail needed", controls::kInformation, editor->cmdOK);
+    AddLine(1, "0.000");
+    AddLine(2, "-3.000");
+    ExpectRefusal("Atleast one detail needed", controls::kInformation, editor->cmdOK);
+    AddLine(3, "0.001");
+
+    ExpectRefusal(kFinishQuestion, kNoIsDefault, editor->chkTransFinished);
+    EXPECT_EQ("typed", editor->txtRemarks.Text());
+
+    desktop.ExpectMessage(kFinishQuestion, Answer::Yes, kNoIsDefault);
+    Click(editor->cmdOK);
+    EXPECT_FALSE(editor->IsLoaded());
+  });
+  EXPECT_EQ("2024-03-14 00:00:00|typed|1|3",
+            shop.Row("select GRHrequestdate, GRHremarks, GRHTransFinished, GRHNoofDetails from mosGoodsRequestHeader where "
+                     "GRHrequestID=8"));
+  EXPECT_EQ("8|3|103|NULL", shop.Row("select reqdid, reqddetailid, reqinvdinvoiceid, reqReexportID from mosRequestInvDetail"));
+}
+
+TEST_F(Saving, ANumberThatExistsAlreadyWritesTheLinksAndClosesAllTheSame) {
+  const std::vector<std::string> headers = shop.Rows("select * from mosGoodsRequestHeader");
+  New([&] {
+    AddLine(1, "1.000");
+    CheckDocuments({"I-102"});
+    Enter(editor->txtRequestNo, "gr/7");  // the server knows no case
+    desktop.ExpectMessage("8 already exists", Answer::Ok, controls::kInformation);
+    Click(editor->cmdOK);
+    EXPECT_FALSE(editor->IsLoaded());
+  });
+  EXPECT_EQ(headers, shop.Rows("select * from mosGoodsRequestHeader"));
+  EXPECT_EQ("2", shop.Row("select count(*) from mosGoodsRequestDetail"));
+  EXPECT_EQ("1|8|2|1|102|NULL", shop.Row("select * from mosRequestInvDetail"));
+  EXPECT_EQ(1u, log.Starting("commit").size());
+}
+
+TEST_F(Saving, AnApostropheInTheNumberFailsTheSaveAndNothingElse) {
+  const std::vector<std::string> before = Everything();
+  New([&] {
+    AddLine(1, "1.000");
+    Enter(editor->txtRequestNo, "O'Dowd");
+    log.Clear();
+    ExpectServersWords("select GRHrequestID from mosGoodsRequestHeader where grhrequestno='O'Dowd' and grhshopid=1");
+    Click(editor->cmdOK);
+    desktop.Verify();
+    EXPECT_EQ("O'Dowd", editor->txtRequestNo.Text());
+    EXPECT_EQ(1u, log.Starting("rollback").size());
+    EXPECT_EQ(before, Everything());
+    CloseWithoutSaving();
+  });
+}
+
+/// A save that fails at any of its steps leaves the database as it was and the editor with all that was typed; the next OK works.
+class FailingSave : public Saving {
+ protected:
+  void FailAtEveryStep() {
+    const std::vector<std::string> before = Everything();
+    const std::vector<std::string> lines = Lines();
+    const std::vector<std::string> documents = Documents();
+    const std::string number = editor->txtRequestNo.Text();
+    const std::int32_t id = session.gLngRequestID;
+    int step = 0;
+    do {
+      log.Clear();
+      log.FailAt(++step);
+      ExpectError("Connection broken by the test", "cmdOK_Click", -2147217900);
+      Click(editor->cmdOK);
+      desktop.Verify();
+      ASSERT_TRUE(editor->IsLoaded()) << "step " << step;
+      EXPECT_EQ(before, Everything()) << "step " << step;
+      EXPECT_EQ(number, editor->txtRequestNo.Text());
+      EXPECT_EQ(id, session.gLngRequestID);
+      EXPECT_EQ(lines, Lines());
+      EXPECT_EQ(documents, Documents());
+      EXPECT_EQ("typed ", editor->txtRemarks.Text());
+      EXPECT_TRUE(editor->cmdOK.Enabled());
+      EXPECT_EQ(0, desktop.hourglasses);
+    } while (log.Starting("commit").empty() && step < 100);
+    EXPECT_GT(step, 15) << "every statement and every row had its turn before the commit";
+    Click(editor->cmdOK);
+    EXPECT_FALSE(editor->IsLoaded());
+  }
+};
+
+TEST_F(FailingSave, OfANewRequest) {
+  New([&] {
+    AddLine(1, "1.000");
+    AddLine(2, "2.000");
+    AddLine(3, "3.000");
+    CheckDocuments({"I-102", "X-102"});
+    Enter(editor->txtRemarks, "typed ");
+    FailAtEveryStep();
+  });
+  EXPECT_EQ("GR/8|3", shop.Row("select GRHrequestno, GRHNoofDetails from mosGoodsRequestHeader where GRHrequestID=8"));
+  EXPECT_EQ("3", shop.Row("select count(*) from mosGoodsRequestDetail where GRDrequestID=8"));
+  EXPECT_EQ("2", shop.Row("select count(*) from mosRequestInvDetail where reqdid=8"));
+}
+
+TEST_F(FailingSave, OfAnEditedRequest) {
+  shop.Run(
+      "insert into mosRequestInvDetail (reqcompanyid, reqdid, reqddetailid, reqinvdshopid, reqinvdinvoiceid) values (1, 7, 1, 1, "
+      "101)");
+  Edit(7, [&] {
+    AddLine(3, "3.000");
+    Enter(editor->txtRemarks, "typed ");
+    FailAtEveryStep();
+  });
+  EXPECT_EQ("typed|3", shop.Row("select GRHremarks, GRHNoofDetails from mosGoodsRequestHeader where GRHrequestID=7"));
+  EXPECT_EQ("3", shop.Row("select count(*) from mosGoodsRequestDetail where GRDrequestID=7"));
+  EXPECT_EQ("101", shop.Row("select reqinvdinvoiceid from mosRequestInvDetail where reqdid=7"));
+}
+
+}  // namespace
+}  // namespace editor_test
