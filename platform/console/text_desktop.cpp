@@ -185,7 +185,7 @@ void TextDesktop::Opened(controls::Form& form) {
 
 void TextDesktop::Closed(controls::Form& form) {
   pictureIsOld_ = true;
-  output_.Line("closed", form.Name());
+  if (!form.IsLoaded()) output_.Line("closed", form.Name());  // an abandoned form was never unloaded
 }
 
 void TextDesktop::Changed(controls::Control& control, controls::Aspect) {

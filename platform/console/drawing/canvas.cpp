@@ -93,4 +93,21 @@ std::string Fit(std::string_view text, int width, Align align) {
   return vb::Space(before) + shown + vb::Space(width - length - before);
 }
 
+std::vector<std::string> Wrapped(std::string_view text, int width) {
+  std::vector<std::string> lines;
+  for (const std::string& paragraph : vb::Split(vb::Replace(vb::Replace(text, "\r\n", "\n"), "\r", "\n"), "\n")) {
+    std::string line;
+    for (const std::string& word : vb::Split(paragraph, " ")) {
+      if (!line.empty() && Length(line) + 1 + Length(word) > width) {
+        lines.push_back(std::move(line));
+        line.clear();
+      }
+      if (!line.empty()) line += ' ';
+      line += word;
+    }
+    lines.push_back(std::move(line));
+  }
+  return lines;
+}
+
 }  // namespace console

@@ -28,6 +28,8 @@ enum class Align { Left, Right, Center };
 
 /// The text in exactly `width` characters: padded, or cut with an ellipsis. Line breaks and tabs become blanks.
 std::string Fit(std::string_view text, int width, Align align = Align::Left);
+/// Breaks at blanks and line ends so that no line is longer than `width`, long words excepted.
+std::vector<std::string> Wrapped(std::string_view text, int width);
 /// Characters of the text.
 int Length(std::string_view text);
 

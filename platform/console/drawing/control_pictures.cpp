@@ -18,24 +18,6 @@ Canvas OneLine(const controls::Control& control, std::string_view text) {
   return sheet;
 }
 
-/// Breaks at blanks and line ends so that no line is longer than `width`, long words excepted.
-std::vector<std::string> Wrapped(std::string_view text, int width) {
-  std::vector<std::string> lines;
-  for (const std::string& paragraph : vb::Split(vb::Replace(text, "\r\n", "\n"), "\n")) {
-    std::string line;
-    for (const std::string& word : vb::Split(paragraph, " ")) {
-      if (!line.empty() && Length(line) + 1 + Length(word) > width) {
-        lines.push_back(std::move(line));
-        line.clear();
-      }
-      if (!line.empty()) line += ' ';
-      line += word;
-    }
-    lines.push_back(std::move(line));
-  }
-  return lines;
-}
-
 }  // namespace
 
 std::string_view MarkOf(const controls::Control& control) {

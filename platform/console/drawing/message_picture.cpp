@@ -2,16 +2,19 @@
 
 #include <algorithm>
 
-#include "base/vb/text.h"
 #include "platform/console/drawing/canvas.h"
 
 namespace console {
+namespace {
+
+constexpr int kMostColumns = 90;
+
+}  // namespace
 
 std::vector<std::string> DrawMessage(const controls::Message& message, const std::vector<std::string>& buttons) {
   Canvas inside;
   int row = 0;
-  const std::string text = vb::Replace(vb::Replace(message.text, "\r\n", "\n"), "\r", "\n");
-  for (const std::string& line : vb::Split(text, "\n")) inside.Put(1, row++, line);
+  for (const std::string& line : Wrapped(message.text, kMostColumns)) inside.Put(1, row++, line);
   std::string line;
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     line += static_cast<int>(i) + 1 == message.DefaultButton() ? " »< " : "  < ";

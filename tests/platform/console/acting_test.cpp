@@ -180,8 +180,7 @@ TEST(Ending, AFormThatRefusesThreeTimesIsAbandoned) {
   stubborn.refusals = 9;
   EXPECT_EQ(stubborn.Play("# nothing more\n\n"),
             "form: frmOrder \"Order \\\"A\\\"\"\n"
-            "error: frmOrder does not close and is abandoned\n"
-            "closed: frmOrder\n");
+            "error: frmOrder does not close and is abandoned\n");
   EXPECT_EQ(stubborn.Form().refusals, 6);
 }
 
