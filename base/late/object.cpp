@@ -49,6 +49,13 @@ std::string Named(std::string_view type, std::string_view member) {
 
 }  // namespace
 
+MemberError::MemberError(long number, std::string_view type, std::string_view member)
+    : RunTimeError(number, std::string(vb::ErrorText(number)) + ": '" + Named(type, member) + "'"), type_(type), member_(member) {}
+
+bool MemberError::IsAbout(const Object& object, std::string_view member) const {
+  return vb::EqualNoCase(member_, member) && type_ == object.TypeName();
+}
+
 Value Object::Get(std::string_view member, std::initializer_list<Value> arguments) {
   CallArguments all;
   for (const Value& argument : arguments) all.Add(argument);
@@ -113,15 +120,12 @@ std::size_t NameIndex::Find(std::string_view name) const {
 }
 
 void RaiseUnknownMember(std::string_view type, std::string_view member) {
-  vb::Raise(vb::kMemberNotFound, std::string(vb::ErrorText(vb::kMemberNotFound)) + ": '" + Named(type, member) + "'");
+  throw MemberError(vb::kMemberNotFound, type, member);
 }
 
 void CheckArgumentCount(std::string_view type, std::string_view member, std::size_t given, int least, int most) {
-  const auto raise = [&](long number) {
-    vb::Raise(number, std::string(vb::ErrorText(number)) + ": '" + Named(type, member) + "'");
-  };
-  if (given < static_cast<std::size_t>(least)) raise(vb::kArgumentNotOptional);
-  if (given > static_cast<std::size_t>(most)) raise(vb::kWrongArgumentCount);
+  if (given < static_cast<std::size_t>(least)) throw MemberError(vb::kArgumentNotOptional, type, member);
+  if (given > static_cast<std::size_t>(most)) throw MemberError(vb::kWrongArgumentCount, type, member);
 }
 
 }  // namespace detail

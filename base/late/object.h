@@ -9,8 +9,23 @@
 #include <vector>
 
 #include "base/late/value.h"
+#include "base/vb/error.h"
 
 namespace late {
+
+class Object;
+
+/// A member that is not there or cannot be used that way (438), called with too many (450) or too few arguments (449). Who passes
+/// the call on can tell whether it is about that very call or about one deeper down.
+class MemberError : public vb::RunTimeError {
+ public:
+  MemberError(long number, std::string_view type, std::string_view member);
+  bool IsAbout(const Object& object, std::string_view member) const;
+
+ private:
+  std::string type_;
+  std::string member_;
+};
 
 enum class Access { Get, Put, PutRef, Call };
 

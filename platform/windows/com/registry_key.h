@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "platform/windows/windows_gate.h"
+
+namespace windows {
+
+/// Owns an open registry key.
+class RegistryKey {
+ public:
+  RegistryKey() = default;
+  explicit RegistryKey(HKEY key) : key_(key) {}
+  RegistryKey(RegistryKey&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
+  RegistryKey& operator=(RegistryKey&& other) noexcept {
+    std::swap(key_, other.key_);
+    return *this;
+  }
+  ~RegistryKey() {
+    if (key_) RegCloseKey(key_);
+  }
+
+  /// Opens the key for writing, making it when it is not there. The system's result is returned.
+  static LSTATUS Create(HKEY root, const std::wstring& path, RegistryKey& key);
+  /// The text of a value of a key; empty when there is none. The empty name is the key's default value.
+  static std::wstring ReadText(HKEY root, const std::wstring& path, const std::wstring& name = {});
+  /// Deletes the key and everything below; that it is not there counts as success.
+  static LSTATUS DeleteTree(HKEY root, const std::wstring& path);
+
+  LSTATUS WriteText(const std::wstring& name, const std::wstring& text) const;
+  HKEY Get() const { return key_; }
+
+ private:
+  HKEY key_ = nullptr;
+};
+
+}  // namespace windows
