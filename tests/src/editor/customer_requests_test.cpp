@@ -166,7 +166,13 @@ TEST_F(CustomerDocuments, AnEditedRequestNeverLosesALink) {
     EXPECT_EQ((Texts{"1|POT|2.500|2", "2|CUP|2.000|1"}), Lines());
     Click(editor->cmdOK);
   });
-  EXPECT_EQ((Texts{"2|999|NULL", "3|NULL|101", "4|NULL|102"}), Links());
+  EXPECT_EQ((Texts{"2|NULL|101", "3|999|NULL", "4|NULL|102"}), Links());
+}
+
+TEST_F(CustomerDocuments, ACancelledRequestShowsItsDocumentsOnce) {
+  Link(7, 1, "102", "null");
+  shop.Run("update mosGoodsRequestHeader set GRHcancel = 1 where GRHrequestID = 7");
+  Edit(7, [&] { EXPECT_EQ((Texts{"[x] I-102", "[ ] I-101", "[ ] I-103", "[ ] X-101", "[ ] X-102"}), Documents()); });
 }
 
 TEST_F(CustomerDocuments, ARequestWithoutLinksStartsWithTheBoxUnticked) {

@@ -28,6 +28,15 @@ class Saving : public EditorShop {
     EXPECT_EQ(0u, log.Starting("commit").size());
     EXPECT_EQ(0, desktop.hourglasses);
   }
+  /// What the save sent, the auditing helper's own statements aside.
+  std::vector<std::string> SentUntilCommit() const {
+    std::vector<std::string> sent;
+    for (const std::string& line : log.lines) {
+      if (vb::InStr(line, "smpUserAudit") == 0) sent.push_back(line);
+      if (line == "commit") break;
+    }
+    return sent;
+  }
   /// The error that the server has for this statement is reported.
   void ExpectServersWords(const std::string& statement) {
     try {
@@ -65,7 +74,7 @@ TEST_F(Saving, ANewRequestIsWrittenWholeInOneTransaction) {
       "select UserName from aUsers where Userid = 1",
       "select * from mosGoodsRequestHeader",
       "select CURRENT_TIMESTAMP",
-      "insert mosGoodsRequestHeader GRHrequestID=8 GRHrequestno=GR/8 GRHrequestdate=2024-03-15 00:00:00 GRHshopID=1 "
+      "insert mosGoodsRequestHeader GRHrequestID=8 GRHrequestno=GR/8 GRHrequestdate=2024/03/15 GRHshopID=1 "
       "GRHremarks=Nora's order GRHrecaddUser=Nora GRHTransFinished=0 GRHNoofDetails=2 GRHrequestTime=2024-03-15 10:30:05 "
       "GRHhqrequestgenerated=0 GRHrequesttype=P",
       "select * from mosGoodsRequestDetail where GRDshopID=1",
@@ -79,13 +88,7 @@ TEST_F(Saving, ANewRequestIsWrittenWholeInOneTransaction) {
       "select * from mosRequestInvDetail",
       "commit",
   };
-  std::vector<std::string> sent;
-  for (const std::string& line : log.lines) {
-    const bool auditing = vb::InStr(line, "smpUserAudit") > 0;
-    const bool afterwards = !sent.empty() && sent.back() == "commit";
-    if (!auditing && !afterwards) sent.push_back(line);
-  }
-  EXPECT_EQ(expected, sent);
+  EXPECT_EQ(expected, SentUntilCommit());
   EXPECT_EQ(std::vector<std::string>{"8|GR/8|N"}, shop.Rows("select recordid, recordno, action from smpUserAudit"));
   EXPECT_EQ(8, session.gLngRequestID);
   EXPECT_EQ("GR/8", registerForm->flexMaster.TextMatrix(registerForm->flexMaster.Rows() - 1, 1));
@@ -111,6 +114,7 @@ TEST_F(Saving, AnEditedRequestKeepsWhatItWasCreatedWithAndGetsItsLinesAnew) {
     EXPECT_FALSE(editor->IsLoaded());
   });
   const std::vector<std::string> expected = {
+      "SELECT * FROM losInvoiceProjectRequestDetails WHERE idrInvoiceId = 101 AND idrShopId = 1 AND idrCompanyId = 1",
       "begin",
       "select * from mosGoodsRequestDetail where GRDrequestID = 7",
       "update aShopItemDetail set RequestRaised=0 where Itemid = 2",
@@ -133,8 +137,7 @@ TEST_F(Saving, AnEditedRequestKeepsWhatItWasCreatedWithAndGetsItsLinesAnew) {
       "insert mosRequestInvDetail reqcompanyid=1 reqdid=7 reqddetailid=1 reqinvdshopid=1 reqinvdinvoiceid=101 reqReexportID=NULL",
       "commit",
   };
-  const std::size_t count = std::min(expected.size(), log.lines.size());
-  EXPECT_EQ(expected, std::vector<std::string>(log.lines.begin(), log.lines.begin() + static_cast<long>(count)));
+  EXPECT_EQ(expected, SentUntilCommit());
   EXPECT_EQ(std::vector<std::string>{"GR/7|2024-03-10 00:00:00|p|Ines|Ines|2024-03-15 10:30:05"},
             shop.Rows("select GRHrequestno, GRHrequestdate, GRHrequesttype, GRHrecaddUser, GRHrecmoduser, updatetime from "
                       "mosGoodsRequestHeader where GRHrequestID=7"));

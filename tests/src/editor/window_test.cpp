@@ -157,6 +157,8 @@ TEST_F(EditorWindow, ClosingAsksOnlyWhenSomethingChanged) {
   });
   Edit(7, [&] {
     Enter(editor->txtRemarks, "monthly");
+    desktop.ExpectForm("frmRequestDetail");
+    Press(editor->lvwrequest, "Ctrl+Enter");  // what the remarks were at first is not forgotten on the way back
     ExpectSaveQuestion(Answer::Cancel);
     Click(editor->cmdCancel);
     ASSERT_TRUE(editor->IsLoaded());
