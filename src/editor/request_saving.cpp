@@ -103,7 +103,7 @@ bool RequestSaving::Save() {
   if (!IsDateReadable() || !IsProjectRuleKept()) return false;
   const controls::Hourglass hourglass(editor_);
   ado::Transaction transaction(session_.gAdoCon);
-  if (!HasDetails()) {
+  if (!editor_.HasLineWithQuantity()) {
     Tell("Atleast one detail needed");
     transaction.Rollback();
     editor_.cmdOK.SetFocus();
@@ -152,10 +152,6 @@ bool RequestSaving::IsProjectRuleKept() {
       "You cannot select more than one request when project requests are involved. "
       "Please select only one customer request and try again");
   return false;
-}
-
-bool RequestSaving::HasDetails() {
-  return editor_.HasLineWithQuantity();
 }
 
 bool RequestSaving::IsFinishConfirmed() {

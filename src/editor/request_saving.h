@@ -30,7 +30,6 @@ class RequestSaving {
 
   bool IsDateReadable();
   bool IsProjectRuleKept();
-  bool HasDetails();
   bool IsFinishConfirmed();
 
   void WriteNewRequest();
