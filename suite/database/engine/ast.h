@@ -13,19 +13,19 @@ namespace suite::ast {
 struct Query;
 
 enum class ExprKind : std::uint8_t {
-  Literal,   // `token`
+  Literal,  // `token`
   Null,
-  Column,    // `qualifier`, `name`
-  Unary,     // `op` '-' '+' '~'
-  Binary,    // `op` + - * / % & | ^
-  Compare,   // `op` = < > L G N
+  Column,   // `qualifier`, `name`
+  Unary,    // `op` '-' '+' '~'
+  Binary,   // `op` + - * / % & | ^
+  Compare,  // `op` = < > L G N
   And,
   Or,
   Not,
-  Like,      // text, pattern, [escape]
-  In,        // value, candidates...
-  InQuery,   // value, query
-  Between,   // value, low, high
+  Like,     // text, pattern, [escape]
+  In,       // value, candidates...
+  InQuery,  // value, query
+  Between,  // value, low, high
   IsNull,
   Exists,
   Case,      // [operand when `flag`], (when, then)..., [else when `hasElse`]
@@ -38,25 +38,23 @@ enum class ExprKind : std::uint8_t {
 struct Expr {
   ExprKind kind = ExprKind::Null;
   char op = 0;
-  bool negated = false;   ///< not like, not in, not between, is not null
-  bool flag = false;      ///< distinct aggregate; a case with operand
+  bool negated = false;  ///< not like, not in, not between, is not null
+  bool flag = false;     ///< distinct aggregate; a case with operand
   bool hasElse = false;
   std::uint32_t token = 0;  ///< where it begins: literals and messages
   std::string qualifier;
-  std::string name;         ///< functions in lower case
+  std::string name;  ///< functions in lower case
   Type type;
   std::vector<std::unique_ptr<Expr>> children;
   std::unique_ptr<Query> query;
 
-  bool IsPredicate() const {
-    return (kind >= ExprKind::Compare && kind <= ExprKind::Exists);
-  }
+  bool IsPredicate() const { return (kind >= ExprKind::Compare && kind <= ExprKind::Exists); }
 };
 using ExprPtr = std::unique_ptr<Expr>;
 
 struct SelectItem {
-  ExprPtr value;           ///< none for a star
-  std::string qualifier;   ///< of a star
+  ExprPtr value;          ///< none for a star
+  std::string qualifier;  ///< of a star
   std::string alias;
 };
 
@@ -71,8 +69,8 @@ struct Source {
   std::string name;  ///< of a table or view
   std::string alias;
   std::uint32_t token = 0;
-  std::unique_ptr<Query> query;          ///< of a derived table
-  std::unique_ptr<Source> left, right;   ///< of a join
+  std::unique_ptr<Query> query;         ///< of a derived table
+  std::unique_ptr<Source> left, right;  ///< of a join
   JoinKind join = JoinKind::Inner;
   ExprPtr on;
 };
@@ -141,15 +139,16 @@ enum class StatementKind : std::uint8_t {
 struct Statement {
   StatementKind kind = StatementKind::Nothing;
   std::uint32_t token = 0;
-  std::uint32_t end = 0;           ///< the token behind it
-  std::string name;                ///< table, view, index, procedure
-  std::string target;              ///< table of an index
-  std::string objectType;          ///< of a drop
+  std::uint32_t end = 0;   ///< the token behind it
+  std::string name;        ///< table, view, index, procedure
+  std::string target;      ///< table of an index
+  std::string objectType;  ///< of a drop
   bool unique = false;
-  std::vector<std::string> columns;             ///< of an insert, a view, an index, an update
-  std::vector<std::vector<ExprPtr>> rows;       ///< of an insert's values; one row of new values for an update; arguments of an execute
+  std::vector<std::string> columns;  ///< of an insert, a view, an index, an update
+  std::vector<std::vector<ExprPtr>>
+      rows;  ///< of an insert's values; one row of new values for an update; arguments of an execute
   std::unique_ptr<Query> query;
-  ExprPtr where;                                ///< also the condition of an if
+  ExprPtr where;  ///< also the condition of an if
   std::vector<ColumnDefinition> definitions;
   std::vector<Key> keys;
   std::vector<ProcedureParameter> parameters;

@@ -12,7 +12,9 @@ int Relation::Find(std::string_view column) const {
   return -1;
 }
 
-Catalog::Catalog() { Clear(); }
+Catalog::Catalog() {
+  Clear();
+}
 
 const Relation* Catalog::FindRelation(std::string_view name) const {
   const auto found = relations_.find(vb::LCase(name));

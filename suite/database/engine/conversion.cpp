@@ -1,11 +1,10 @@
 #include "suite/database/engine/conversion.h"
 
-#include <sqlite3.h>
-
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <sqlite3.h>
 
 #include "base/ado/constants.h"
 #include "base/vb/error.h"
@@ -39,7 +38,8 @@ std::int64_t CheckedWhole(std::int64_t value, const Type& to, int error = 8115) 
       return value;
   }
   if (value < least || value > most) {
-    if (error == 248) RaiseServer(248, "The conversion of the varchar value '" + std::to_string(value) + "' overflowed an int column.");
+    if (error == 248)
+      RaiseServer(248, "The conversion of the varchar value '" + std::to_string(value) + "' overflowed an int column.");
     RaiseOverflow(TypeName(to));
   }
   return value;
@@ -156,7 +156,8 @@ Cell ToWhole(const Cell& value, const Type& from, const Type& to) {
 
 Cell ToDecimal(const Cell& value, const Type& from, const Type& to) {
   if (value.form == Cell::Form::Text) return Cell::Of(TextToUnits(value.text, to));
-  if (from.kind == Kind::Float) return Cell::Of(Rescale(DoubleToUnits(AsDouble(value, from), to.scale), to.scale, to.scale, to.precision));
+  if (from.kind == Kind::Float)
+    return Cell::Of(Rescale(DoubleToUnits(AsDouble(value, from), to.scale), to.scale, to.scale, to.precision));
   return Cell::Of(Rescale(value.integer, from.kind == Kind::Decimal ? from.scale : 0, to.scale, to.precision));
 }
 

@@ -38,15 +38,16 @@ late::Value ToValue(sqlite3_stmt* statement, int column, const Type& type);
 /// Binds at the 1-based index. The text must stay in place until the statement has run when `keep` is false.
 void BindCell(sqlite3_stmt* statement, int index, const Cell& cell, bool keep);
 
-// Decimals: units of the old scale as units of the new one, half away from zero; error 8115 when it has more digits than `precision`.
+// Decimals: units of the old scale as units of the new one, half away from zero; error 8115 when it has more digits than
+// `precision`.
 std::int64_t Rescale(std::int64_t units, int oldScale, int newScale, int precision);
 std::int64_t DoubleToUnits(double value, int scale);
 
 // Dates
 std::int64_t ToMilliseconds(vb::Date date);
 vb::Date FromMilliseconds(std::int64_t milliseconds);
-/// Reads the server's date texts: yyyymmdd, yyyy/mm/dd, yyyy-mm-dd, mm/dd/yyyy, each with an optional time; a time alone; the empty
-/// text is 1 January 1900. Errors 241 and 242.
+/// Reads the server's date texts: yyyymmdd, yyyy/mm/dd, yyyy-mm-dd, mm/dd/yyyy, each with an optional time; a time alone; the
+/// empty text is 1 January 1900. Errors 241 and 242.
 std::int64_t ParseServerDate(std::string_view text);
 /// The server's date text of a style (0, 1, 3, 8, 10x, 11x, 120, 121, 126); error 281 for another style.
 std::string ServerDateText(std::int64_t milliseconds, int style);

@@ -1,8 +1,7 @@
 #include "suite/database/engine/cursor.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
+#include <sqlite3.h>
 
 #include "base/ado/constants.h"
 #include "suite/database/engine/conversion.h"
@@ -43,7 +42,8 @@ Cursor::Row Cursor::ReadRow() {
   Row row;
   const auto& columns = Columns();
   row.values.reserve(columns.size());
-  for (std::size_t i = 0; i < columns.size(); ++i) row.values.push_back(ToValue(rows_.Get(), static_cast<int>(i), columns[i].type));
+  for (std::size_t i = 0; i < columns.size(); ++i)
+    row.values.push_back(ToValue(rows_.Get(), static_cast<int>(i), columns[i].type));
   if (Source().rowIds) row.id = sqlite3_column_int64(rows_.Get(), static_cast<int>(columns.size()));
   return row;
 }
@@ -231,7 +231,8 @@ void Cursor::TakeStreaming(std::int64_t count, const std::vector<int>& columns, 
   onAdded_ = false;
   const auto& definitions = Columns();
   for (std::int64_t taken = 0; (count < 0 || taken < count) && state_ != State::Done; ++taken) {
-    for (const int column : columns) items.push_back(ToValue(rows_.Get(), column, definitions[static_cast<std::size_t>(column)].type));
+    for (const int column : columns)
+      items.push_back(ToValue(rows_.Get(), column, definitions[static_cast<std::size_t>(column)].type));
     Fetch();
   }
 }

@@ -74,9 +74,9 @@ class Cursor {
   std::int64_t read_ = 0;
   std::int64_t position_ = 0;
   std::vector<Row> kept_;
-  std::vector<Row> added_;              ///< new rows, behind all that the query gives
-  std::set<std::int64_t> addedIds_;     ///< not to be met a second time when the query reaches them
-  bool onAdded_ = false;                ///< the current row is the last one added
+  std::vector<Row> added_;           ///< new rows, behind all that the query gives
+  std::set<std::int64_t> addedIds_;  ///< not to be met a second time when the query reaches them
+  bool onAdded_ = false;             ///< the current row is the last one added
 };
 
 }  // namespace suite

@@ -1,10 +1,9 @@
 #include "suite/database/engine/database.h"
 
-#include <sqlite3.h>
-
 #include <atomic>
 #include <chrono>
 #include <ctime>
+#include <sqlite3.h>
 
 #include "suite/database/engine/connection.h"
 #include "suite/database/engine/definitions.h"
@@ -31,7 +30,9 @@ std::string MemoryLocation() {
 
 Database::Database(std::shared_ptr<Store> store) : store_(std::move(store)) {}
 
-Database::~Database() { store_->keeper.reset(); }
+Database::~Database() {
+  store_->keeper.reset();
+}
 
 std::shared_ptr<Database> Database::Open(const std::string& path, Options options) {
   auto store = std::make_shared<Store>();
@@ -50,7 +51,9 @@ late::ObjectPtr Database::Connect(StatementObserver* observer) {
   return std::make_shared<Connection>(std::make_shared<Session>(store_, observer), store_, "embedded:");
 }
 
-void Database::RunScript(std::string_view text) { store_->keeper->RunScript(text); }
+void Database::RunScript(std::string_view text) {
+  store_->keeper->RunScript(text);
+}
 
 bool Database::IsEmpty() const {
   Translation translation;

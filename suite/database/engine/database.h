@@ -15,9 +15,9 @@ struct Store;
 
 /// One database in the server's dialect, in a file or in memory, for any number of connections of this process.
 ///
-/// In a file the store keeps a write-ahead log: a connection reads what was last committed while another one writes, and a process
-/// that dies amid a transaction leaves the state before it. In memory all connections share one store, and a reader also sees
-/// what another connection has not committed yet (no reader ever waits).
+/// In a file the store keeps a write-ahead log: a connection reads what was last committed while another one writes, and a
+/// process that dies amid a transaction leaves the state before it. In memory all connections share one store, and a reader also
+/// sees what another connection has not committed yet (no reader ever waits).
 class Database {
  public:
   struct Options {
@@ -32,7 +32,8 @@ class Database {
 
   /// A new ADO Connection, open. The observer, if there is one, outlives the connection.
   late::ObjectPtr Connect(StatementObserver* observer = nullptr);
-  /// Runs statements separated by lines that hold only "go"; one statement a line when there is no such line. The first error ends it.
+  /// Runs statements separated by lines that hold only "go"; one statement a line when there is no such line. The first error
+  /// ends it.
   void RunScript(std::string_view text);
   /// Whether there is no table in it yet.
   bool IsEmpty() const;

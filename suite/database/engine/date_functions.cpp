@@ -9,13 +9,21 @@ namespace {
 
 constexpr std::int64_t kSecond = 1000, kMinute = 60 * kSecond, kHour = 60 * kMinute, kDay = 24 * kHour;
 
-std::int64_t FloorDivide(std::int64_t a, std::int64_t b) { return a / b - (a % b < 0 ? 1 : 0); }
+std::int64_t FloorDivide(std::int64_t a, std::int64_t b) {
+  return a / b - (a % b < 0 ? 1 : 0);
+}
 
 /// Whole days since the zero date, and the milliseconds behind them.
-std::int64_t DayOf(std::int64_t date) { return FloorDivide(date, kDay); }
-std::int64_t TimeOf(std::int64_t date) { return date - DayOf(date) * kDay; }
+std::int64_t DayOf(std::int64_t date) {
+  return FloorDivide(date, kDay);
+}
+std::int64_t TimeOf(std::int64_t date) {
+  return date - DayOf(date) * kDay;
+}
 
-vb::DateParts PartsOfDay(std::int64_t date) { return vb::PartsOf(FromMilliseconds(DayOf(date) * kDay)); }
+vb::DateParts PartsOfDay(std::int64_t date) {
+  return vb::PartsOf(FromMilliseconds(DayOf(date) * kDay));
+}
 
 /// How many units of the part lie before the date: differences of these are what datediff counts.
 std::int64_t Ordinal(std::string_view part, std::int64_t date) {
@@ -78,11 +86,19 @@ void DateAdd(const FunctionCall& call) {
   call.Return(date + count * unit);
 }
 
-void DateDiff(const FunctionCall& call) { call.Return(Ordinal(call.Text(0), call.Whole(2)) - Ordinal(call.Text(0), call.Whole(1))); }
+void DateDiff(const FunctionCall& call) {
+  call.Return(Ordinal(call.Text(0), call.Whole(2)) - Ordinal(call.Text(0), call.Whole(1)));
+}
 
-void Year(const FunctionCall& call) { call.Return(std::int64_t{PartsOfDay(call.Whole(0)).year}); }
-void Month(const FunctionCall& call) { call.Return(std::int64_t{PartsOfDay(call.Whole(0)).month}); }
-void Day(const FunctionCall& call) { call.Return(std::int64_t{PartsOfDay(call.Whole(0)).day}); }
+void Year(const FunctionCall& call) {
+  call.Return(std::int64_t{PartsOfDay(call.Whole(0)).year});
+}
+void Month(const FunctionCall& call) {
+  call.Return(std::int64_t{PartsOfDay(call.Whole(0)).month});
+}
+void Day(const FunctionCall& call) {
+  call.Return(std::int64_t{PartsOfDay(call.Whole(0)).day});
+}
 
 /// One time for the whole statement, as on the server.
 void GetDate(const FunctionCall& call) {
@@ -94,7 +110,7 @@ void GetDate(const FunctionCall& call) {
 }  // namespace
 
 std::vector<detail::FunctionSpec> detail::DateFunctions() {
-  return {{"srv_datepart", 2, DatePart}, {"srv_dateadd", 3, DateAdd}, {"srv_datediff", 3, DateDiff}, {"srv_year", 1, Year},
+  return {{"srv_datepart", 2, DatePart}, {"srv_dateadd", 3, DateAdd}, {"srv_datediff", 3, DateDiff},     {"srv_year", 1, Year},
           {"srv_month", 1, Month},       {"srv_day", 1, Day},         {"srv_getdate", 0, GetDate, false}};
 }
 

@@ -20,7 +20,8 @@ std::string_view TextOfStatement(const Lexed& lexed, const ast::Statement& state
 }
 
 /// A statement of the store's own with texts bound to ?1, ?2, ...
-void Bound(Session& session, const char* sql, std::initializer_list<std::string_view> texts, std::initializer_list<std::int64_t> numbers = {}) {
+void Bound(Session& session, const char* sql, std::initializer_list<std::string_view> texts,
+           std::initializer_list<std::int64_t> numbers = {}) {
   Translation translation;
   translation.sql = sql;
   const StatementHandle handle = session.Prepare(std::move(translation));
@@ -42,9 +43,13 @@ void Definitions::Store(const std::string& sql) {
 }
 
 void Definitions::Prepare() {
-  Store("CREATE TABLE IF NOT EXISTS sysobjects (id INTEGER PRIMARY KEY, name TEXT COLLATE server UNIQUE, xtype TEXT COLLATE server, "
-        "definition TEXT)");
-  Store("CREATE TABLE IF NOT EXISTS syscolumns (id INT, name TEXT COLLATE server, colid INT, colstat INT, length INT, isnullable INT)");
+  Store(
+      "CREATE TABLE IF NOT EXISTS sysobjects (id INTEGER PRIMARY KEY, name TEXT COLLATE server UNIQUE, xtype TEXT COLLATE "
+      "server, "
+      "definition TEXT)");
+  Store(
+      "CREATE TABLE IF NOT EXISTS syscolumns (id INT, name TEXT COLLATE server, colid INT, colstat INT, length INT, isnullable "
+      "INT)");
 }
 
 void Definitions::Load() {
@@ -68,7 +73,8 @@ Relation Definitions::ShapeOf(ast::Statement& statement) {
   Relation relation{statement.name, false, {}};
   for (const ast::ColumnDefinition& column : statement.definitions) {
     if (relation.Find(column.name) >= 0) {
-      RaiseServer(2705, "Column names in each table must be unique. Column name '" + column.name + "' is specified more than once.");
+      RaiseServer(2705,
+                  "Column names in each table must be unique. Column name '" + column.name + "' is specified more than once.");
     }
     relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, column.rowIdentifier});
   }
@@ -84,43 +90,53 @@ Relation Definitions::ShapeOf(ast::Statement& statement) {
   return relation;
 }
 
-void Definitions::AddToCatalog(const Lexed& lexed, const ast::Statement& statement) {
+void Definitions::AddToCatalog(const Lexed& lexed, ast::Statement& statement) {
   using ast::StatementKind;
   if (statement.kind == StatementKind::CreateTable) {
-    catalog_.Add(ShapeOf(const_cast<ast::Statement&>(statement)));
+    catalog_.Add(ShapeOf(statement));
   } else if (statement.kind == StatementKind::CreateView) {
     std::vector<int> structural;
     const Translation view = Translator(catalog_, lexed, structural, true).View(statement);
     Relation relation{statement.name, true, {}};
-    for (const ResultColumn& column : view.columns) relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, false});
+    for (const ResultColumn& column : view.columns)
+      relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, false});
     catalog_.Add(std::move(relation));
   } else if (statement.kind == StatementKind::CreateProcedure) {
     ProcedureDef procedure{statement.name, {}};
     for (const ast::ProcedureParameter& parameter : statement.parameters) {
-      procedure.parameters.push_back({parameter.name, parameter.type, parameter.hasDefault, ArgumentValue(lexed, parameter.initial.get())});
+      procedure.parameters.push_back(
+          {parameter.name, parameter.type, parameter.hasDefault, ArgumentValue(lexed, parameter.initial.get())});
     }
     catalog_.Add(std::move(procedure));
   }
 }
 
-void Definitions::Run(const Lexed& lexed, const ast::Statement& statement) {
+void Definitions::Run(const Lexed& lexed, ast::Statement& statement) {
+  const std::int64_t version = catalog_.Version();
+  try {
+    session_.Atomically([&] { Change(lexed, statement); });
+  } catch (...) {
+    if (version != catalog_.Version()) Load();
+    throw;
+  }
+}
+
+void Definitions::Change(const Lexed& lexed, ast::Statement& statement) {
   using ast::StatementKind;
-  session_.Atomically([&] {
-    switch (statement.kind) {
-      case StatementKind::CreateTable:
-        return CreateTable(lexed, statement);
-      case StatementKind::CreateView:
-        return CreateView(lexed, statement);
-      case StatementKind::CreateIndex:
-        return CreateIndex(statement);
-      case StatementKind::CreateProcedure:
-        return CreateProcedure(lexed, statement);
-      case StatementKind::AddColumn:
-        return AddColumn(lexed, statement);
-      default:
-        return Drop(statement);
-    }
-  });
+  switch (statement.kind) {
+    case StatementKind::CreateTable:
+      return CreateTable(lexed, statement);
+    case StatementKind::CreateView:
+      return CreateView(lexed, statement);
+    case StatementKind::CreateIndex:
+      return CreateIndex(statement);
+    case StatementKind::CreateProcedure:
+      return CreateProcedure(lexed, statement);
+    case StatementKind::AddColumn:
+      return AddColumn(lexed, statement);
+    default:
+      return Drop(statement);
+  }
 }
 
 void Definitions::RefuseExisting(const std::string& name) const {
@@ -146,16 +162,16 @@ void Definitions::RememberColumns(const Relation& relation) {
   }
 }
 
-void Definitions::CreateTable(const Lexed& lexed, const ast::Statement& statement) {
+void Definitions::CreateTable(const Lexed& lexed, ast::Statement& statement) {
   RefuseExisting(statement.name);
-  const Relation relation = ShapeOf(const_cast<ast::Statement&>(statement));
+  const Relation relation = ShapeOf(statement);
   std::vector<int> structural;
   Store(Translator(catalog_, lexed, structural, true).Table(statement, statement.name).sql);
   Remember(statement.name, "U", TextOfStatement(lexed, statement), &relation);
   AddToCatalog(lexed, statement);
 }
 
-void Definitions::CreateView(const Lexed& lexed, const ast::Statement& statement) {
+void Definitions::CreateView(const Lexed& lexed, ast::Statement& statement) {
   RefuseExisting(statement.name);
   std::vector<int> structural;
   Store(Translator(catalog_, lexed, structural, true).View(statement).sql);
@@ -172,11 +188,11 @@ void Definitions::CreateIndex(const ast::Statement& statement) {
     columns += (columns.empty() ? "" : ", ") + Quoted(table.columns[static_cast<std::size_t>(column)].name);
   }
   // The store's index names are the database's; the server's belong to their table.
-  Store(std::string(statement.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Quoted(table.name + "." + statement.name) + " ON " +
-        Quoted(table.name) + " (" + columns + ")");
+  Store(std::string(statement.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Quoted(table.name + "." + statement.name) +
+        " ON " + Quoted(table.name) + " (" + columns + ")");
 }
 
-void Definitions::CreateProcedure(const Lexed& lexed, const ast::Statement& statement) {
+void Definitions::CreateProcedure(const Lexed& lexed, ast::Statement& statement) {
   RefuseExisting(statement.name);
   Remember(statement.name, "P", TextOfStatement(lexed, statement), nullptr);
   AddToCatalog(lexed, statement);
@@ -210,9 +226,9 @@ void Definitions::AddColumn(const Lexed& lexed, const ast::Statement& statement)
   }
   text += "," + std::string(added.substr(column)) + ")";
   Bound(session_, "UPDATE sysobjects SET definition = ?2 WHERE name = ?1", {table.name, text});
-  Lexed whole2;
-  Lex(text, whole2);
-  AddToCatalog(whole2, *Parser(whole2).Statement(true));
+  Lexed grown;
+  Lex(text, grown);
+  AddToCatalog(grown, *Parser(grown).Statement(true));
   RememberColumns(catalog_.RelationNamed(statement.name));
 }
 
@@ -226,7 +242,8 @@ void Definitions::Drop(const ast::Statement& statement) {
   const bool known = procedure ? catalog_.FindProcedure(statement.name) != nullptr
                                : relation && relation->view == (statement.objectType == "view");
   if (!known || (relation && relation->name.starts_with("sys"))) {
-    RaiseServer(3701, "Cannot drop the " + statement.objectType + " '" + statement.name + "', because it does not exist in the system catalog.");
+    RaiseServer(3701, "Cannot drop the " + statement.objectType + " '" + statement.name +
+                          "', because it does not exist in the system catalog.");
   }
   const std::string name = relation ? relation->name : statement.name;
   if (!procedure) Store((relation->view ? "DROP VIEW " : "DROP TABLE ") + Quoted(name));

@@ -7,7 +7,9 @@
 namespace suite {
 namespace {
 
-long HResult(unsigned code) { return static_cast<long>(static_cast<int>(code)); }
+long HResult(unsigned code) {
+  return static_cast<long>(static_cast<int>(code));
+}
 
 /// The HRESULT under which the classic provider reports a native error.
 long NumberOf(int native) {
@@ -55,7 +57,8 @@ std::string AdoText(long number) {
     case ado::kInTransaction:
       return "Connection object cannot be explicitly closed while in a transaction.";
     case ado::kFeatureNotAvailable:
-      return "Current Recordset does not support updating. This may be a limitation of the provider, or of the selected locktype.";
+      return "Current Recordset does not support updating. This may be a limitation of the provider, or of the selected "
+             "locktype.";
     case ado::kItemNotFound:
       return "Item cannot be found in the collection corresponding to the requested name or ordinal.";
     case ado::kDataConversion:
@@ -87,8 +90,8 @@ std::string Subject(std::string_view message) {
       RaiseServer(515, "Cannot insert the value NULL into column '" + column + "', table '" + table +
                            "'; column does not allow nulls. The statement fails.");
     case SQLITE_CONSTRAINT_PRIMARYKEY:
-      RaiseServer(2627, "Violation of PRIMARY KEY constraint 'PK_" + table + "'. Cannot insert duplicate key in object '" + table +
-                            "' (" + subject + ").");
+      RaiseServer(2627, "Violation of PRIMARY KEY constraint 'PK_" + table + "'. Cannot insert duplicate key in object '" +
+                            table + "' (" + subject + ").");
     case SQLITE_CONSTRAINT_UNIQUE:
       RaiseServer(2601, "Cannot insert duplicate key row in object '" + table + "' with a unique index (" + subject + ").");
     default:
@@ -101,9 +104,13 @@ std::string Subject(std::string_view message) {
 ServerError::ServerError(int native, std::string text)
     : RunTimeError(NumberOf(native), std::move(text), std::string(kProviderName)), native_(native) {}
 
-void RaiseServer(int native, std::string text) { throw ServerError(native, std::move(text)); }
+void RaiseServer(int native, std::string text) {
+  throw ServerError(native, std::move(text));
+}
 
-void RaiseAdo(long number, std::string_view source) { vb::Raise(number, AdoText(number), std::string(source)); }
+void RaiseAdo(long number, std::string_view source) {
+  vb::Raise(number, AdoText(number), std::string(source));
+}
 
 void RaiseFromStore(sqlite3* store, int code) {
   const int extended = store ? sqlite3_extended_errcode(store) : code;
@@ -129,12 +136,16 @@ void RaiseConversion(std::string_view value, std::string_view type) {
                        std::string(type) + ".");
 }
 
-void RaiseDateConversion() { RaiseServer(241, "Syntax error converting datetime from character string."); }
+void RaiseDateConversion() {
+  RaiseServer(241, "Syntax error converting datetime from character string.");
+}
 
 void RaiseOverflow(std::string_view type) {
   RaiseServer(8115, "Arithmetic overflow error converting expression to data type " + std::string(type) + ".");
 }
 
-void RaiseTruncation() { RaiseServer(8152, "String or binary data would be truncated."); }
+void RaiseTruncation() {
+  RaiseServer(8152, "String or binary data would be truncated.");
+}
 
 }  // namespace suite

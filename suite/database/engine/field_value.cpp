@@ -1,6 +1,5 @@
 // Between the store's values and the late-bound ones of a recordset's fields.
 #include <sqlite3.h>
-
 #include <variant>
 
 #include "base/ado/constants.h"
@@ -11,7 +10,9 @@
 namespace suite {
 namespace {
 
-[[noreturn]] void RaiseWrongType() { RaiseAdo(ado::kDataConversion, "ADODB.Recordset"); }
+[[noreturn]] void RaiseWrongType() {
+  RaiseAdo(ado::kDataConversion, "ADODB.Recordset");
+}
 
 /// The value in the store's form, with the server type that it has by itself.
 Cell NaturalCell(const late::Value& value, Type& type) {

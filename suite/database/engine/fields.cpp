@@ -12,7 +12,8 @@ const late::MemberTable<Fields>& Fields::Members() {
   static const late::MemberTable<Fields> table = {
       {"", item, nullptr, 1, 1},
       {"Item", item, nullptr, 1, 1},
-      {"Count", [](Fields& self, Arguments&) -> late::Value { return static_cast<std::int32_t>(self.recordset_->FieldCount()); }, nullptr},
+      {"Count", [](Fields& self, Arguments&) -> late::Value { return static_cast<std::int32_t>(self.recordset_->FieldCount()); },
+       nullptr},
   };
   return table;
 }
@@ -82,9 +83,11 @@ const late::MemberTable<Field>& Field::Members() {
          return text ? static_cast<std::int32_t>(vb::Len(*text)) : self.DefinedSize();
        },
        nullptr},
-      {"Precision", [](Field& self, Arguments&) -> late::Value { return std::int32_t{self.recordset_->Column(self.column_).type.precision}; },
+      {"Precision",
+       [](Field& self, Arguments&) -> late::Value { return std::int32_t{self.recordset_->Column(self.column_).type.precision}; },
        nullptr},
-      {"NumericScale", [](Field& self, Arguments&) -> late::Value { return std::int32_t{self.recordset_->Column(self.column_).type.scale}; },
+      {"NumericScale",
+       [](Field& self, Arguments&) -> late::Value { return std::int32_t{self.recordset_->Column(self.column_).type.scale}; },
        nullptr},
   };
   return table;

@@ -21,7 +21,9 @@ constexpr std::array<unsigned char, 256> kClasses = [] {
   return classes;
 }();
 
-unsigned char ClassOf(char c) { return kClasses[static_cast<unsigned char>(c)]; }
+unsigned char ClassOf(char c) {
+  return kClasses[static_cast<unsigned char>(c)];
+}
 
 class Scanner {
  public:
@@ -206,7 +208,9 @@ std::string Lexed::ValueOf(const Token& token) const {
   return value;
 }
 
-void Lex(std::string_view text, Lexed& result) { Scanner(text, result).Run(); }
+void Lex(std::string_view text, Lexed& result) {
+  Scanner(text, result).Run();
+}
 
 bool EqualWord(std::string_view word, std::string_view lowerCase) {
   if (word.size() != lowerCase.size()) return false;

@@ -20,15 +20,16 @@ struct Token {
   std::uint8_t scale = 0;   ///< digits behind the point of a Decimal
   std::uint32_t begin = 0;  ///< without the quotation marks
   std::uint32_t end = 0;
-  int literal = -1;         ///< position among the statement's literals
+  int literal = -1;  ///< position among the statement's literals
 };
 
 /// A statement cut into tokens, with its literals told apart from the rest. `key` is the token sequence without the literals'
-/// values: two statements with the same key differ in their literals alone. The vectors are reused from one statement to the next.
+/// values: two statements with the same key differ in their literals alone. The vectors are reused from one statement to the
+/// next.
 struct Lexed {
   std::string_view text;
-  std::vector<Token> tokens;             ///< ends with an End
-  std::vector<std::uint32_t> literals;   ///< their tokens
+  std::vector<Token> tokens;            ///< ends with an End
+  std::vector<std::uint32_t> literals;  ///< their tokens
   std::string key;
 
   std::string_view TextOf(const Token& token) const { return text.substr(token.begin, token.end - token.begin); }

@@ -12,7 +12,8 @@ namespace {
 std::int64_t WholeOf(std::string_view digits) {
   std::int64_t value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error != std::errc()) RaiseServer(1007, "The number '" + std::string(digits) + "' is out of the range for numeric representation.");
+  if (error != std::errc())
+    RaiseServer(1007, "The number '" + std::string(digits) + "' is out of the range for numeric representation.");
   return value;
 }
 

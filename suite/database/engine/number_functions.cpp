@@ -1,8 +1,7 @@
-#include <sqlite3.h>
-
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <sqlite3.h>
 
 #include "suite/database/engine/conversion.h"
 #include "suite/database/engine/server_functions.h"
@@ -12,7 +11,9 @@ namespace {
 
 __extension__ using Wide = __int128;
 
-[[noreturn]] void RaiseDivisionByZero() { RaiseServer(8134, "Divide by zero error encountered."); }
+[[noreturn]] void RaiseDivisionByZero() {
+  RaiseServer(8134, "Divide by zero error encountered.");
+}
 
 Cell CellOf(const FunctionCall& call, int index) {
   switch (sqlite3_value_type(call.Raw(index))) {
@@ -107,8 +108,12 @@ void Ceiling(const FunctionCall& call) {
   call.Return(call.Whole(0) + (rest > 0 ? power - rest : -rest));
 }
 
-void FloorFloat(const FunctionCall& call) { call.Return(std::floor(call.Real(0))); }
-void CeilingFloat(const FunctionCall& call) { call.Return(std::ceil(call.Real(0))); }
+void FloorFloat(const FunctionCall& call) {
+  call.Return(std::floor(call.Real(0)));
+}
+void CeilingFloat(const FunctionCall& call) {
+  call.Return(std::ceil(call.Real(0)));
+}
 
 void SquareRoot(const FunctionCall& call) {
   if (call.Real(0) < 0) RaiseServer(3623, "An invalid floating point operation occurred.");

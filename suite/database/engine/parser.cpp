@@ -12,12 +12,15 @@ namespace {
 
 /// Words that can be neither a name nor an alias.
 constexpr std::array<std::string_view, 67> kReserved = {
-    "add",    "all",    "alter",  "and",     "as",        "asc",     "begin",  "between",   "by",         "case",   "coalesce", "commit",
-    "convert", "create", "cross",  "current_timestamp", "default", "delete", "desc",   "distinct", "drop", "else", "end", "escape",
-    "exec",   "execute", "exists", "for",     "from",      "full",    "function", "group",  "having",    "if",         "in",     "index",    "inner",
-    "insert", "into",   "is",     "join",    "key",       "left",    "like",   "not",       "null",       "nullif", "on",       "or",
-    "order",  "outer",  "primary", "procedure", "proc",   "right",   "rollback", "select",  "set",        "table",  "then",     "top",
-    "union",  "unique", "update", "values",  "view",      "when"};
+    "add",     "all",     "alter",    "and",      "as",        "asc",    "begin",    "between",
+    "by",      "case",    "coalesce", "commit",   "convert",   "create", "cross",    "current_timestamp",
+    "default", "delete",  "desc",     "distinct", "drop",      "else",   "end",      "escape",
+    "exec",    "execute", "exists",   "for",      "from",      "full",   "function", "group",
+    "having",  "if",      "in",       "index",    "inner",     "insert", "into",     "is",
+    "join",    "key",     "left",     "like",     "not",       "null",   "nullif",   "on",
+    "or",      "order",   "outer",    "primary",  "procedure", "proc",   "right",    "rollback",
+    "select",  "set",     "table",    "then",     "top",       "union",  "unique",   "update",
+    "values",  "view",    "when"};
 
 }  // namespace
 
@@ -63,7 +66,9 @@ void Parser::ExpectSymbol(char symbol) {
   if (!TakeSymbol(symbol)) Unexpected();
 }
 
-void Parser::Unexpected() const { UnexpectedAt(static_cast<std::uint32_t>(std::min(position_, lexed_.tokens.size() - 1))); }
+void Parser::Unexpected() const {
+  UnexpectedAt(static_cast<std::uint32_t>(std::min(position_, lexed_.tokens.size() - 1)));
+}
 
 void Parser::UnexpectedAt(std::uint32_t token) const {
   const Token& at = lexed_.tokens[token];

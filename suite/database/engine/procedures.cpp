@@ -15,10 +15,12 @@ std::string GodownItemsNotInShop(const std::vector<late::Value>& arguments) {
   return "select a.itemid, a.itemcode, v.itemdescription, a.brand, a.modelno, isnull(a.part_code,'') part_code"
          " from aShopItemDetail sd inner join aItem a on a.itemid = sd.itemid"
          " inner join vwItemDescription v on v.itemid = a.itemid"
-         " where sd.shopid = " + shop + " and a.active = 1 and a.forsales = 1"
+         " where sd.shopid = " +
+         shop +
+         " and a.active = 1 and a.forsales = 1"
          " and isnull((select sum(g.gsstock) from vwInquiryGodownStock g where g.gsitemid = a.itemid), 0) > 0"
-         " and isnull((select sum(s.stock) from vwInquiryShopStock s where s.shopid = " + shop + " and s.itemid = a.itemid), 0) <= 0" +
-         arguments[1].TextOrEmpty();
+         " and isnull((select sum(s.stock) from vwInquiryShopStock s where s.shopid = " +
+         shop + " and s.itemid = a.itemid), 0) <= 0" + arguments[1].TextOrEmpty();
 }
 
 struct Entry {

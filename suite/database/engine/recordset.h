@@ -22,8 +22,8 @@ class Recordset : public late::TableObject<Recordset>, private OpenRows {
   std::string TypeName() const override { return "Recordset"; }
 
   /// A recordset as Execute gives it: forward-only and read-only; closed when the result has no rows.
-  static std::shared_ptr<Recordset> OfResult(std::shared_ptr<Connection> connection, std::shared_ptr<Session> session, RunResult result,
-                                             std::string source);
+  static std::shared_ptr<Recordset> OfResult(std::shared_ptr<Connection> connection, std::shared_ptr<Session> session,
+                                             RunResult result, std::string source);
 
   // For the fields.
   std::size_t FieldCount() { return Rows().Columns().size(); }
@@ -100,7 +100,7 @@ class Recordset : public late::TableObject<Recordset>, private OpenRows {
   std::vector<std::pair<std::size_t, late::Value>> edits_;  ///< fields set, in that order
   std::vector<Pending> pending_;
   std::int64_t provisionalId_ = 0;
-  late::ArrayPtr lastNames_;                                ///< AddNew's column list met last, and its columns
+  late::ArrayPtr lastNames_;  ///< AddNew's column list met last, and its columns
   std::vector<std::string> lastNameTexts_;
   RowWriter::ColumnSet* lastSet_ = nullptr;
 };

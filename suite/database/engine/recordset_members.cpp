@@ -20,7 +20,7 @@ struct RecordsetMembers {
   static void PutItem(Self& self, Arguments& arguments) { self.SetField(self.ColumnAt(arguments[0]), arguments[1].Deref()); }
 
   /// A setting that can only change while the recordset is closed.
-  static late::Member<Recordset> Setting(std::string_view name, int Recordset::* setting) {
+  static late::Member<Recordset> Setting(std::string_view name, int Recordset::*setting) {
     return {name, [setting](Self& self, Arguments&) -> Value { return std::int32_t{self.*setting}; },
             [setting](Self& self, Arguments& arguments) {
               self.RequireClosed();
@@ -55,7 +55,8 @@ const late::MemberTable<Recordset>& Recordset::Members() {
   using Value = late::Value;
   static const late::MemberTable<Recordset> table = {
       {"", M::Item, M::PutItem, 1, 1},
-      {"Collect", [](Self& self, Arguments& arguments) { return self.FieldValue(self.ColumnAt(arguments[0])); }, M::PutItem, 1, 1},
+      {"Collect", [](Self& self, Arguments& arguments) { return self.FieldValue(self.ColumnAt(arguments[0])); }, M::PutItem, 1,
+       1},
       {"Fields",
        [](Self& self, Arguments& arguments) -> Value {
          self.Rows();
@@ -96,7 +97,9 @@ const late::MemberTable<Recordset>& Recordset::Members() {
       M::Setting("LockType", &Recordset::lockType_),
       M::Setting("MaxRecords", &Recordset::maxRecords_),
       {"CursorLocation",
-       [](Self& self, Arguments&) -> Value { return std::int32_t{self.cursorLocation_ ? self.cursorLocation_ : ado::kUseServer}; },
+       [](Self& self, Arguments&) -> Value {
+         return std::int32_t{self.cursorLocation_ ? self.cursorLocation_ : ado::kUseServer};
+       },
        [](Self& self, Arguments& arguments) {
          self.RequireClosed();
          self.cursorLocation_ = arguments[0].ToInt32();

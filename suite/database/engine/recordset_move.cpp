@@ -26,9 +26,13 @@ std::size_t Recordset::ColumnAt(const late::Value& which) {
   return static_cast<std::size_t>(index);
 }
 
-bool Recordset::Eof() { return edit_ != Edit::Adding && Rows().Eof(); }
+bool Recordset::Eof() {
+  return edit_ != Edit::Adding && Rows().Eof();
+}
 
-bool Recordset::Bof() { return edit_ != Edit::Adding && Rows().Bof(); }
+bool Recordset::Bof() {
+  return edit_ != Edit::Adding && Rows().Bof();
+}
 
 std::int64_t Recordset::RecordCount() {
   Cursor& rows = Rows();

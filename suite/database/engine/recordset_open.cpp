@@ -15,8 +15,8 @@ Recordset::~Recordset() {
   if (session_) session_->Detach(this);
 }
 
-std::shared_ptr<Recordset> Recordset::OfResult(std::shared_ptr<Connection> connection, std::shared_ptr<Session> session, RunResult result,
-                                               std::string source) {
+std::shared_ptr<Recordset> Recordset::OfResult(std::shared_ptr<Connection> connection, std::shared_ptr<Session> session,
+                                               RunResult result, std::string source) {
   auto recordset = std::make_shared<Recordset>();
   recordset->connection_ = std::move(connection);
   recordset->source_ = std::move(source);

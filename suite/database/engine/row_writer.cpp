@@ -1,8 +1,7 @@
 #include "suite/database/engine/row_writer.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
+#include <sqlite3.h>
 
 #include "suite/database/engine/conversion.h"
 #include "suite/database/engine/errors.h"

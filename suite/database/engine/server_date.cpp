@@ -198,7 +198,8 @@ std::string ServerDateText(std::int64_t milliseconds, int style) {
     case 126:
       return Print("%04d-%02d-%02dT", p.year, p.month, p.day) + time + Print(".%03d", static_cast<int>(inSecond), 0, 0);
     default:
-      RaiseServer(281, std::to_string(style) + " is not a valid style number when converting from datetime to a character string.");
+      RaiseServer(281,
+                  std::to_string(style) + " is not a valid style number when converting from datetime to a character string.");
   }
 }
 

@@ -1,9 +1,8 @@
 #include "suite/database/engine/server_functions.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <cstring>
+#include <sqlite3.h>
 
 #include "base/vb/text.h"
 #include "suite/database/engine/conversion.h"
@@ -11,7 +10,9 @@
 namespace suite {
 namespace {
 
-char Fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+char Fold(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 int Collate(void*, int leftSize, const void* left, int rightSize, const void* right) {
   return CompareTexts({static_cast<const char*>(left), static_cast<std::size_t>(leftSize)},
@@ -63,18 +64,30 @@ int CompareTexts(std::string_view a, std::string_view b) {
   return greater == (a.size() > b.size()) ? 1 : -1;
 }
 
-bool FunctionCall::IsNull(int index) const { return sqlite3_value_type(values_[index]) == SQLITE_NULL; }
-std::int64_t FunctionCall::Whole(int index) const { return sqlite3_value_int64(values_[index]); }
-double FunctionCall::Real(int index) const { return sqlite3_value_double(values_[index]); }
+bool FunctionCall::IsNull(int index) const {
+  return sqlite3_value_type(values_[index]) == SQLITE_NULL;
+}
+std::int64_t FunctionCall::Whole(int index) const {
+  return sqlite3_value_int64(values_[index]);
+}
+double FunctionCall::Real(int index) const {
+  return sqlite3_value_double(values_[index]);
+}
 
 std::string_view FunctionCall::Text(int index) const {
   const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(values_[index]));
   return {text ? text : "", static_cast<std::size_t>(sqlite3_value_bytes(values_[index]))};
 }
 
-void FunctionCall::ReturnNull() const { sqlite3_result_null(context_); }
-void FunctionCall::Return(std::int64_t value) const { sqlite3_result_int64(context_, value); }
-void FunctionCall::Return(double value) const { sqlite3_result_double(context_, value); }
+void FunctionCall::ReturnNull() const {
+  sqlite3_result_null(context_);
+}
+void FunctionCall::Return(std::int64_t value) const {
+  sqlite3_result_int64(context_, value);
+}
+void FunctionCall::Return(double value) const {
+  sqlite3_result_double(context_, value);
+}
 void FunctionCall::Return(std::string_view text) const {
   sqlite3_result_text64(context_, text.data() ? text.data() : "", text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
 }
@@ -83,13 +96,14 @@ void RegisterServerFunctions(sqlite3* store, FunctionContext& context) {
   context.store = store;
   int code = sqlite3_create_collation_v2(store, "server", SQLITE_UTF8, nullptr, Collate, nullptr);
   if (code != SQLITE_OK) RaiseFromStore(store, code);
-  for (const auto& group : {detail::TextFunctions(), detail::NumberFunctions(), detail::DateFunctions(), detail::SystemFunctions()}) {
+  for (const auto& group :
+       {detail::TextFunctions(), detail::NumberFunctions(), detail::DateFunctions(), detail::SystemFunctions()}) {
     for (const detail::FunctionSpec& spec : group) {
-      context.registered.push_back(std::make_unique<FunctionContext::Registered>(
-          FunctionContext::Registered{spec.body, spec.takesNull, &context}));
+      context.registered.push_back(
+          std::make_unique<FunctionContext::Registered>(FunctionContext::Registered{spec.body, spec.takesNull, &context}));
       const int flags = SQLITE_UTF8 | SQLITE_INNOCUOUS | (spec.constant ? SQLITE_DETERMINISTIC : 0);
-      code = sqlite3_create_function_v2(store, spec.name, spec.arguments, flags, context.registered.back().get(), Trampoline, nullptr,
-                                        nullptr, nullptr);
+      code = sqlite3_create_function_v2(store, spec.name, spec.arguments, flags, context.registered.back().get(), Trampoline,
+                                        nullptr, nullptr, nullptr);
       if (code != SQLITE_OK) RaiseFromStore(store, code);
     }
   }

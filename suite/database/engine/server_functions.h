@@ -73,8 +73,8 @@ struct FunctionSpec {
   const char* name;
   int arguments;  ///< -1: any number
   FunctionBody body;
-  bool constant = true;   ///< the same arguments give the same result
-  bool takesNull = false; ///< otherwise null in gives null out
+  bool constant = true;    ///< the same arguments give the same result
+  bool takesNull = false;  ///< otherwise null in gives null out
 };
 // The functions by theme, each in its own file.
 std::vector<FunctionSpec> TextFunctions();

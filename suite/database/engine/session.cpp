@@ -1,8 +1,7 @@
 #include "suite/database/engine/session.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
+#include <sqlite3.h>
 
 #include "suite/database/engine/conversion.h"
 #include "suite/database/engine/definitions.h"
@@ -69,6 +68,7 @@ int Session::Progress(void* self) {
 }
 
 bool Session::Step(sqlite3_stmt* statement) {
+  deadline_.reset();  // the time between two rows is the reader's
   const int code = sqlite3_step(statement);
   if (code == SQLITE_ROW) return true;
   if (code == SQLITE_DONE) return false;
@@ -96,7 +96,6 @@ StatementHandle Session::Prepare(Translation translation) {
 RunResult Session::Run(std::string_view text, bool updatable) {
   if (observer_ && running_ == 0) observer_->Statement(text);
   functions_.now.reset();
-  deadline_.reset();
   struct Depth {
     int& depth;
     explicit Depth(int& counter) : depth(counter) { ++depth; }
@@ -133,8 +132,8 @@ RunResult Session::RunBatch(const Lexed& lexed, bool updatable) {
   }
 }
 
-std::shared_ptr<CachedStatement> Session::Translate(const Lexed& lexed, const ast::Statement& statement, std::vector<int>& structural,
-                                                    bool updatable, bool inlineLiterals) {
+std::shared_ptr<CachedStatement> Session::Translate(const Lexed& lexed, const ast::Statement& statement,
+                                                    std::vector<int>& structural, bool updatable, bool inlineLiterals) {
   Translator translator(store_->catalog, lexed, structural, inlineLiterals);
   auto cached = std::make_shared<CachedStatement>();
   cached->store = handle_;
@@ -156,7 +155,7 @@ std::shared_ptr<CachedStatement> Session::Translate(const Lexed& lexed, const as
   return cached;
 }
 
-RunResult Session::RunStatement(const Lexed& lexed, const ast::Statement& statement, Parser& parser, bool updatable) {
+RunResult Session::RunStatement(const Lexed& lexed, ast::Statement& statement, Parser& parser, bool updatable) {
   using ast::StatementKind;
   switch (statement.kind) {
     case StatementKind::Query:

@@ -71,7 +71,7 @@ class Session : public std::enable_shared_from_this<Session> {
 
   RunResult RunLexed(const Lexed& lexed, bool updatable);
   RunResult RunBatch(const Lexed& lexed, bool updatable);
-  RunResult RunStatement(const Lexed& lexed, const ast::Statement& statement, Parser& parser, bool updatable);
+  RunResult RunStatement(const Lexed& lexed, ast::Statement& statement, Parser& parser, bool updatable);
   RunResult RunProcedure(const Lexed& lexed, const ast::Statement& statement, bool updatable);
   RunResult Start(const Lexed& lexed, std::shared_ptr<CachedStatement> cached);
   std::shared_ptr<CachedStatement> Translate(const Lexed& lexed, const ast::Statement& statement, std::vector<int>& structural,

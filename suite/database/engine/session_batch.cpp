@@ -1,6 +1,5 @@
 // Transactions, procedures and scripts of a session.
 #include <sqlite3.h>
-
 #include <utility>
 
 #include "base/vb/text.h"
@@ -72,12 +71,15 @@ RunResult Session::RunProcedure(const Lexed& lexed, const ast::Statement& statem
   for (std::size_t i = 0; i < definition->parameters.size(); ++i) {
     const ProcedureDef::Parameter& parameter = definition->parameters[i];
     if (i >= given.size() && !parameter.hasDefault) {
-      RaiseServer(201, "Procedure '" + definition->name + "' expects parameter '" + parameter.name + "', which was not supplied.");
+      RaiseServer(201,
+                  "Procedure '" + definition->name + "' expects parameter '" + parameter.name + "', which was not supplied.");
     }
     arguments.push_back(i < given.size() ? ArgumentValue(lexed, given[i].get()) : parameter.initial);
     if (parameter.type.IsWhole() && arguments.back().IsText()) {
       std::string buffer;
-      arguments.back() = Convert(Cell::Of(std::string_view(*arguments.back().If<std::string>())), Type::TextOf(0), parameter.type, buffer).integer;
+      arguments.back() =
+          Convert(Cell::Of(std::string_view(*arguments.back().If<std::string>())), Type::TextOf(0), parameter.type, buffer)
+              .integer;
     }
   }
   return Run(procedure(arguments), updatable);

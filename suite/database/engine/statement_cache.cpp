@@ -1,8 +1,7 @@
 #include "suite/database/engine/statement_cache.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
+#include <sqlite3.h>
 #include <utility>
 
 #include "suite/database/engine/errors.h"
@@ -26,8 +25,8 @@ StatementHandle::StatementHandle(std::shared_ptr<CachedStatement> origin) : orig
     return;
   }
   const std::string& sql = origin_->translation.sql;
-  const int code = sqlite3_prepare_v3(origin_->store, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &statement_,
-                                      nullptr);
+  const int code = sqlite3_prepare_v3(origin_->store, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
+                                      &statement_, nullptr);
   if (code != SQLITE_OK) RaiseFromStore(origin_->store, code);
 }
 
@@ -42,7 +41,9 @@ StatementHandle& StatementHandle::operator=(StatementHandle&& other) noexcept {
   return *this;
 }
 
-StatementHandle::~StatementHandle() { Release(); }
+StatementHandle::~StatementHandle() {
+  Release();
+}
 
 void StatementHandle::Release() {
   if (!statement_) return;

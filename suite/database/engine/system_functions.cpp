@@ -1,10 +1,9 @@
-#include <sqlite3.h>
-
 #include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <random>
+#include <sqlite3.h>
 
 #include "base/vb/text.h"
 #include "suite/database/engine/server_functions.h"
@@ -15,8 +14,8 @@ namespace {
 std::string Identifier(std::uint64_t high, std::uint64_t low) {
   std::array<char, 40> text{};
   std::snprintf(text.data(), text.size(), "%08X-%04X-%04X-%04X-%012llX", static_cast<unsigned>(high >> 32),
-                static_cast<unsigned>(high >> 16 & 0xffff), static_cast<unsigned>(high & 0xffff), static_cast<unsigned>(low >> 48),
-                static_cast<unsigned long long>(low & 0xffffffffffffULL));
+                static_cast<unsigned>(high >> 16 & 0xffff), static_cast<unsigned>(high & 0xffff),
+                static_cast<unsigned>(low >> 48), static_cast<unsigned long long>(low & 0xffffffffffffULL));
   return text.data();
 }
 
@@ -25,7 +24,9 @@ std::uint64_t Random() {
   return engine();
 }
 
-void NewId(const FunctionCall& call) { call.Return(Identifier(Random(), Random())); }
+void NewId(const FunctionCall& call) {
+  call.Return(Identifier(Random(), Random()));
+}
 
 /// Grows with every call, over the life of a database: the machine's time in microseconds, moved on when two calls fall together.
 /// The workstation's fixed clock has no part in it.
@@ -60,9 +61,7 @@ void ObjectId(const FunctionCall& call) {
 }  // namespace
 
 std::vector<detail::FunctionSpec> detail::SystemFunctions() {
-  return {{"srv_newid", 0, NewId, false},
-          {"srv_newsequentialid", 0, NewSequentialId, false},
-          {"srv_object_id", 1, ObjectId}};
+  return {{"srv_newid", 0, NewId, false}, {"srv_newsequentialid", 0, NewSequentialId, false}, {"srv_object_id", 1, ObjectId}};
 }
 
 }  // namespace suite

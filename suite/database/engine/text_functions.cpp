@@ -21,7 +21,9 @@ void Len(const FunctionCall& call) {
   call.Return(static_cast<std::int64_t>(vb::Len(vb::RTrim(call.Text(0)))));
 }
 
-void DataLength(const FunctionCall& call) { call.Return(static_cast<std::int64_t>(call.Text(0).size())); }
+void DataLength(const FunctionCall& call) {
+  call.Return(static_cast<std::int64_t>(call.Text(0).size()));
+}
 
 void Left(const FunctionCall& call) {
   const std::int64_t count = call.Whole(1);
@@ -55,8 +57,12 @@ void Substring(const FunctionCall& call) {
   call.Return(offset >= text.size() ? std::string_view() : text.substr(offset, static_cast<std::size_t>(length)));
 }
 
-void Upper(const FunctionCall& call) { call.Return(vb::UCase(call.Text(0))); }
-void Lower(const FunctionCall& call) { call.Return(vb::LCase(call.Text(0))); }
+void Upper(const FunctionCall& call) {
+  call.Return(vb::UCase(call.Text(0)));
+}
+void Lower(const FunctionCall& call) {
+  call.Return(vb::LCase(call.Text(0)));
+}
 
 void CharIndex(const FunctionCall& call) {
   const std::int64_t start = call.Count() > 2 ? std::max<std::int64_t>(call.Whole(2), 1) : 1;
@@ -100,7 +106,9 @@ void Replicate(const FunctionCall& call) {
   call.Return(result);
 }
 
-void Space(const FunctionCall& call) { call.Whole(0) < 0 ? call.ReturnNull() : call.Return(vb::Space(static_cast<long>(call.Whole(0)))); }
+void Space(const FunctionCall& call) {
+  call.Whole(0) < 0 ? call.ReturnNull() : call.Return(vb::Space(static_cast<long>(call.Whole(0))));
+}
 
 void Char(const FunctionCall& call) {
   const std::int64_t code = call.Whole(0);
@@ -120,7 +128,9 @@ void Like(const FunctionCall& call) {
   call.Return(std::int64_t{MatchLike(call.Text(0), call.Text(1), call.Count() > 2 ? call.Text(2) : std::string_view())});
 }
 
-void IsNumeric(const FunctionCall& call) { call.Return(std::int64_t{!call.IsNull(0) && IsServerNumeric(call.Text(0))}); }
+void IsNumeric(const FunctionCall& call) {
+  call.Return(std::int64_t{!call.IsNull(0) && IsServerNumeric(call.Text(0))});
+}
 
 }  // namespace
 

@@ -20,10 +20,10 @@ struct ResultColumn {
 /// A statement in the store's own words.
 struct Translation {
   std::string sql;
-  std::vector<Parameter> parameters;   ///< for ?1, ?2, ...
-  std::vector<ResultColumn> columns;   ///< of a query
-  std::string table;                   ///< the one table that rows of this query belong to; empty when it cannot be updated
-  bool rowIds = false;                 ///< the last column of the store's statement is the row's own id, beyond `columns`
+  std::vector<Parameter> parameters;  ///< for ?1, ?2, ...
+  std::vector<ResultColumn> columns;  ///< of a query
+  std::string table;                  ///< the one table that rows of this query belong to; empty when it cannot be updated
+  bool rowIds = false;                ///< the last column of the store's statement is the row's own id, beyond `columns`
 };
 
 /// Looks up names and types and writes a statement for the store. One instance translates one statement.

@@ -7,9 +7,13 @@ namespace suite {
 using ast::Expr;
 using ast::ExprKind;
 
-std::string Quoted(std::string_view name) { return "\"" + vb::Replace(name, "\"", "\"\"") + "\""; }
+std::string Quoted(std::string_view name) {
+  return "\"" + vb::Replace(name, "\"", "\"\"") + "\"";
+}
 
-std::string Translator::Near(std::uint32_t token) const { return std::string(lexed_.TextOf(lexed_.tokens[token])); }
+std::string Translator::Near(std::uint32_t token) const {
+  return std::string(lexed_.TextOf(lexed_.tokens[token]));
+}
 
 void Translator::Unknown(const Expr& expr, const std::string& what) const {
   RaiseServer(102, "Incorrect syntax near '" + Near(expr.token) + "': " + what);
@@ -84,7 +88,8 @@ Translator::Place Translator::Resolve(const Expr& expr, Scope& scope) const {
     if (place.scope) return place;
   }
   if (!expr.qualifier.empty() && !qualifierFound) {
-    RaiseServer(107, "The column prefix '" + expr.qualifier + "' does not match with a table name or alias name used in the query.");
+    RaiseServer(107,
+                "The column prefix '" + expr.qualifier + "' does not match with a table name or alias name used in the query.");
   }
   RaiseServer(207, "Invalid column name '" + expr.name + "'.");
 }

@@ -9,8 +9,8 @@ namespace suite {
 using ast::Expr;
 using ast::ExprKind;
 
-/// A function whose arguments and result have fixed kinds. `arguments`: t text, i int, d datetime, f float; lower case is required,
-/// behind the bar optional. `store` is what computes it.
+/// A function whose arguments and result have fixed kinds. `arguments`: t text, i int, d datetime, f float; lower case is
+/// required, behind the bar optional. `store` is what computes it.
 struct Translator::FunctionEntry {
   std::string_view name;
   std::string_view arguments;
@@ -67,7 +67,8 @@ const Translator::FunctionEntry* Translator::FindFunction(std::string_view name)
       {"datalength", "t", Kind::Int, "srv_datalength"},
       {"sqrt", "f", Kind::Float, "srv_sqrt"},
   }};
-  const auto found = std::find_if(kFunctions.begin(), kFunctions.end(), [&](const FunctionEntry& entry) { return entry.name == name; });
+  const auto found =
+      std::find_if(kFunctions.begin(), kFunctions.end(), [&](const FunctionEntry& entry) { return entry.name == name; });
   return found == kFunctions.end() ? nullptr : &*found;
 }
 
@@ -135,7 +136,8 @@ Translator::Emitted Translator::Aggregate(const Expr& expr, Scope& scope) {
     return value;
   }
   if (!argument.type.IsNumber() || argument.type.kind == Kind::Bit) {
-    RaiseServer(409, "The " + expr.name + " aggregate operation cannot take a " + TypeName(argument.type) + " data type as an argument.");
+    RaiseServer(
+        409, "The " + expr.name + " aggregate operation cannot take a " + TypeName(argument.type) + " data type as an argument.");
   }
   if (value.type.IsWhole()) value.type = Type::Of(std::max(value.type.kind, Kind::Int));
   if (value.type.kind == Kind::Decimal) value.type = Type::DecimalOf(38, value.type.scale);
@@ -189,7 +191,8 @@ Translator::Emitted Translator::NullIf(const Expr& expr, Scope& scope) {
   Emitted right = Value(*expr.children[1], scope);
   const Type common = CommonType(left.type, right.type);
   left = Coerce(std::move(left), common);
-  result.sql = "(CASE WHEN " + Collated(left) + " = " + Coerce(std::move(right), common).sql + " THEN NULL ELSE " + result.sql + " END)";
+  result.sql =
+      "(CASE WHEN " + Collated(left) + " = " + Coerce(std::move(right), common).sql + " THEN NULL ELSE " + result.sql + " END)";
   result.parameter = -1;
   result.tableColumn = -1;
   result.collated = false;
@@ -235,13 +238,14 @@ Translator::Emitted Translator::Rounding(const Expr& expr, Scope& scope) {
 
 Translator::Emitted Translator::DateFunction(const Expr& expr, Scope& scope) {
   static constexpr std::array<std::pair<std::string_view, std::string_view>, 20> kParts = {
-      {{"year", "year"},     {"yy", "year"},       {"yyyy", "year"},     {"quarter", "quarter"}, {"qq", "quarter"},
-       {"month", "month"},   {"mm", "month"},      {"m", "month"},       {"day", "day"},         {"dd", "day"},
-       {"d", "day"},         {"week", "week"},     {"wk", "week"},       {"hour", "hour"},       {"hh", "hour"},
-       {"minute", "minute"}, {"mi", "minute"},     {"second", "second"}, {"ss", "second"},       {"ms", "millisecond"}}};
+      {{"year", "year"},     {"yy", "year"},   {"yyyy", "year"},     {"quarter", "quarter"}, {"qq", "quarter"},
+       {"month", "month"},   {"mm", "month"},  {"m", "month"},       {"day", "day"},         {"dd", "day"},
+       {"d", "day"},         {"week", "week"}, {"wk", "week"},       {"hour", "hour"},       {"hh", "hour"},
+       {"minute", "minute"}, {"mi", "minute"}, {"second", "second"}, {"ss", "second"},       {"ms", "millisecond"}}};
   const bool add = expr.name == "dateadd", part = expr.name == "datepart";
   if (!add && !part && expr.name != "datediff") RaiseServer(195, "'" + expr.name + "' is not a recognized function name.");
-  if (expr.children.size() != (part ? 2u : 3u)) RaiseServer(174, "The " + expr.name + " function requires " + (part ? "2" : "3") + " arguments.");
+  if (expr.children.size() != (part ? 2u : 3u))
+    RaiseServer(174, "The " + expr.name + " function requires " + (part ? "2" : "3") + " arguments.");
   const std::string& word = expr.children[0]->name;
   const auto found = std::find_if(kParts.begin(), kParts.end(), [&](const auto& entry) { return entry.first == word; });
   if (found == kParts.end()) RaiseServer(155, "'" + word + "' is not a recognized " + expr.name + " option.");

@@ -9,7 +9,9 @@ namespace {
 constexpr int kQuotientScale = 6;  // the least digits behind the point of a decimal quotient
 constexpr const char* kDayText = "86400000";
 
-std::string Power(int exponent) { return std::to_string(PowerOfTen(exponent)); }
+std::string Power(int exponent) {
+  return std::to_string(PowerOfTen(exponent));
+}
 
 }  // namespace
 
@@ -44,8 +46,8 @@ Translator::Emitted Translator::Coerce(Emitted value, const Type& target, int st
   value.collated = false;
   value.tableColumn = -1;
   const int fromScale = from.kind == Kind::Decimal ? from.scale : 0;
-  if (target.kind == Kind::Decimal && !target.assign && (from.IsWhole() || from.kind == Kind::Decimal) && target.scale >= fromScale &&
-      (target.precision - target.scale >= from.precision - fromScale)) {
+  if (target.kind == Kind::Decimal && !target.assign && (from.IsWhole() || from.kind == Kind::Decimal) &&
+      target.scale >= fromScale && (target.precision - target.scale >= from.precision - fromScale)) {
     if (target.scale > fromScale) value.sql = "(" + value.sql + " * " + Power(target.scale - fromScale) + ")";
     return value;
   }
@@ -117,17 +119,19 @@ Translator::Emitted Translator::Arithmetic(char op, Emitted left, Emitted right)
   const Type common = CommonType(left.type, right.type);
   if (op == '&' || op == '|' || op == '^') {
     if (!left.type.IsWhole() || !right.type.IsWhole()) {
-      RaiseServer(402, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) + " are incompatible in the operator '" +
-                           std::string(1, op) + "'.");
+      RaiseServer(402, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
+                           " are incompatible in the operator '" + std::string(1, op) + "'.");
     }
     value.type = common;
     const std::string both = left.sql + " & " + right.sql;
-    value.sql = op == '^' ? "((" + left.sql + " | " + right.sql + ") - (" + both + "))" : "(" + left.sql + " " + op + " " + right.sql + ")";
+    value.sql = op == '^' ? "((" + left.sql + " | " + right.sql + ") - (" + both + "))"
+                          : "(" + left.sql + " " + op + " " + right.sql + ")";
     return value;
   }
   if (op == '/' || op == '%') return Divide(op, std::move(left), std::move(right));
   if (common.kind == Kind::Decimal && op == '*') {
-    const int scale = (left.type.kind == Kind::Decimal ? left.type.scale : 0) + (right.type.kind == Kind::Decimal ? right.type.scale : 0);
+    const int scale =
+        (left.type.kind == Kind::Decimal ? left.type.scale : 0) + (right.type.kind == Kind::Decimal ? right.type.scale : 0);
     if (scale > kMostDigits) RaiseOverflow("decimal");
     value.type = Type::DecimalOf(38, scale);
     value.sql = "(" + left.sql + " * " + right.sql + ")";

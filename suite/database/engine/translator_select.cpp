@@ -49,7 +49,8 @@ std::string Translator::SourceText(const ast::Source& source, Scope& scope) {
     return text;
   }
   if (!source.query) return Quoted(catalog_.RelationNamed(source.name).name) + " AS " + Quoted(source.alias);
-  const auto found = std::find_if(derivedTexts_.rbegin(), derivedTexts_.rend(), [&](const auto& derived) { return derived.first == source.token; });
+  const auto found = std::find_if(derivedTexts_.rbegin(), derivedTexts_.rend(),
+                                  [&](const auto& derived) { return derived.first == source.token; });
   return "(" + found->second + ") AS " + Quoted(source.alias);
 }
 
@@ -78,7 +79,8 @@ void Translator::Star(const std::string& qualifier, Scope& scope, Part& part) {
 void Translator::Items(const ast::Select& select, Scope& scope, Part& part) {
   for (const ast::SelectItem& item : select.items) {
     if (!item.value) {
-      if (scope.grouped) RaiseServer(8120, "A column of '*' is invalid in the select list because it is not contained in the GROUP BY clause.");
+      if (scope.grouped)
+        RaiseServer(8120, "A column of '*' is invalid in the select list because it is not contained in the GROUP BY clause.");
       Star(item.qualifier, scope, part);
       continue;
     }
@@ -95,6 +97,9 @@ void Translator::Items(const ast::Select& select, Scope& scope, Part& part) {
 
 std::string Translator::Tail(const ast::Select& select, Scope& scope) {
   std::string text;
+  // Only the list, having and order by are bound to the groups.
+  const bool grouped = scope.grouped;
+  scope.grouped = false;
   const bool manySources = select.from.size() > 1;
   for (const auto& source : select.from) {
     // A comma binds like a join in the store; where that would change the outcome the joined tables stay together.
@@ -102,8 +107,6 @@ std::string Translator::Tail(const ast::Select& select, Scope& scope) {
     const std::string one = SourceText(*source, scope);
     text += (text.empty() ? " FROM " : ", ") + (bracket ? "(" + one + ")" : one);
   }
-  const bool grouped = scope.grouped;
-  scope.grouped = false;
   if (select.where) {
     if (HasAggregate(*select.where)) RaiseServer(147, "An aggregate may not appear in the WHERE clause.");
     text += " WHERE " + Predicate(*select.where, scope);
@@ -116,7 +119,8 @@ std::string Translator::Tail(const ast::Select& select, Scope& scope) {
   return text;
 }
 
-Translator::Part Translator::SelectPart(const ast::Select& select, Scope* outer, const ast::Query* orderedBy, std::string& order) {
+Translator::Part Translator::SelectPart(const ast::Select& select, Scope* outer, const ast::Query* orderedBy,
+                                        std::string& order) {
   Part part;
   Scope scope;
   scope.outer = outer;
@@ -147,11 +151,13 @@ std::string Translator::OrderText(const ast::Query& query, Scope* scope, const s
     std::size_t position = columns.size();
     if (expr.kind == ExprKind::Literal) {
       const std::string digits = Near(expr.token);
-      position = digits.size() < 6 && digits.find_first_not_of("0123456789") == std::string::npos ? static_cast<std::size_t>(std::stoi(digits)) - 1
-                                                                                                  : columns.size();
+      position = digits.size() < 6 && digits.find_first_not_of("0123456789") == std::string::npos
+                     ? static_cast<std::size_t>(std::stoi(digits)) - 1
+                     : columns.size();
       if (position >= columns.size()) RaiseServer(108, "The ORDER BY position number " + digits + " is out of range.");
     } else if (expr.kind == ExprKind::Column && expr.qualifier.empty()) {
-      const auto named = std::find_if(columns.begin(), columns.end(), [&](const ResultColumn& c) { return vb::EqualNoCase(c.name, expr.name); });
+      const auto named =
+          std::find_if(columns.begin(), columns.end(), [&](const ResultColumn& c) { return vb::EqualNoCase(c.name, expr.name); });
       position = static_cast<std::size_t>(named - columns.begin());
     }
     if (position < columns.size()) {

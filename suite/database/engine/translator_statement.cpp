@@ -20,7 +20,8 @@ std::size_t ColumnNamed(const Relation& table, const std::string& name) {
 const Relation& TableNamed(const Catalog& catalog, const std::string& name) {
   const Relation& relation = catalog.RelationNamed(name);
   if (relation.view) RaiseServer(4406, "View '" + relation.name + "' is not updatable.");
-  if (relation.name == "syscolumns" || relation.name == "sysobjects") RaiseServer(259, "Ad hoc updates to system catalogs are not enabled.");
+  if (relation.name == "syscolumns" || relation.name == "sysobjects")
+    RaiseServer(259, "Ad hoc updates to system catalogs are not enabled.");
   return relation;
 }
 
@@ -75,7 +76,8 @@ Translation Translator::Insert(const ast::Statement& statement) {
   for (const std::string& name : statement.columns) {
     const ColumnDef& column = table.columns[ColumnNamed(table, name)];
     for (const std::string& other : names) {
-      if (vb::EqualNoCase(other, name)) RaiseServer(264, "Column name '" + name + "' appears more than once in the result column list.");
+      if (vb::EqualNoCase(other, name))
+        RaiseServer(264, "Column name '" + name + "' appears more than once in the result column list.");
     }
     names.push_back(column.name);
     types.push_back(column.type);
@@ -149,7 +151,8 @@ Translation Translator::View(const ast::Statement& statement) {
   }
   std::vector<std::string> names;
   for (const ResultColumn& column : columns) {
-    if (column.name.empty()) RaiseServer(4511, "Create View failed because no column name was specified for a column of '" + statement.name + "'.");
+    if (column.name.empty())
+      RaiseServer(4511, "Create View failed because no column name was specified for a column of '" + statement.name + "'.");
     names.push_back(column.name);
   }
   Translation translation = Finish("CREATE VIEW " + Quoted(statement.name) + " " + ColumnList(names) + " AS " + query);

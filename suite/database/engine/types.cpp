@@ -30,7 +30,8 @@ Type Type::TextOf(int length) {
 
 std::int64_t Type::Pack() const {
   return static_cast<std::int64_t>(kind) | static_cast<std::int64_t>(precision) << 8 | static_cast<std::int64_t>(scale) << 16 |
-         static_cast<std::int64_t>(fixed) << 24 | static_cast<std::int64_t>(assign) << 25 | static_cast<std::int64_t>(length) << 26;
+         static_cast<std::int64_t>(fixed) << 24 | static_cast<std::int64_t>(assign) << 25 |
+         static_cast<std::int64_t>(length) << 26;
 }
 
 Type Type::Unpack(std::int64_t packed) {
