@@ -126,7 +126,7 @@ TEST_F(ItemLists, TheChosenRowComesIntoTheForm) {
     EXPECT_EQ(form->cboItem.ListCount(), 1);
     EXPECT_EQ(form->txtitemcode.Text(), "SP1001");
     EXPECT_EQ(form->txtpartcode.Text(), "KE17-703");
-    EXPECT_EQ(Packings(), "Single=");
+    EXPECT_EQ(Packings(), "Single= Inner box= Carton=");
     EXPECT_TRUE(form->txtQuantity.HasFocus());
     TakesTheRow(std::string(kKettleFilter) + "1");  // without a part code
     support::Press(form->txtQuantity, "F3");

@@ -39,20 +39,31 @@ TEST_F(ItemLookup, TheStatementsStandAsTheSuiteKnowsThem) {
   LogOnTo(2);
   Add([&] {
     Refused("Scan valid barcode ");
-    Scan(" 12x ");
+    Scan(" 77777 ");
   });
   EXPECT_TRUE(shop.log.Sent(
       "Select a.itemid, a.itemcode,a.part_code,vw.* from aitem a inner join aitempackingdetail pk on a.itemid = pk.itemid inner "
       "join vwItemDescription vw  on a.itemid = vw.itemid inner join aShopItemDetail si on a.ItemId=si.ItemId and si.ShopId=2 "
-      "where pk.packingbarcode = '12x' and  pk.active = 1 and a.active=1 and a.forsales=1 and a.itemtype <>'B'"));
+      "where pk.packingbarcode = '77777' and  pk.active = 1 and a.active=1 and a.forsales=1 and a.itemtype <>'B'"));
   EXPECT_TRUE(shop.log.Sent(
       "Select a.itemid, a.itemcode,a.part_code,vw.* from aitem a inner join vwitemdescription vw on a.itemid = vw.itemid inner "
-      "join ashopitemdetail sd on a.itemid = sd.itemid and sd.shopid=2 where  sd.shortcutno = 12 and sd.shortcutno <> 0 and "
+      "join ashopitemdetail sd on a.itemid = sd.itemid and sd.shopid=2 where  sd.shortcutno = 77777 and sd.shortcutno <> 0 and "
       "a.Active = 1 and a.forsales=1 and a.itemtype <>'B'"));
   EXPECT_TRUE(shop.log.Sent(
       "Select v.itemdescription, v.itemid,a.part_code from aitem a inner join vwitemdescription v on a.itemid = v.itemid inner "
-      "join aShopItemDetail si on a.ItemId=si.ItemId and si.ShopId=2 where a.itemcode = '12x' and a.Active = 1 and a.forsales=1 "
+      "join aShopItemDetail si on a.ItemId=si.ItemId and si.ShopId=2 where a.itemcode = '77777' and a.Active = 1 and "
+      "a.forsales=1 "
       "and a.itemtype <>'B'"));
+}
+
+TEST_F(ItemLookup, ACodeThatOnlyBeginsWithANumberIsNoShortcut) {
+  shop.Run("update aItem set ItemCode = '12-B' where ItemId = 1");
+  Add([&] {
+    Scan("12");
+    EXPECT_EQ(ChosenItem(), shop.Row("select ItemDescription from smpItemDescription where ItemID = 66"));
+    Scan("12-B");
+    EXPECT_EQ(ChosenItem(), "Frying pan 20 cm");
+  });
 }
 
 TEST_F(ItemLookup, WhatNoItemHasIsRefusedAndKeptForCorrection) {

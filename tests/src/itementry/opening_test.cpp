@@ -58,7 +58,10 @@ TEST_F(Opening, OnlyShopsSetUpForItSeeTheAvailableQuantity) {
   LogOnTo(2);
   Add([&] {
     EXPECT_FALSE(form->txtavailqty.Visible() || form->lblavail.Visible());
-    Scan("KT1001");
+    Scan(
+        shop.Row("select min(a.ItemCode) from aItem a inner join aShopItemDetail s on s.ItemID = a.ItemId where s.ShopID = 2"
+                 " and a.active = 1 and a.forsales = 1 and a.itemtype = 'N'"));
+    EXPECT_NE(ChosenItem(), "");
   });
   EXPECT_TRUE(shop.log.Starting("select isnull(sum(gsstock)").empty());
 }
