@@ -1,10 +1,12 @@
 #include "src/fetch/frm_fetch.h"
 
+#include <utility>
 #include <vector>
 
 #include "base/vb/text.h"
 #include "src/fetch/fetch_queries.h"
 #include "src/fetch/item_type_filter.h"
+#include "src/shared/cell_text.h"
 #include "src/shared/form_color.h"
 #include "src/shared/grid_search.h"
 #include "src/shared/list_views.h"
@@ -66,13 +68,18 @@ SortRange SortRangeOf(std::int32_t itemData) {
 
 using Rows = std::vector<std::vector<std::string>>;
 
+/// The rest of the recordset, block by block; the blocks' texts are taken over, not copied.
 Rows ReadRows(ado::Recordset& recordset) {
+  constexpr int kBlockRows = 1024;
   Rows rows;
-  ado::ForEachRow(recordset, [&](const late::Array& block, std::size_t record) {
-    std::vector<std::string>& cells = rows.emplace_back();
-    cells.reserve(block.rows);
-    for (std::size_t field = 0; field < block.rows; ++field) cells.push_back(block.At(field, record).TextOrEmpty());
-  });
+  while (!recordset.Eof()) {
+    const late::ArrayPtr block = recordset.GetRows(kBlockRows);
+    for (std::size_t record = 0; record < block->columns; ++record) {
+      std::vector<std::string>& cells = rows.emplace_back();
+      cells.reserve(block->rows);
+      for (std::size_t field = 0; field < block->rows; ++field) cells.push_back(CellText(std::move(block->At(field, record))));
+    }
+  }
   return rows;
 }
 
