@@ -29,7 +29,9 @@ void CaptionView::Create(HWND parent, int id) {
       style = SS_LEFT | SS_NOTIFY;
       break;
   }
-  CreateChild(parent, id, windowClass, captioned_.Caption(), style);
+  // What lies inside a frame is painted by the form.
+  const DWORD extended = captioned_.Kind() == ControlKind::Frame ? WS_EX_TRANSPARENT : 0;
+  CreateChild(parent, id, windowClass, captioned_.Caption(), style, extended);
   ShowValue();
 }
 

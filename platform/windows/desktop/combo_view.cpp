@@ -49,7 +49,9 @@ void ComboView::ShowText() {
 
 void ComboView::OnCommand(int code) {
   if (updating_) return;
-  if (code == CBN_SELENDOK) {
+  if (code == CBN_SETFOCUS) {
+    Window().FocusArrived(*this);  // a click into the typed text reaches the edit window alone
+  } else if (code == CBN_SELENDOK) {
     const auto index = static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0));
     SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
     if (index >= 0) combo_.Pick(index);

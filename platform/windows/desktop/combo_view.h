@@ -19,6 +19,7 @@ class ComboView : public ControlView {
   bool Paste() override;
 
  protected:
+  bool OwnsRightButton() const override { return combo_.Style() == controls::ComboStyle::DropDownList; }
   std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

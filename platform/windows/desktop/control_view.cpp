@@ -54,9 +54,20 @@ void ControlView::MouseMoved(POINT) {
   model_.MouseMove.Fire();
 }
 
+void ControlView::RightClick(int shift) {
+  // The window may be gone once the handlers have run, so nothing of it is touched afterwards.
+  controls::Form& form = window_.Form();
+  const auto keep = form.weak_from_this().lock();
+  controls::Control& model = model_;
+  if (model.CanFocus() && !model.HasFocus() && !form.MoveFocus(&model)) return;
+  model.MouseDown.Fire(controls::kRightButton, shift);
+  if (form.IsShown()) model.MouseUp.Fire(controls::kRightButton, shift);
+}
+
 LRESULT CALLBACK ControlView::Subclass(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
   auto* view = reinterpret_cast<ControlView*>(data);
   std::optional<LRESULT> answer;
+  if (view->window_.IsRetired()) return DefSubclassProc(handle, message, wParam, lParam);
   view->window_.Guarded([&] { answer = view->Handle(message, wParam, lParam); });
   return answer ? *answer : DefSubclassProc(handle, message, wParam, lParam);
 }
@@ -69,16 +80,19 @@ std::optional<LRESULT> ControlView::Handle(UINT message, WPARAM wParam, LPARAM l
     case WM_MOUSEMOVE:
       MouseMoved({static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
       break;
-    case WM_RBUTTONUP: {
-      // The window may be gone once the handlers have run, so nothing of it is touched afterwards.
-      FormWindow& window = window_;
-      const std::weak_ptr<late::Object> form = window.Form().weak_from_this();
-      const int shift = ShiftState(wParam);
-      if (model_.CanFocus() && !model_.HasFocus() && !window.Form().MoveFocus(&model_)) return 0;
-      model_.MouseDown.Fire(controls::kRightButton, shift);
-      if (!form.expired()) model_.MouseUp.Fire(controls::kRightButton, shift);
+    case WM_RBUTTONDOWN:
+      if (!OwnsRightButton()) break;
+      RightButtonAt({static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
       return 0;
-    }
+    case WM_RBUTTONUP:
+      if (!OwnsRightButton()) break;
+      RightClick(ShiftState(wParam));
+      return 0;
+    case WM_CONTEXTMENU:
+      // The menu key and Shift+F10 do what the right button does; the box of a text keeps its own menu.
+      if (!OwnsRightButton()) break;
+      if (lParam == -1) RightClick(0);
+      return 0;
     default:
       break;
   }

@@ -60,11 +60,16 @@ class ControlView {
     (void)message, (void)wParam, (void)lParam;
     return std::nullopt;
   }
+  /// Whether the right button is the model's. A box that is typed into keeps the system's menu.
+  virtual bool OwnsRightButton() const { return true; }
+  /// The right button went down: lists select the line below it.
+  virtual void RightButtonAt(POINT point) { (void)point; }
   FormWindow& Window() const { return window_; }
 
  private:
   static LRESULT CALLBACK Subclass(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR view);
   std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void RightClick(int shift);
 
   FormWindow& window_;
   controls::Control& model_;

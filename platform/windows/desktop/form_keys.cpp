@@ -61,7 +61,8 @@ void FormWindow::RunNatively(ControlView& view, const MSG& message) {
     if (code != 0 && form_.IsShown()) control.KeyDown.Fire(code, shift);
     if (code == 0 || form.expired() || !form_.IsShown()) return;
   }
-  TranslateMessage(&message);
+  // These keys give no character; only an input method's key must be translated.
+  if (message.wParam == VK_PROCESSKEY) TranslateMessage(&message);
   DispatchMessageW(&message);
   if (form.expired() || !form_.IsShown()) return;
   view.Pull();

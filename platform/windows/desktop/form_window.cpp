@@ -33,6 +33,15 @@ bool IsBackdrop(const controls::Control& control) {
   return control.Kind() == ControlKind::Frame || control.Kind() == ControlKind::TabControl;
 }
 
+/// Makes the field of a combo as high as its place, so that it lines up with the text boxes beside it.
+void FitCombo(HWND combo, LONG height) {
+  RECT window{};
+  GetWindowRect(combo, &window);
+  const auto field = static_cast<LONG>(SendMessageW(combo, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0));
+  const LONG wanted = field + height - (window.bottom - window.top);
+  if (wanted > 0 && wanted != field) SendMessageW(combo, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), wanted);
+}
+
 }  // namespace
 
 std::unique_ptr<ControlView> MakeView(FormWindow& window, controls::Control& model) {
@@ -72,6 +81,7 @@ FormWindow::FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner
 }
 
 FormWindow::~FormWindow() {
+  retired_ = true;
   views_.clear();
   if (toolTips_ != nullptr) DestroyWindow(toolTips_);
   SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
@@ -118,6 +128,11 @@ void FormWindow::Show() {
   SetWindowPos(handle_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
   ShowWindow(handle_, SW_SHOW);
   UpdateWindow(handle_);
+}
+
+void FormWindow::Retire() {
+  retired_ = true;
+  ShowWindow(handle_, SW_HIDE);
 }
 
 void FormWindow::UpdateFrame() {
@@ -183,8 +198,10 @@ void FormWindow::Place() {
     controls::Control& control = view->Model();
     const RECT rect = PlaceOf(control);
     // A combo's height includes its list.
-    const LONG height = control.Kind() == ControlKind::ComboBox ? metrics_.Pixels(3600) : rect.bottom - rect.top;
+    const bool isCombo = control.Kind() == ControlKind::ComboBox;
+    const LONG height = isCombo ? metrics_.Pixels(3600) : rect.bottom - rect.top;
     SetWindowPos(view->Handle(), nullptr, rect.left, rect.top, rect.right - rect.left, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (isCombo) FitCombo(view->Handle(), rect.bottom - rect.top);
     bool enabled = control.Enabled();
     for (controls::Control* c = control.Container(); c != nullptr; c = c->Container()) enabled = enabled && c->Enabled();
     if (IsWindowEnabled(view->Handle()) != (enabled ? TRUE : FALSE)) EnableWindow(view->Handle(), enabled);
@@ -239,7 +256,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND handle, UINT message, WPARAM wParam,
   auto* window = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   LRESULT answer = 0;
   bool handled = false;
-  if (window != nullptr && window->handle_ != nullptr) {
+  if (window != nullptr && window->handle_ != nullptr && !window->retired_) {
     window->Guarded([&] { handled = window->Handle(message, wParam, lParam, answer); });
   }
   return handled ? answer : DefWindowProcW(handle, message, wParam, lParam);

@@ -30,6 +30,9 @@ class FormWindow {
   const Metrics& Measures() const { return metrics_; }
 
   void Show();
+  /// The form has left the screen: the window may wait for its destruction, but no message of it reaches the model any more.
+  void Retire();
+  bool IsRetired() const { return retired_; }
   /// Caption, size and colour from the model.
   void UpdateFrame();
   void UpdateControl(controls::Control& control, controls::Aspect aspect);
@@ -80,6 +83,7 @@ class FormWindow {
   bool flushPosted_ = false;
   bool arrange_ = false;
   bool movingFocus_ = false;
+  bool retired_ = false;
   SIZE designSize_{};
   std::wstring toolTipText_;
 };

@@ -98,6 +98,14 @@ void LinesView::Clicked(const NMITEMACTIVATE& click) {
   }
 }
 
+void LinesView::RightButtonAt(POINT point) {
+  LVHITTESTINFO hit{};
+  hit.pt = point;
+  SendMessageW(Handle(), LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  if (list_.CanFocus() && !list_.HasFocus() && !list_.Owner().MoveFocus(&list_)) return;
+  if (hit.iItem >= 0 && hit.iItem < list_.Count()) list_.ClickItem(hit.iItem + 1);
+}
+
 std::optional<LRESULT> LinesView::OnNotify(NMHDR& header) {
   switch (header.code) {
     case LVN_GETDISPINFOW:

@@ -15,6 +15,9 @@ class LinesView : public ControlView {
   std::optional<LRESULT> OnNotify(NMHDR& header) override;
   std::string ToolTipAt(POINT point) const override;
 
+ protected:
+  void RightButtonAt(POINT point) override;
+
  private:
   void ShowColumns();
   void ShowLines();

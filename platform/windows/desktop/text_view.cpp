@@ -15,10 +15,6 @@ int CharactersOf(const std::wstring& text, DWORD units) {
   return static_cast<int>(vb::Len(Utf8(std::wstring_view(text).substr(0, std::min<std::size_t>(units, text.size())))));
 }
 
-bool IsDown(int key) {
-  return GetKeyState(key) < 0;
-}
-
 }  // namespace
 
 void TextView::Create(HWND parent, int id) {
@@ -37,6 +33,7 @@ void TextView::Update(controls::Aspect aspect) {
   if (WindowText(Handle()) != wide) SetWindowTextW(Handle(), wide.c_str());
   SendMessageW(Handle(), EM_SETSEL, static_cast<WPARAM>(UnitsOf(text, box_.SelStart())),
                UnitsOf(text, box_.SelStart() + box_.SelLength()));
+  SendMessageW(Handle(), EM_SCROLLCARET, 0, 0);
   SendMessageW(Handle(), EM_SETREADONLY, box_.Locked(), 0);
   updating_ = false;
 }
@@ -70,8 +67,6 @@ bool TextView::WantsNatively(const MSG& message) const {
       return box_.MultiLine();
     case VK_PROCESSKEY:
       return true;
-    case 'Z':
-      return IsDown(VK_CONTROL);
     default:
       return false;
   }

@@ -20,6 +20,7 @@ class TextView : public ControlView {
   bool SelectAll() override;
 
  protected:
+  bool OwnsRightButton() const override { return false; }
   std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

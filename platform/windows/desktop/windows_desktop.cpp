@@ -61,7 +61,7 @@ void WindowsDesktop::Closed(controls::Form& form) {
   for (HWND window : showing.disabled) EnableWindow(window, TRUE);
   if (showing.owner != nullptr) SetActiveWindow(showing.owner);
   if (showing.depth == depth_) return;
-  ShowWindow(showing.window->Handle(), SW_HIDE);
+  showing.window->Retire();
   leaving_.push_back(std::move(showing));
 }
 
