@@ -6,6 +6,6 @@ namespace goods {
 
 /// The name under which the module's own routines report their errors. The suite's error log knows them under this name, which is
 /// not the module's; like every reported name it is followed by one blank.
-inline constexpr std::string_view kModuleName = "basGoodsPurchase ";
+inline constexpr std::string_view kModuleName = "basGoodsPurchase";
 
 }  // namespace goods

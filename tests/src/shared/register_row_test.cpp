@@ -107,7 +107,7 @@ TEST_F(RegisterRow, AnErrorIsReportedUnderTheNameTheErrorLogKnows) {
   shop.log.FailAt(1);
   Update(View(), 13);
   ASSERT_EQ(1u, errors->lines.size());
-  EXPECT_TRUE(errors->lines[0].starts_with("basGoodsPurchase |UpdateEditedRow|")) << errors->lines[0];
+  EXPECT_TRUE(errors->lines[0].starts_with("basGoodsPurchase|UpdateEditedRow|")) << errors->lines[0];
 }
 
 }  // namespace

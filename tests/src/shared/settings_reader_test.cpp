@@ -57,7 +57,7 @@ TEST_F(SettingsReader, AKeyThatNoLineCarriesIsToldOnceAndEmpty) {
 TEST_F(SettingsReader, AFileThatIsNotThereIsToldAndReported) {
   shop.desktop.ExpectMessage(" Settings.ini file not found", controls::Answer::Ok, controls::kCritical);
   EXPECT_EQ("", goods::FileCode(shop.session, "printer", "C:\\elsewhere.txt"));
-  EXPECT_EQ(std::vector<std::string>{"basGoodsPurchase |FileCode |53|"}, errors->lines);
+  EXPECT_EQ(std::vector<std::string>{"basGoodsPurchase|FileCode |53|"}, errors->lines);
 }
 
 TEST_F(SettingsReader, OptionalSettingsAreReadWithoutAWord) {
