@@ -50,6 +50,12 @@ std::vector<Entry> EntriesOf(const ServerRegistration& server, const ServerClass
   return entries;
 }
 
+/// The calls for one user's type libraries; the toolchain's headers lack them.
+template <class Call>
+Call PerUserCall(const char* name) {
+  return reinterpret_cast<Call>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"oleaut32"), name)));
+}
+
 /// The module's type library and what its identifiers are.
 class TypeLibrary {
  public:
@@ -67,15 +73,15 @@ class TypeLibrary {
   const GUID& Id() const { return attributes_->guid; }
 
   HRESULT Register(std::wstring path, RegistrationScope scope) const {
-    return scope == RegistrationScope::Machine ? RegisterTypeLib(library_.Get(), path.data(), nullptr)
-                                               : RegisterTypeLibForUser(library_.Get(), path.data(), nullptr);
+    if (scope == RegistrationScope::Machine) return RegisterTypeLib(library_.Get(), path.data(), nullptr);
+    using Call = HRESULT(STDAPICALLTYPE*)(ITypeLib*, OLECHAR*, OLECHAR*);
+    return PerUserCall<Call>("RegisterTypeLibForUser")(library_.Get(), path.data(), nullptr);
   }
   HRESULT Unregister(RegistrationScope scope) const {
-    const WORD major = attributes_->wMajorVerNum;
-    const WORD minor = attributes_->wMinorVerNum;
-    const HRESULT result = scope == RegistrationScope::Machine
-                               ? UnRegisterTypeLib(Id(), major, minor, attributes_->lcid, kSystem)
-                               : UnRegisterTypeLibForUser(Id(), major, minor, attributes_->lcid, kSystem);
+    using Call = decltype(&UnRegisterTypeLib);
+    const Call unregister =
+        scope == RegistrationScope::Machine ? &UnRegisterTypeLib : PerUserCall<Call>("UnRegisterTypeLibForUser");
+    const HRESULT result = unregister(Id(), attributes_->wMajorVerNum, attributes_->wMinorVerNum, attributes_->lcid, kSystem);
     return result == TYPE_E_REGISTRYACCESS ? S_OK : result;  // it was not there
   }
 

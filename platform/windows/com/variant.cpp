@@ -44,7 +44,7 @@ late::Value FromDecimal(const DECIMAL& decimal) {
 
 DECIMAL ToDecimal(const vb::Decimal& decimal) {
   DECIMAL made{};
-  made.sign = decimal.units < 0 ? DECIMAL_NEG : 0;
+  made.sign = static_cast<BYTE>(decimal.units < 0 ? DECIMAL_NEG : 0);
   made.scale = static_cast<BYTE>(decimal.scale);
   // Unsigned negation holds for the least number, too.
   made.Lo64 = decimal.units < 0 ? 0 - static_cast<std::uint64_t>(decimal.units) : static_cast<std::uint64_t>(decimal.units);

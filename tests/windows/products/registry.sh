@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Registers the two servers, or takes them out and compares the registry with what it was before.
+# Usage: registry.sh register|unregister WINE PRODUCTS WORK
+set -euo pipefail
+step=$1 wine=$2 products=$3 work=$4
+
+classes() {
+  for root in HKLM HKCU; do
+    "$wine" reg export "$root\\Software\\Classes" "$(winepath_of "$work/$1.$root.reg")" /y >/dev/null 2>&1 || : >"$work/$1.$root.reg"
+  done
+}
+winepath_of() { echo "Z:${1//\//\\}"; }
+server() { "$wine" regsvr32 /s $1 "$(winepath_of "$products/$2.dll")"; }
+
+case $step in
+  register)
+    server /u tq8v4461 || true
+    server /u shopsuite || true
+    classes before
+    server "" tq8v4461
+    server "" shopsuite
+    classes registered
+    for wanted in tq8v4461.clsGoodsRequest ShopCommon.clsCommonDB ShopCommon.clsCommonGen Lookup.clsFetch Theme.clsFormcolor \
+                  Audit.clsUserAuditing GridPrefs.clsMasterGridSetting ErrLog.ErrorDetails ShopSuite.Database; do
+      iconv -f utf-16 -t utf-8 "$work/registered.HKLM.reg" | grep -q "\\\\$wanted\\\\CLSID\\]" || { echo "$wanted is not registered" >&2; exit 1; }
+    done
+    ;;
+  unregister)
+    server /u tq8v4461
+    server /u shopsuite
+    classes after
+    for root in HKLM HKCU; do
+      diff <(iconv -f utf-16 -t utf-8 "$work/before.$root.reg") <(iconv -f utf-16 -t utf-8 "$work/after.$root.reg")
+    done
+    ;;
+esac
