@@ -50,11 +50,21 @@ late::Value Connection::Execute(late::Arguments& arguments) {
   const std::shared_ptr<Session> session = session_;
   const late::Value text = arguments[0];
   const auto* statement = text.If<std::string>();
-  RunResult result = session->Run(statement ? std::string_view(*statement) : std::string_view(), false);
+  RunResult result = Run(statement ? std::string_view(*statement) : std::string_view(), false);
   if (arguments.Has(1)) arguments.Write(1, result.affected);
   auto self = std::static_pointer_cast<Connection>(shared_from_this());
   const bool rows = static_cast<bool>(result.rows);
   return Recordset::OfResult(std::move(self), session, std::move(result), rows && statement ? *statement : std::string());
+}
+
+RunResult Connection::Run(std::string_view text, bool updatable) {
+  const std::shared_ptr<Session> session = OpenSession();
+  try {
+    return session->Run(text, updatable);
+  } catch (const ServerError& error) {
+    errors_->Keep(error);
+    throw;
+  }
 }
 
 late::Value Connection::BeginTrans() {
@@ -70,6 +80,7 @@ const late::MemberTable<Connection>& Connection::Members() {
       {"Open", [](Self& self, Arguments& arguments) -> Value { return self.Open(arguments), Value(); }, nullptr, 0, 4},
       {"Close", [](Self& self, Arguments&) -> Value { return self.Close(), Value(); }, nullptr},
       {"Execute", [](Self& self, Arguments& arguments) { return self.Execute(arguments); }, nullptr, 1, 3},
+      {"Errors", [](Self& self, Arguments&) -> Value { return self.errors_; }, nullptr},
       {"BeginTrans", [](Self& self, Arguments&) { return self.BeginTrans(); }, nullptr},
       {"CommitTrans", [](Self& self, Arguments&) -> Value { return self.Required().Commit(), Value(); }, nullptr},
       {"RollbackTrans", [](Self& self, Arguments&) -> Value { return self.Required().Rollback(), Value(); }, nullptr},

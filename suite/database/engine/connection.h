@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/late/object.h"
+#include "suite/database/engine/error_list.h"
 #include "suite/database/engine/session.h"
 
 namespace suite {
@@ -22,6 +23,8 @@ class Connection : public late::TableObject<Connection> {
   /// The open session; error 3709 when the connection is closed, for those who want to work on it.
   const std::shared_ptr<Session>& OpenSession() const;
   int CursorLocation() const { return cursorLocation_; }
+  /// Runs a statement; what the server refuses is also found in Errors afterwards. Error 3709 when the connection is closed.
+  RunResult Run(std::string_view text, bool updatable);
 
  private:
   void Open(late::Arguments& arguments);
@@ -33,6 +36,7 @@ class Connection : public late::TableObject<Connection> {
   std::shared_ptr<Session> session_;
   std::shared_ptr<void> database_;
   std::string connectionString_;
+  std::shared_ptr<ErrorList> errors_ = std::make_shared<ErrorList>();
   int timeout_ = 30;
   int cursorLocation_ = 2;
 };

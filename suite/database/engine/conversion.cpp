@@ -165,7 +165,9 @@ Cell ToDecimal(const Cell& value, const Type& from, const Type& to) {
 
 std::int64_t Rescale(std::int64_t units, int oldScale, int newScale, int precision) {
   if (newScale > oldScale) {
-    if (__builtin_mul_overflow(units, PowerOfTen(newScale - oldScale), &units)) RaiseOverflow("decimal");
+    const std::int64_t power = PowerOfTen(newScale - oldScale);
+    if (std::abs(units) > std::numeric_limits<std::int64_t>::max() / power) RaiseOverflow("decimal");
+    units *= power;
   } else if (newScale < oldScale) {
     const std::int64_t power = PowerOfTen(oldScale - newScale);
     const std::int64_t rest = units % power;

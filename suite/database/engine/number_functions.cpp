@@ -9,8 +9,6 @@
 namespace suite {
 namespace {
 
-__extension__ using Wide = __int128;
-
 [[noreturn]] void RaiseDivisionByZero() {
   RaiseServer(8134, "Divide by zero error encountered.");
 }
@@ -69,15 +67,21 @@ void Remainder(const FunctionCall& call) {
   call.Return(call.Whole(1) == -1 ? std::int64_t{0} : call.Whole(0) % call.Whole(1));
 }
 
-/// srv_quotient(units, units, digits): the first shifted by the digits, divided and cut, as the server divides decimals.
+/// srv_quotient(units, units, digits): the first shifted by the digits, divided and cut, as the server divides decimals. Worked
+/// digit by digit: the shifted number itself may be longer than 64 bits.
 void Quotient(const FunctionCall& call) {
-  const Wide divisor = call.Whole(1);
+  constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
+  const std::int64_t divisor = call.Whole(1);
   if (divisor == 0) RaiseDivisionByZero();
-  const Wide quotient = static_cast<Wide>(call.Whole(0)) * PowerOfTen(static_cast<int>(call.Whole(2))) / divisor;
-  if (quotient > std::numeric_limits<std::int64_t>::max() || quotient < std::numeric_limits<std::int64_t>::min()) {
-    RaiseOverflow("decimal");
+  if (divisor > kMost / 10 || divisor < -(kMost / 10)) RaiseOverflow("decimal");
+  std::int64_t quotient = call.Whole(0) / divisor;
+  std::int64_t rest = call.Whole(0) % divisor;
+  for (std::int64_t digits = call.Whole(2); digits > 0; --digits) {
+    if (quotient > kMost / 10 - 1 || quotient < -(kMost / 10 - 1)) RaiseOverflow("decimal");
+    quotient = quotient * 10 + rest * 10 / divisor;
+    rest = rest * 10 % divisor;
   }
-  call.Return(static_cast<std::int64_t>(quotient));
+  call.Return(quotient);
 }
 
 /// srv_round(units, scale, digits)

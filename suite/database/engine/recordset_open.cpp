@@ -82,7 +82,7 @@ void Recordset::OpenSource() {
   if (!connection_) RaiseAdo(ado::kInvalidConnection, kSource);
   const std::shared_ptr<Session> session = connection_->OpenSession();
   const bool updatable = lockType_ != ado::kReadOnly;
-  RunResult result = session->Run(CommandText(), updatable);
+  RunResult result = connection_->Run(CommandText(), updatable);
   if (!result.rows) return;  // a statement without rows leaves the recordset closed
   const int location = cursorLocation_ ? cursorLocation_ : connection_->CursorLocation();
   if (location == ado::kUseClient) cursorType_ = ado::kStatic;

@@ -1,8 +1,10 @@
 #include "suite/database/engine/connection.h"
 
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <sqlite3.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "base/ado/constants.h"
@@ -77,6 +79,74 @@ TEST_F(Connections, AStatementThatRunsTooLongIsStopped) {
       "select count(*) from detail a, detail b, detail c, detail d, detail e where a.qty + b.qty + c.qty + d.qty + e.qty < 0";
   EXPECT_EQ(ServerErrorOf([&] { Single(endless); }), 1222);
   EXPECT_EQ(Count(), 60) << "and the connection goes on";
+}
+
+TEST_F(Connections, WhatTheServerSaidIsKept) {
+  const late::ObjectPtr errors = connection_->Get("Errors").ToObject();
+  EXPECT_EQ(errors->Get("Count").ToInt32(), 0);
+  EXPECT_EQ(ErrorOf([&] { Execute("select nothing from detail"); }), -2147217900);
+  ASSERT_EQ(errors->Get("Count").ToInt32(), 1);
+  const late::ObjectPtr error = errors->Get("Item", {std::int32_t{0}}).ToObject();
+  EXPECT_EQ(error->Get("NativeError").ToInt32(), 207);
+  EXPECT_EQ(error->Get("Description").ToText(), "Invalid column name 'nothing'.");
+}
+
+/// The work that the store's machine has done for the connection's selects and for its inserts.
+struct Work {
+  int selects = 0, inserts = 0;
+};
+
+Work WorkOf(const late::ObjectPtr& connection) {
+  Work work;
+  sqlite3* store = std::static_pointer_cast<suite::Connection>(connection)->OpenSession()->Handle();
+  for (sqlite3_stmt* each = sqlite3_next_stmt(store, nullptr); each; each = sqlite3_next_stmt(store, each)) {
+    const std::string sql = sqlite3_sql(each);
+    const int steps = sqlite3_stmt_status(each, SQLITE_STMTSTATUS_VM_STEP, 0);
+    if (sql.starts_with("SELECT")) work.selects += steps;
+    if (sql.starts_with("INSERT INTO \"detail\"")) work.inserts += steps;
+  }
+  return work;
+}
+
+TEST_F(Connections, AppendingReadsNoneOfTheRowsThatAreThere) {
+  const late::Value names = late::Array::List({"line", "shop", "request", "item"});
+  const auto append = [&](int line) {
+    const late::ObjectPtr fresh = database_->Connect();
+    late::ClassRegistry registry;
+    suite::RegisterAdo(registry);
+    const late::ObjectPtr rows = registry.Create("ADODB.Recordset");
+    rows->Call("Open",
+               {"select * from detail where shop=1", fresh, std::int32_t{ado::kDynamic}, std::int32_t{ado::kBatchOptimistic}});
+    rows->Call("AddNew", {names, late::Array::List({std::int32_t{line}, std::int32_t{1}, std::int32_t{2}, std::int32_t{1}})});
+    rows->Call("UpdateBatch");
+    return WorkOf(fresh);
+  };
+  const Work small = append(1);
+  Fill(2000);
+  const Work large = append(2);
+  EXPECT_EQ(small.selects, 0);
+  EXPECT_EQ(large.selects, 0);
+  EXPECT_GT(small.inserts, 0);
+  EXPECT_EQ(large.inserts, small.inserts);
+  const late::ObjectPtr fresh = database_->Connect();
+  fresh->Call("Execute", {"select line from detail"});
+  EXPECT_GT(WorkOf(fresh).selects, 0) << "the measure would have seen rows being read";
+}
+
+TEST_F(Connections, TheUpdatesOfASaveArePreparedOnce) {
+  Fill(20);
+  const late::ObjectPtr fresh = database_->Connect();
+  for (int i = 0; i < 20; ++i) {
+    const std::string text = i % 2 ? "o''clock; --" + std::to_string(i) : std::string("x");
+    fresh->Call("Execute", {"update detail set raised=1, remarks='" + text + "' where item = " + std::to_string(100 + i)});
+  }
+  sqlite3* store = std::static_pointer_cast<suite::Connection>(fresh)->OpenSession()->Handle();
+  int updates = 0;
+  for (sqlite3_stmt* each = sqlite3_next_stmt(store, nullptr); each; each = sqlite3_next_stmt(store, each)) {
+    updates += std::string(sqlite3_sql(each)).starts_with("UPDATE") ? 1 : 0;
+  }
+  EXPECT_EQ(updates, 1);
+  EXPECT_EQ(Count("raised=1 and remarks like 'o''clock; --%'"), 10);
 }
 
 /// Writes down what it is told, and refuses the one it is told to refuse.
@@ -186,6 +256,40 @@ TEST_F(Files, ASecondConnectionSeesOnlyWhatIsCommitted) {
   EXPECT_EQ(count(), 0);
   first->Call("CommitTrans");
   EXPECT_EQ(count(), 1);
+}
+
+/// Runs the work in a process of its own that is killed right after it, without any farewell.
+void RunAndDie(const std::string& path, const std::function<void(late::Object&)>& work) {
+  const pid_t child = ::fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    const auto database = suite::Database::Open(path);
+    const late::ObjectPtr connection = database->Connect();
+    work(*connection);
+    ::kill(::getpid(), SIGKILL);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status)) << "the work itself failed";
+}
+
+TEST_F(Files, AProcessThatDiesLeavesTheStateBeforeOrAfterItsSave) {
+  suite::Database::Open(path_.string())->RunScript("create table t (id int null)");
+  const auto count = [&] {
+    const late::ObjectPtr connection = suite::Database::Open(path_.string())->Connect();
+    return connection->Call("Execute", {"select count(*) from t"}).ToObject()->Get("Collect", {std::int32_t{0}}).ToInt32();
+  };
+  const auto save = [](late::Object& connection) {
+    connection.Call("BeginTrans");
+    for (int i = 0; i < 5000; ++i) connection.Call("Execute", {"insert into t values (" + std::to_string(i) + ")"});
+  };
+  RunAndDie(path_.string(), save);
+  EXPECT_EQ(count(), 0);
+  RunAndDie(path_.string(), [&](late::Object& connection) {
+    save(connection);
+    connection.Call("CommitTrans");
+  });
+  EXPECT_EQ(count(), 5000);
 }
 
 TEST_F(Files, AnotherKindOfFileIsRefused) {

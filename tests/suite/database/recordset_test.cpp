@@ -225,6 +225,14 @@ TEST_F(Recordsets, AStatementThatFailsLeavesTheRecordsetClosed) {
   EXPECT_EQ(ErrorOf([&] { rows->Call("Open", {"select 1", late::ObjectPtr()}); }), ado::kInvalidConnection);
 }
 
+TEST_F(Recordsets, AThousandRowsOfOneInsertArrive) {
+  std::string text = "insert into detail (line, shop, request, item, remarks) values ";
+  for (int i = 1; i <= 1000; ++i)
+    text += (i > 1 ? ", (" : "(") + std::to_string(i) + ", 1, 1, 2, 'it''s " + std::to_string(i) + "')";
+  Execute(text);
+  EXPECT_EQ(Count("remarks like 'it''s %'"), 1000);
+}
+
 TEST_F(Recordsets, RowsMayBeWalkedWhileOthersAreChanged) {
   Fill(50);
   const auto rows = Open("select * from detail where request = 1", ado::kForwardOnly, ado::kReadOnly);
