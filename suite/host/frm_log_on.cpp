@@ -46,7 +46,7 @@ void frmLogOn::Design() {
   place(lbluser, "&User:", cboUser);
   place(lbldate, "Process &date:", txtdate);
   for (ComboBox* list : {&cboCompany, &cboShop, &cboUser}) list->SetStyle(ComboStyle::DropDownList);
-  txtdate.Move(1680, txtdate.Top(), 1560, 330);
+  txtdate.Move(1680, txtdate.Place().top, 1560, 330);
   txtdate.SetMaxLength(10);
   cmdopen.SetCaption("&Goods requests");
   cmdopen.Move(2280, 2280, 1800, 420);

@@ -109,8 +109,8 @@ TEST(Variant, ArraysOfOtherTypesAreReadWhateverTheirLowerBound) {
   SAFEARRAYBOUND bound{2, 5};
   SAFEARRAY* bytes = SafeArrayCreate(VT_UI1, 1, &bound);
   LONG index = 6;
-  BYTE byte = 7;
-  SafeArrayPutElement(bytes, &index, &byte);
+  BYTE element = 7;
+  SafeArrayPutElement(bytes, &index, &element);
   VARIANT variant{};
   variant.vt = VT_ARRAY | VT_UI1;
   variant.parray = bytes;

