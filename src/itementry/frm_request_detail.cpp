@@ -45,12 +45,15 @@ void frmRequestDetail::CreateHelpers() {
 
 void frmRequestDetail::ArrangeOptionButtons() {
   if (Session().gBlnRequestForNonShopItem) return;
-  // Closes the gap of the hidden option.
+  // Closes the gap of the hidden option; each of the others reaches to the next.
   picOptions.SetLeft(990);
   picOptions.SetWidth(7765);
   optStockoutitems.SetLeft(0);
+  optStockoutitems.SetWidth(1485);
   optAvaingodnotinshop.SetLeft(1485);
+  optAvaingodnotinshop.SetWidth(4095);
   optall.SetLeft(5580);
+  optall.SetWidth(2185);
 }
 
 void frmRequestDetail::Form_Activate() {
