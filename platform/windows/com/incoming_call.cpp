@@ -47,11 +47,11 @@ HRESULT Failure(const late::Object& object, EXCEPINFO* info) {
   return DISP_E_EXCEPTION;
 }
 
-void Enumerate(late::Object& collection, VARIANT* result) {
-  if (!IsCollection(collection)) vb::Raise(vb::kMemberNotFound);
+void Enumerate(const late::ObjectPtr& collection, VARIANT* result) {
+  if (!IsCollection(*collection)) vb::Raise(vb::kMemberNotFound);
   if (!result) return;
   VariantInit(result);
-  result->punkVal = MakeCom<ValueEnumerator>(collection.shared_from_this()).Detach();
+  result->punkVal = MakeCom<ValueEnumerator>(collection).Detach();
   result->vt = VT_UNKNOWN;
 }
 
@@ -88,12 +88,12 @@ HRESULT FindMembers(const late::Object& object, OLECHAR** names, UINT count, DIS
   return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
-HRESULT InvokeMember(late::Object& object, DISPID id, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+HRESULT InvokeMember(const late::ObjectPtr& object, DISPID id, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                      EXCEPINFO* info) noexcept {
-  if (id == DISPID_VALUE) return InvokeMemberNamed(object, "", flags, parameters, result, info);
+  if (id == DISPID_VALUE) return InvokeMemberNamed(*object, "", flags, parameters, result, info);
   if (id == DISPID_NEWENUM) return Guard("", IID_IDispatch, [&] { Enumerate(object, result); });
   const std::string* member = MemberNameOf(id);
-  return member ? InvokeMemberNamed(object, *member, flags, parameters, result, info) : DISP_E_MEMBERNOTFOUND;
+  return member ? InvokeMemberNamed(*object, *member, flags, parameters, result, info) : DISP_E_MEMBERNOTFOUND;
 }
 
 HRESULT InvokeMemberNamed(late::Object& object, std::string_view member, WORD flags, DISPPARAMS* parameters, VARIANT* result,

@@ -10,7 +10,7 @@ HRESULT FindMembers(const late::Object& object, OLECHAR** names, UINT count, DIS
 
 /// IDispatch::Invoke for a late-bound object: by-reference arguments are written back in the caller's types, errors go into
 /// `info`. DISPID_VALUE is the default member, DISPID_NEWENUM walks a collection that has Count and Item.
-HRESULT InvokeMember(late::Object& object, DISPID id, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+HRESULT InvokeMember(const late::ObjectPtr& object, DISPID id, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                      EXCEPINFO* info) noexcept;
 
 /// The same for a member whose name the caller has found itself.

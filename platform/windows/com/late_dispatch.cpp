@@ -72,7 +72,7 @@ HRESULT LateDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* pa
                              UINT*) {
   if (!object_) return RPC_E_DISCONNECTED;
   const late::ObjectPtr held = object_;
-  return InvokeMember(*held, id, flags, parameters, result, info);
+  return InvokeMember(held, id, flags, parameters, result, info);
 }
 
 HRESULT LateDispatch::GetClassInfo(ITypeInfo** info) {
@@ -97,9 +97,9 @@ ComPtr<IDispatch> DispatchOf(const late::ObjectPtr& object) {
 late::ObjectPtr OwnObjectOf(IUnknown* unknown) {
   const auto own = ComPtr<IUnknown>(unknown).As<OwnObject>(kOwnObjectId);
   if (!own || own->Module() != ModuleMark()) return nullptr;
-  late::Object* object = own->Object();
+  const late::ObjectPtr* object = own->Object();
   if (!object) vb::Raise(vb::kObjectNotSet);
-  return object->shared_from_this();
+  return *object;
 }
 
 void DisconnectLateObjects() {

@@ -24,7 +24,7 @@ class LateDispatch final : public ComObject<LateDispatch, IDispatch, IProvideCla
   HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) override;
 
   const void* STDMETHODCALLTYPE Module() override { return ModuleMark(); }
-  late::Object* STDMETHODCALLTYPE Object() override { return object_.get(); }
+  const late::ObjectPtr* STDMETHODCALLTYPE Object() override { return object_ ? &object_ : nullptr; }
 
   /// Gives the object back; calls find nobody from then on.
   late::ObjectPtr Disconnect() { return std::exchange(object_, nullptr); }

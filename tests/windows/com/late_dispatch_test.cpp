@@ -177,6 +177,23 @@ TEST_F(OwnObject, HasOneFaceAndComesBackAsItself) {
   EXPECT_EQ(Bstr(name).Text(), "Shelf");
 }
 
+TEST_F(OwnObject, MayBePartOfALargerOneThatItKeepsAlive) {
+  struct Form {
+    Shelf control;
+  };
+  auto form = std::make_shared<Form>();
+  const std::weak_ptr<Form> watched = form;
+  const late::ObjectPtr control(form, &form->control);
+  dispatch = DispatchOf(control);
+  form.reset();
+  EXPECT_EQ(windows::ObjectOf(dispatch.Get()), control);
+  DISPPARAMS none{};
+  VARIANT walk{};
+  EXPECT_EQ(dispatch->Invoke(DISPID_NEWENUM, IID_NULL, 0, kRead, &none, &walk, nullptr, nullptr), S_OK);
+  VariantClear(&walk);
+  EXPECT_FALSE(watched.expired());
+}
+
 TEST_F(OwnObject, IsFreedWithItsLastReferenceAndCanBeDisconnectedBefore) {
   std::weak_ptr<Shelf> watched = shelf;
   shelf.reset();
