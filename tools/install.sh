@@ -10,7 +10,7 @@ for part in "$@"; do
     tests) packages+=(libgtest-dev googletest) ;;
     bench) packages+=(libbenchmark-dev) ;;
     windows) packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev
-                        xvfb xauth imagemagick npm googletest) ;;
+                        xvfb xauth imagemagick xdotool fonts-wine npm googletest) ;;
     *) echo "install.sh: no such part: $part" >&2; exit 2 ;;
   esac
 done

@@ -47,10 +47,10 @@ void frmRequestDetail::DesignOptions() {
   for (controls::OptionButton* option : {&optStockoutitems, &optAvaingodnotinshop, &optall, &optItemsNotInShop}) {
     option->SetContainer(&picOptions);
   }
-  Place(optStockoutitems, "&Stock Out Items", 0, 30, 1485, 360);
-  Place(optAvaingodnotinshop, "&Available in Godown, Not available in Shop", 1485, 30, 4095, 360);
-  Place(optall, "All I&tems in Shop", 5580, 30, 2185, 360);
-  Place(optItemsNotInShop, "Items &not in Shop", 7765, 30, 2200, 360);
+  Place(optStockoutitems, "&Stock Out Items", 0, 30, 1920, 360);
+  Place(optAvaingodnotinshop, "&Available in Godown, Not available in Shop", 1980, 30, 4140, 360);
+  Place(optall, "All I&tems in Shop", 6180, 30, 1860, 360);
+  Place(optItemsNotInShop, "Items &not in Shop", 8100, 30, 1865, 360);
   optItemsNotInShop.SetToolTipText("This option lists all those items that are not in the item list of the shop.");
   optall.SetToolTipText("This option lists all those items that are in the item list of the shop.");
   optAvaingodnotinshop.SetToolTipText("This option lists all those stock out items whose stocks are available in godowns.");
@@ -80,7 +80,7 @@ void frmRequestDetail::DesignEntryFields() {
   txtreqcomments.SetMaxLength(kCommentsLength);
   lvwpacktype.Move(1380, 2790, 8900, 2880);
   lvwpacktype.AddColumn("ID", 900);
-  lvwpacktype.AddColumn("Packing Type", 4800);
+  lvwpacktype.AddColumn("Packing Type", 5700);
   lvwpacktype.AddColumn("Packs", 1800, controls::ColumnAlignment::Right);
 }
 

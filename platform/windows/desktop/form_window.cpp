@@ -106,6 +106,8 @@ void FormWindow::CreateViews() {
 void FormWindow::CreateToolTips() {
   toolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
                               CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, handle_, nullptr, ThisModule(), nullptr);
+  // Long texts break into lines.
+  SendMessageW(toolTips_, TTM_SETMAXTIPWIDTH, 0, metrics_.Pixels(6000));
   for (const auto& view : views_) {
     TTTOOLINFOW tool{};
     tool.cbSize = TTTOOLINFOW_V2_SIZE;

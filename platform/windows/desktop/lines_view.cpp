@@ -19,8 +19,7 @@ void CopyText(const std::string& text, LVITEMW& item) {
 void LinesView::Create(HWND parent, int id) {
   CreateChild(parent, id, WC_LISTVIEWW, "",
               WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_OWNERDATA | LVS_NOSORTHEADER, WS_EX_CLIENTEDGE);
-  DWORD style = LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER;
-  if (list_.CheckBoxes()) style |= LVS_EX_CHECKBOXES;
+  const DWORD style = LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER;
   SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, style, static_cast<LPARAM>(style));
   // The check marks are the model's.
   SendMessageW(Handle(), LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK, 0);
@@ -29,6 +28,7 @@ void LinesView::Create(HWND parent, int id) {
 }
 
 void LinesView::ShowColumns() {
+  SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, list_.CheckBoxes() ? LVS_EX_CHECKBOXES : 0);
   while (SendMessageW(Handle(), LVM_DELETECOLUMN, 0, 0) != 0) {
   }
   for (int index = 1; index <= list_.ColumnCount(); ++index) {

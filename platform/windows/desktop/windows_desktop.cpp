@@ -35,14 +35,25 @@ FormWindow* WindowsDesktop::WindowOf(const controls::Form& form) const {
   return found == showings_.end() ? nullptr : found->second.window.get();
 }
 
-HWND WindowsDesktop::HandleOf(const controls::Form* form) const {
-  const FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
-  return window != nullptr ? window->Handle() : GetActiveWindow();
+HWND WindowsDesktop::HandleOf(const controls::Form& form) const {
+  const FormWindow* window = WindowOf(form);
+  return window != nullptr ? window->Handle() : nullptr;
+}
+
+HWND WindowsDesktop::HandleOf(const controls::Control& control) const {
+  const FormWindow* window = WindowOf(control.Owner());
+  const ControlView* view = window != nullptr ? window->ViewOf(&control) : nullptr;
+  return view != nullptr ? view->Handle() : nullptr;
+}
+
+HWND WindowsDesktop::OwnerFor(const controls::Form* form) const {
+  const HWND window = form != nullptr ? HandleOf(*form) : nullptr;
+  return window != nullptr ? window : GetActiveWindow();
 }
 
 void WindowsDesktop::Opening(controls::Form& form, controls::Form* owner) {
   Showing& showing = showings_[&form];
-  showing.owner = HandleOf(owner);
+  showing.owner = OwnerFor(owner);
   showing.depth = depth_;
   showing.window = std::make_unique<FormWindow>(*this, form, showing.owner);
   for (HWND window : EnabledWindowsOfThread(showing.window->Handle())) {
@@ -124,7 +135,7 @@ void WindowsDesktop::DoEvents() {
 }
 
 controls::Answer WindowsDesktop::MsgBox(controls::Form* owner, const controls::Message& message) {
-  const HWND window = HandleOf(owner != nullptr ? owner : ActiveForm());
+  const HWND window = OwnerFor(owner != nullptr ? owner : ActiveForm());
   // The style numbers are the system's own.
   UINT style = static_cast<UINT>(message.style);
   if (window == nullptr) style |= MB_TASKMODAL;
@@ -146,7 +157,7 @@ controls::Menu* WindowsDesktop::PopupMenu(controls::Form& form, controls::Menu& 
   POINT mouse{};
   GetCursorPos(&mouse);
   const auto chosen = static_cast<std::size_t>(
-      TrackPopupMenuEx(popup, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, mouse.x, mouse.y, HandleOf(&form), nullptr));
+      TrackPopupMenuEx(popup, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, mouse.x, mouse.y, OwnerFor(&form), nullptr));
   DestroyMenu(popup);
   return chosen == 0 ? nullptr : entries[chosen - 1];
 }

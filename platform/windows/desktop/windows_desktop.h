@@ -28,6 +28,10 @@ class WindowsDesktop : public controls::Desktop {
   void FocusMoved(controls::Form& form, controls::Control* control) override;
   void PointerChanged(controls::Form& form, bool hourglass) override;
 
+  /// The window of a form, or of a control of one; null while it is not on the screen.
+  HWND HandleOf(const controls::Form& form) const;
+  HWND HandleOf(const controls::Control& control) const;
+
   bool IsWaiting() const { return hourglasses_ > 0; }
   /// Runs work that came from a window procedure; an exception waits for the message loop to raise it again.
   void Guarded(const std::function<void()>& work);
@@ -45,7 +49,8 @@ class WindowsDesktop : public controls::Desktop {
     std::vector<HWND> disabled;  ///< the thread's windows that this form disabled, to be enabled again
   };
   FormWindow* WindowOf(const controls::Form& form) const;
-  HWND HandleOf(const controls::Form* form) const;
+  /// What a window on top of this form belongs to: the form's window, the host's active one when it has none.
+  HWND OwnerFor(const controls::Form* form) const;
   /// Hands a message to the form on top or to the system.
   void Dispatch(MSG& message);
   void RaisePending();

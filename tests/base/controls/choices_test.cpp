@@ -1,7 +1,6 @@
 // Options, check boxes and combo boxes.
 
 #include "tests/base/controls/control_stories.h"
-#include "tests/base/controls/model_driver.h"
 
 namespace counter {
 namespace {
@@ -14,7 +13,7 @@ class ChoiceStory : public ControlStory {
   /// What the combo box shows: "index text".
   std::string Shown() { return person->Read(form->cboUnit, "ListIndex") + " " + Text(form->cboUnit); }
 };
-INSTANTIATE_TEST_SUITE_P(Model, ChoiceStory, testing::Values(&ModelDriver::Make));
+INSTANTIATE_TEST_SUITE_P(Desktop, ChoiceStory, testing::Values(&MakeDriver));
 
 TEST_P(ChoiceStory, OptionsOfOneContainerExcludeEachOther) {
   form->Tell(form->optUp.Click, "up");
@@ -113,8 +112,8 @@ TEST_P(ChoiceStory, ADropDownTakesTypedTextAndLetsGoOfItsEntry) {
   });
   form->Tell(form->cboUnit.Click, "click");
   form->Tell(form->cboUnit.Change, "change");
+  form->On(form->Loading, "Form_Load", [&] { form->cboUnit.SetStyle(controls::ComboStyle::DropDown); });
   Work([&] {
-    form->cboUnit.SetStyle(controls::ComboStyle::DropDown);
     FillUnits();
     person->Pick(form->cboUnit, 0);
     EXPECT_EQ(form->Told(), "click");

@@ -47,4 +47,7 @@ class ControlDriver {
 
 using DriverMaker = std::unique_ptr<ControlDriver> (*)();
 
+/// The driver that this program plays the stories with: the models', or that of real windows.
+std::unique_ptr<ControlDriver> MakeDriver();
+
 }  // namespace counter

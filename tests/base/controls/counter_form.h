@@ -60,6 +60,17 @@ class frmCounter : public controls::Form {
   void Design() override {
     SetCaption("Counter");
     SetSize(9000, 6000);
+    int top = 120;
+    for (controls::Control* control : std::initializer_list<controls::Control*>{&lblItem, &txtItem, &txtQuantity, &cboUnit, &optCash,
+                                                                                &chkDone, &cmdOk, &cmdClose}) {
+      control->Move(120, std::exchange(top, top + 480), 1800, 330);
+    }
+    fraSort.Move(120, 4200, 1800, 1200);
+    optUp.Move(120, 240, 1500, 330);
+    optDown.Move(120, 660, 1500, 330);
+    tabPages.Move(2100, 120, 6780, 5760);
+    lvwLines.Move(120, 420, 6540, 5220);
+    flexStock.Move(120, 420, 6540, 5220);
     lblItem.SetCaption("&Item:");
     cboUnit.SetStyle(controls::ComboStyle::DropDownList);
     fraSort.SetCaption("Sort");

@@ -1,7 +1,6 @@
 // The grid: cells, current cell, sorting, colours.
 
 #include "tests/base/controls/control_stories.h"
-#include "tests/base/controls/model_driver.h"
 
 namespace counter {
 namespace {
@@ -40,7 +39,7 @@ class GridStory : public ControlStory {
     return 0;
   }
 };
-INSTANTIATE_TEST_SUITE_P(Model, GridStory, testing::Values(&ModelDriver::Make));
+INSTANTIATE_TEST_SUITE_P(Desktop, GridStory, testing::Values(&MakeDriver));
 
 TEST_P(GridStory, EachKindOfSortHasItsOwnOrder) {
   const auto mixed = {"10", "b", "9", "A", "a", "", "-3"};

@@ -2,13 +2,12 @@
 
 #include "base/controls/keyboard.h"
 #include "tests/base/controls/control_stories.h"
-#include "tests/base/controls/model_driver.h"
 
 namespace counter {
 namespace {
 
 class FocusStory : public ControlStory {};
-INSTANTIATE_TEST_SUITE_P(Model, FocusStory, testing::Values(&ModelDriver::Make));
+INSTANTIATE_TEST_SUITE_P(Desktop, FocusStory, testing::Values(&MakeDriver));
 
 TEST_P(FocusStory, TabPassesByWhatIsHiddenDisabledOrOnAnotherPage) {
   Work([&] {

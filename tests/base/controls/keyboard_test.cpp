@@ -3,7 +3,6 @@
 #include "base/controls/keyboard.h"
 
 #include "tests/base/controls/control_stories.h"
-#include "tests/base/controls/model_driver.h"
 
 namespace counter {
 namespace {
@@ -23,7 +22,7 @@ class KeyStory : public ControlStory {
     form->On(control.KeyUp, "KeyUp", [this](int& code, int) { form->story.push_back("up " + std::to_string(code)); });
   }
 };
-INSTANTIATE_TEST_SUITE_P(Model, KeyStory, testing::Values(&ModelDriver::Make));
+INSTANTIATE_TEST_SUITE_P(Desktop, KeyStory, testing::Values(&MakeDriver));
 
 TEST_P(KeyStory, TypedAndPastedTextGoesThroughTheFilter) {
   FilterDigits(form->txtQuantity);
@@ -192,11 +191,12 @@ TEST_P(KeyStory, ATextStopsBeingTypedWhereTheFocusGoesAway) {
 }
 
 TEST_P(KeyStory, ALineBreakIsTypedIntoATextOfManyLinesOnly) {
+  form->On(form->Loading, "Form_Load", [&] { form->txtItem.SetMultiLine(true); });
   Work([&] {
-    person->Type(form->txtItem, "a");
+    person->Type(form->txtQuantity, "a");
     person->Press("Enter");
-    EXPECT_EQ(Text(form->txtItem), "a");
-    form->txtItem.SetMultiLine(true);
+    EXPECT_EQ(Text(form->txtQuantity), "a");
+    person->Type(form->txtItem, "a");
     person->Press("Enter");
     person->Type(form->txtItem, "b");
     person->Paste(form->txtItem, "\r\nc");

@@ -1,7 +1,6 @@
 // Lines of a list.
 
 #include "tests/base/controls/control_stories.h"
-#include "tests/base/controls/model_driver.h"
 
 namespace counter {
 namespace {
@@ -24,7 +23,7 @@ class ListStory : public ControlStory {
   }
   std::string Selected() { return List().SelectedItem() == 0 ? "" : List().Item(List().SelectedItem()).Text(); }
 };
-INSTANTIATE_TEST_SUITE_P(Model, ListStory, testing::Values(&ModelDriver::Make));
+INSTANTIATE_TEST_SUITE_P(Desktop, ListStory, testing::Values(&MakeDriver));
 
 TEST_P(ListStory, TheFirstLineIsSelectedAndRemovingMovesTheSelectionOn) {
   EXPECT_EQ(Selected(), "");

@@ -33,6 +33,10 @@ void ModelDesktop::RunModal(controls::Form& form) {
   if (form.IsShown()) form.CloseByUser();
 }
 
+std::unique_ptr<ControlDriver> MakeDriver() {
+  return std::make_unique<ModelDriver>();
+}
+
 void ModelDriver::Work(controls::Form& form, std::function<void()> hands) {
   desktop_.hands.push_front([hands = std::move(hands)](controls::Form&) { hands(); });
   form.Show();

@@ -47,8 +47,6 @@ class ModelDriver : public ControlDriver {
   std::string Read(controls::Control& control, std::string_view property) override;
   std::string Focus(const controls::Form& form) const override;
 
-  static std::unique_ptr<ControlDriver> Make() { return std::make_unique<ModelDriver>(); }
-
  private:
   ModelDesktop desktop_;
 };

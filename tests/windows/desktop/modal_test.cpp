@@ -1,0 +1,168 @@
+// Forms over forms in real windows: owners, refusals, quitting, and what is left behind.
+
+#include <gtest/gtest.h>
+#include <intrin.h>
+
+#include "platform/windows/desktop/metrics.h"
+#include "tests/base/controls/counter_form.h"
+#include "tests/windows/desktop/windows_driver.h"
+
+namespace counter {
+namespace {
+
+/// Pens, brushes, fonts and the like of this process. Wine does not count them itself, but keeps the classic table: entries of
+/// 24 bytes with the object's type, 0 for a free one, at byte 14.
+std::size_t GraphicsObjects() {
+  if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return counted;
+  constexpr std::size_t kTableInProcessBlock = 0xF8;
+  constexpr std::size_t kEntries = 0x10000;
+  constexpr std::size_t kEntrySize = 24;
+  constexpr std::size_t kType = 14;
+  const auto block = __readgsqword(0x60);
+  const auto* table = *reinterpret_cast<const unsigned char* const*>(block + kTableInProcessBlock);
+  std::size_t count = 0;
+  for (std::size_t entry = 0; table != nullptr && entry < kEntries; ++entry) count += table[entry * kEntrySize + kType] != 0;
+  return count;
+}
+
+/// All windows of this thread, hidden ones and children included.
+std::size_t Windows() {
+  std::size_t count = 0;
+  const auto one = [](HWND, LPARAM data) -> BOOL { return ++*reinterpret_cast<std::size_t*>(data) != 0; };
+  static constexpr WNDENUMPROC kOne = +one;
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM data) -> BOOL {
+        EnumChildWindows(window, kOne, data);
+        return kOne(window, data);
+      },
+      reinterpret_cast<LPARAM>(&count));
+  return count;
+}
+
+class ModalForms : public testing::Test {
+ protected:
+  WindowsDriver person;
+  DrivenDesktop& desktop = person.Desktop();
+  std::shared_ptr<frmCounter> form = std::make_shared<frmCounter>(desktop);
+  std::shared_ptr<frmCounter> above = std::make_shared<frmCounter>(desktop, "frmAbove");
+
+  void SetUp() override {
+    form->On(form->cmdOk.Click, "cmdOk_Click", [this] { above->Show(form.get()); });
+  }
+};
+
+TEST_F(ModalForms, OnlyTheFormOnTopCanBeUsed) {
+  person.Work(*form, [&] {
+    const HWND below = desktop.HandleOf(*form);
+    person.WorkInNext([&](controls::Form& top) {
+      EXPECT_EQ(&top, above.get());
+      EXPECT_FALSE(IsWindowEnabled(below));
+      EXPECT_EQ(GetWindow(desktop.HandleOf(top), GW_OWNER), below);
+    });
+    person.Click(form->cmdOk);
+    EXPECT_FALSE(above->IsShown());
+    EXPECT_TRUE(IsWindowEnabled(below));
+    EXPECT_EQ(GetActiveWindow(), below);
+    EXPECT_EQ(person.Focus(*form), "cmdOk") << "where the person left off";
+  });
+}
+
+TEST_F(ModalForms, TheHostsWindowIsDisabledWhileTheRegisterIsOpenAndNotAMomentLonger) {
+  const HWND host = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr,
+                                    windows::ThisModule(), nullptr);
+  const HWND asleep = CreateWindowExW(0, L"STATIC", L"Asleep", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_DISABLED, 0, 0, 300, 200,
+                                      nullptr, nullptr, windows::ThisModule(), nullptr);
+  SetActiveWindow(host);
+  person.Work(*form, [&] {
+    EXPECT_EQ(GetWindow(desktop.HandleOf(*form), GW_OWNER), host);
+    EXPECT_FALSE(IsWindowEnabled(host));
+  });
+  EXPECT_TRUE(IsWindowEnabled(host));
+  EXPECT_FALSE(IsWindowEnabled(asleep)) << "what was disabled before stays so";
+  DestroyWindow(host);
+  DestroyWindow(asleep);
+}
+
+TEST_F(ModalForms, AFormThatRefusesToCloseStaysWithItsText) {
+  int asked = 0;
+  form->On(form->QueryUnload, "Form_QueryUnload", [&](bool& stay, int) { stay = ++asked == 1; });
+  person.Work(*form, [&] {
+    person.Type(form->txtItem, "typed");
+    SendMessageW(desktop.HandleOf(*form), WM_SYSCOMMAND, SC_CLOSE, 0);
+    desktop.DoEvents();
+    EXPECT_EQ(asked, 1);
+    ASSERT_TRUE(form->IsShown());
+    EXPECT_TRUE(IsWindowVisible(desktop.HandleOf(*form)));
+    EXPECT_EQ(person.Read(form->txtItem, "Text"), "typed");
+  });
+  EXPECT_EQ(asked, 2);
+  EXPECT_FALSE(form->IsShown());
+}
+
+TEST_F(ModalForms, AMessageBelongsToItsFormAndTheFocusComesBack) {
+  form->On(form->txtItem.Validate, "txtItem_Validate", [&](bool& keep) {
+    keep = form->txtItem.Text() != "7";
+    if (keep) form->MsgBox("Seven is wanted", controls::kExclamation, "Shop");
+  });
+  person.Work(*form, [&] {
+    person.Answer(controls::Answer::Ok);
+    SetFocus(desktop.HandleOf(form->txtQuantity));
+    desktop.DoEvents();
+    EXPECT_EQ(person.LastMessage(), "Seven is wanted");
+    ASSERT_EQ(desktop.messageOwners.size(), 1u);
+    EXPECT_EQ(desktop.messageOwners[0], desktop.HandleOf(*form));
+    EXPECT_EQ(person.Focus(*form), "txtItem");
+    person.Type(form->txtItem, "7");
+    SetFocus(desktop.HandleOf(form->txtQuantity));
+    desktop.DoEvents();
+    EXPECT_EQ(person.Focus(*form), "txtQuantity");
+  });
+}
+
+TEST_F(ModalForms, AHostThatQuitsEndsEveryLoopAndStillHearsOfIt) {
+  person.Work(*form, [&] {
+    person.WorkInNext([&](controls::Form&) {
+      above->On(above->QueryUnload, "Form_QueryUnload", [](bool& stay, int) { stay = true; });
+      PostQuitMessage(7);
+    });
+    person.Click(form->cmdOk);
+    EXPECT_FALSE(above->IsShown());
+  });
+  EXPECT_FALSE(form->IsShown());
+  MSG message{};
+  bool quits = false;
+  while (!quits && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) quits = message.message == WM_QUIT;
+  ASSERT_TRUE(quits);
+  EXPECT_EQ(message.wParam, 7u);
+}
+
+TEST_F(ModalForms, AnErrorInsideAWindowsOwnWorkReachesTheCaller) {
+  form->cmdClose.Click.Wire([] { throw std::runtime_error("not a run-time error of the forms"); });
+  EXPECT_THROW(person.Work(*form, [&] { person.Click(form->cmdClose); }), std::runtime_error);
+  EXPECT_FALSE(form->IsShown());
+  EXPECT_EQ(desktop.HandleOf(*form), nullptr);
+}
+
+TEST_F(ModalForms, FiftyOpeningsLeaveNothingBehind) {
+  const auto openBoth = [&] {
+    person.Work(*form, [&] {
+      person.WorkInNext([](controls::Form&) {});
+      person.Click(form->cmdOk);
+      form->lvwLines.Add("line");
+      form->tabPages.SetTab(1);
+      desktop.DoEvents();
+    });
+  };
+  openBoth();  // what the system keeps from the first time on is not counted
+  const std::size_t graphics = GraphicsObjects();
+  const std::size_t windows = Windows();
+  ASSERT_GT(graphics, 0u);
+  for (int time = 0; time < 50; ++time) openBoth();
+  EXPECT_LE(GraphicsObjects(), graphics + 4) << "less than one in ten openings";
+  EXPECT_EQ(Windows(), windows);
+  EXPECT_EQ(FindWindowW(L"ShopForm", nullptr), nullptr);
+}
+
+}  // namespace
+}  // namespace counter

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Runs a Windows program under Wine on a screen of its own, in a Wine prefix whose windows need no window manager.
+# Usage: tools/on_screen.sh PROGRAM [ARGUMENT...]
+set -euo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+export WINE_FOLDER=${WINE_FOLDER:-$root/build/wine_screen}
+if [ ! -f "$WINE_FOLDER/screen" ]; then
+  # A managed window waits seconds for a manager that is not there.
+  "$root/tools/in_wine.sh" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
+  fonts=/usr/share/wine/fonts
+  [ ! -d "$fonts" ] || cp "$fonts"/*.ttf "$WINE_FOLDER/prefix/drive_c/windows/Fonts/"
+  touch "$WINE_FOLDER/screen"
+fi
+exec xvfb-run -a -s "-screen 0 1280x900x24" "$root/tools/in_wine.sh" "$@"
