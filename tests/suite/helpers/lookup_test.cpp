@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include "base/vb/text.h"
+#include "suite/helpers/frm_lookup.h"
+#include "tests/suite/helpers/helper_form.h"
+
+namespace {
+
+/// The item lookup as item entry sets it up, over a handful of items.
+class Lookup : public testing::Test {
+ protected:
+  Lookup() {
+    fetch->Call("setFieldNames", {late::Array::List({"ItemID", "ItemCode", "ItemDescription"})});
+    fetch->Call("setFieldCaptions", {late::Array::List({"Item ID", "Item Code", "Item Description"})});
+    fetch->Call("setFieldWidths", {late::Array::List({0, 2000, 4000})});
+    fetch->Call("setDefaultFetchField", {2});
+    fetch->Call("setInterfaceCaption", {"Item Fetch"});
+    fetch->Put("strMsgboxTitle", "Shop");
+    fetch->Put("DataIdentifier", "03");
+    fetch->Put("PreserveData", true);
+    Query("a.itemid <= 6");
+  }
+  void Query(const std::string& condition) {
+    fetch->Put(
+        "strQuery",
+        "select a.itemid,a.itemcode,v.itemdescription from aitem a,vwitemdescription v where a.itemid=v.itemid and " + condition);
+  }
+  /// Shows the lookup; the id of the row taken, 0 when cancelled.
+  int Show(const std::function<void(suite::frmLookup&)>& work) {
+    late::Value given(rows);
+    fetch->Call("setRecordSet", {late::Value::ByRef(given)});
+    rows = given.ToObject();
+    shop.desktop.ExpectForm("frmLookup", [&](controls::Form& form) { work(dynamic_cast<suite::frmLookup&>(form)); });
+    fetch->Call("Show");
+    return fetch->Call("getCancelledStatus").ToBool() ? 0 : ado::Recordset(rows).Field("itemid").ToInt32();
+  }
+  static std::string Descriptions(const suite::frmLookup& window) {
+    std::string list;
+    for (long row = 1; row < window.flexMaster.Rows(); ++row) list += window.flexMaster.TextMatrix(row, 2) + ";";
+    return list;
+  }
+
+  HelperShop shop;
+  late::ObjectPtr fetch = shop.Helper("Lookup.clsFetch");
+  late::ObjectPtr rows;
+};
+
+TEST_F(Lookup, ShowsRowsAtOnceAndEnterTakesTheCurrentOne) {
+  EXPECT_EQ(Show([&](suite::frmLookup& window) {
+              EXPECT_EQ(window.Caption(), "Item Fetch");
+              EXPECT_EQ(window.flexMaster.Rows(), 7);
+              EXPECT_EQ(window.flexMaster.ColWidth(0), 0);
+              EXPECT_EQ(window.ActiveControl(), &window.txtsearch);
+              support::Press(window.txtsearch, "Down");
+              support::Press(window.txtsearch, "Enter");
+              EXPECT_FALSE(window.IsShown());
+            }),
+            2);
+}
+
+TEST_F(Lookup, FiltersAsOneTypesAndTakesTheRowThatBeginsSo) {
+  const std::string third = shop.Row("select ItemDescription from smpItemDescription where ItemID=3");
+  EXPECT_EQ(Show([&](suite::frmLookup& window) {
+              support::Enter(window.txtsearch, vb::Left(third, 4));
+              EXPECT_LT(window.flexMaster.Rows(), 7);
+              EXPECT_EQ(window.flexMaster.TextMatrix(window.flexMaster.Row(), 2), third);
+              support::Click(window.cmdOk);
+            }),
+            3);
+}
+
+TEST_F(Lookup, SortingShowsTheSameRowsInOrderAndTakesTheRightOne) {
+  Show([&](suite::frmLookup& window) {
+    const std::string unsorted = Descriptions(window);
+    window.flexMaster.ClickCell(0, 2);
+    EXPECT_NE(Descriptions(window), unsorted);
+    const std::string first = window.flexMaster.TextMatrix(1, 2);
+    for (long row = 2; row < window.flexMaster.Rows(); ++row) EXPECT_LE(first, window.flexMaster.TextMatrix(row, 2));
+    support::GoToRow(window.flexMaster, 1);
+    support::DoubleClick(window.flexMaster);
+  });
+  EXPECT_EQ(ado::Recordset(rows).Field("itemdescription").ToText(),
+            shop.Row("select min(ItemDescription) from smpItemDescription where ItemID <= 6"));
+}
+
+TEST_F(Lookup, EscapeCancelsAndAnEmptyListTakesNothing) {
+  EXPECT_EQ(Show([](suite::frmLookup& window) { support::Press(window.txtsearch, "Esc"); }), 0);
+  Query("a.itemid < 0");
+  fetch->Put("ForcedRefresh", true);
+  EXPECT_EQ(Show([](suite::frmLookup& window) {
+              support::Press(window.txtsearch, "Enter");
+              EXPECT_TRUE(window.IsShown());
+            }),
+            0);
+}
+
+TEST_F(Lookup, KeepsItsRowsOnlyAsLongAsItIsToldTo) {
+  const auto statements = [&] { return shop.log.Starting("select a.itemid").size(); };
+  const auto look = [](suite::frmLookup& window) { window.Unload(); };
+  Show(look);
+  Show(look);
+  EXPECT_EQ(statements(), 1u) << "the same data set is kept";
+  fetch->Put("ForcedRefresh", true);
+  Show(look);
+  EXPECT_EQ(statements(), 2u);
+  fetch->Put("ForcedRefresh", false);
+  fetch->Put("DataIdentifier", "01");
+  Show(look);
+  EXPECT_EQ(statements(), 3u) << "another data set is another query";
+  fetch->Put("PreserveData", false);
+  Show(look);
+  EXPECT_EQ(statements(), 4u);
+}
+
+}  // namespace
