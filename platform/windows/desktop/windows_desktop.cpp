@@ -8,20 +8,22 @@
 namespace windows {
 namespace {
 
+struct WindowSearch {
+  HWND except;
+  std::vector<HWND> found;
+};
+
+/// A function, no lambda: the 32-bit system calls back with its own calling convention.
+BOOL CALLBACK NoteEnabledWindow(HWND window, LPARAM data) {
+  auto& search = *reinterpret_cast<WindowSearch*>(data);
+  if (window != search.except && IsWindowVisible(window) && IsWindowEnabled(window)) search.found.push_back(window);
+  return TRUE;
+}
+
 /// The visible, enabled top-level windows of this thread but `except`.
 std::vector<HWND> EnabledWindowsOfThread(HWND except) {
-  struct Search {
-    HWND except;
-    std::vector<HWND> found;
-  } search{except, {}};
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM data) -> BOOL {
-        auto& wanted = *reinterpret_cast<Search*>(data);
-        if (window != wanted.except && IsWindowVisible(window) && IsWindowEnabled(window)) wanted.found.push_back(window);
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&search));
+  WindowSearch search{except, {}};
+  EnumThreadWindows(GetCurrentThreadId(), NoteEnabledWindow, reinterpret_cast<LPARAM>(&search));
   return search.found;
 }
 
