@@ -63,20 +63,19 @@ void MeasureRegister() {
 
   shop.module.Register().Load();
   controls::FlexGrid& grid = shop.module.Register().flexMaster;
-  const auto sort = [&] {
+  const auto sortOn = [&](long column) {
     grid.SetRow(1);
-    grid.SetCol(3);
-    grid.SetRowSel(1);
+    grid.SetCol(column);
     grid.Sort(controls::GridSort::TextAscending);
-    grid.SetRow(1);
-    grid.SetCol(1);
-    return Time([&] { grid.Sort(controls::GridSort::TextAscending); });
+  };
+  const auto sort = [&] {
+    sortOn(3);
+    return Time([&] { sortOn(1); });
   };
   const auto sortKeys = [&] {
-    std::vector<std::vector<std::string>> rows;
-    raw.ReadIntoStrings("select GRHrequestno from mosGoodsRequestHeader where GRHshopid=1 order by GRHremarks", rows);
+    sortOn(3);
     std::vector<std::pair<std::string, std::size_t>> keys;
-    for (std::size_t row = 0; row < rows.size(); ++row) keys.emplace_back(rows[row][0], row);
+    for (long row = 1; row < grid.Rows(); ++row) keys.emplace_back(grid.TextMatrix(row, 1), static_cast<std::size_t>(row));
     return Time(
         [&] { std::stable_sort(keys.begin(), keys.end(), [](const auto& a, const auto& b) { return a.first < b.first; }); });
   };

@@ -1,5 +1,6 @@
 #include "src/shared/grid_search.h"
 
+#include <cctype>
 #include <string>
 #include <vector>
 
@@ -38,9 +39,14 @@ class TypedText {
   double number_ = 0;
 };
 
+/// No number begins with a letter: spares most cells the runtime's number rules at every key.
+bool MayBeNumber(std::string_view text) {
+  return !text.empty() && std::isalpha(static_cast<unsigned char>(text.front())) == 0;
+}
+
 /// The grid's generic order: two numbers by value, anything else as text without regard to case.
 bool InGenericOrder(std::string_view above, std::string_view below) {
-  if (vb::IsNumeric(above) && vb::IsNumeric(below)) return vb::CDbl(above) <= vb::CDbl(below);
+  if (MayBeNumber(above) && vb::IsNumeric(above) && vb::IsNumeric(below)) return vb::CDbl(above) <= vb::CDbl(below);
   return vb::CompareNoCase(above, below) <= 0;
 }
 

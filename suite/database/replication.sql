@@ -17,7 +17,5 @@ create table mosGoodsRequestDetail (
 go
 create index mosGoodsRequestDetailRequest on mosGoodsRequestDetail (GRDrequestID)
 go
-create index mosGoodsRequestDetailItem on mosGoodsRequestDetail (GRDitemID)
-go
 create index mosGoodsRequestDetailRow on mosGoodsRequestDetail (rowguid)
 go

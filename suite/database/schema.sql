@@ -45,8 +45,6 @@ create table mosGoodsRequestDetail (
 go
 create index mosGoodsRequestDetailRequest on mosGoodsRequestDetail (GRDrequestID)
 go
-create index mosGoodsRequestDetailItem on mosGoodsRequestDetail (GRDitemID)
-go
 create table mosRequestInvDetail (
     reqcompanyid int not null,
     reqdid int not null,
