@@ -251,15 +251,27 @@ void MeasureTour(const std::string& program, const std::string& tourFolder) {
   PrintRow("the tour's processor time", cost.processorMilliseconds < 0 ? -1 : cost.processorMilliseconds / 1000, 1, "s", "");
 }
 
+/// The measurements by name, for running one alone.
+struct Measurement {
+  const char* name;
+  void (*run)();
+};
+
+constexpr Measurement kMeasurements[] = {{"register", MeasureRegister},
+                                         {"save", MeasureSaves},
+                                         {"open", MeasureOpening},
+                                         {"proposal", MeasureProposal},
+                                         {"typeahead", MeasureTypeAhead}};
+
 }  // namespace
 
+/// measure [program tour-folder]: everything. measure NAME: one measurement alone.
 int main(int argc, char** argv) {
+  const std::string only = argc == 2 ? argv[1] : "";
   bench::PrintHeading();
-  MeasureRegister();
-  MeasureSaves();
-  MeasureOpening();
-  MeasureProposal();
-  MeasureTypeAhead();
+  for (const Measurement& measurement : kMeasurements) {
+    if (only.empty() || only == measurement.name) measurement.run();
+  }
   if (argc == 3) MeasureTour(argv[1], argv[2]);
   return 0;
 }
