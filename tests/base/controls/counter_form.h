@@ -61,8 +61,8 @@ class frmCounter : public controls::Form {
     SetCaption("Counter");
     SetSize(9000, 6000);
     int top = 120;
-    for (controls::Control* control : std::initializer_list<controls::Control*>{&lblItem, &txtItem, &txtQuantity, &cboUnit, &optCash,
-                                                                                &chkDone, &cmdOk, &cmdClose}) {
+    for (controls::Control* control : std::initializer_list<controls::Control*>{&lblItem, &txtItem, &txtQuantity, &cboUnit,
+                                                                                &optCash, &chkDone, &cmdOk, &cmdClose}) {
       control->Move(120, std::exchange(top, top + 480), 1800, 330);
     }
     fraSort.Move(120, 4200, 1800, 1200);

@@ -24,7 +24,8 @@ void OpenShop(const std::string& applicationFolder, int times) {
   windows::WindowsWorkstation workstation(applicationFolder);
   late::ClassRegistry registry;
   suite::RegisterAdo(registry);
-  suite::RegisterHelpers(registry, std::make_shared<suite::Surroundings>(suite::Surroundings{desktop, workstation, registry, {}}));
+  suite::RegisterHelpers(registry,
+                         std::make_shared<suite::Surroundings>(suite::Surroundings{desktop, workstation, registry, {}}));
   goods::Module module(goods::Services{desktop, workstation, registry});
 
   const auto request = std::make_shared<goods::clsGoodsRequest>(module);
