@@ -109,7 +109,7 @@ void GetDate(const FunctionCall& call) {
 
 }  // namespace
 
-std::vector<detail::FunctionSpec> detail::DateFunctions() {
+std::vector<detail::FunctionEntry> detail::DateFunctions() {
   return {{"srv_datepart", 2, DatePart}, {"srv_dateadd", 3, DateAdd}, {"srv_datediff", 3, DateDiff},     {"srv_year", 1, Year},
           {"srv_month", 1, Month},       {"srv_day", 1, Day},         {"srv_getdate", 0, GetDate, false}};
 }

@@ -126,7 +126,7 @@ void SquareRoot(const FunctionCall& call) {
 
 }  // namespace
 
-std::vector<detail::FunctionSpec> detail::NumberFunctions() {
+std::vector<detail::FunctionEntry> detail::NumberFunctions() {
   return {{"srv_convert", 4, ConvertValue}, {"srv_divide", 2, Divide},
           {"srv_remainder", 2, Remainder},  {"srv_quotient", 3, Quotient},
           {"srv_round", 3, Round},          {"srv_round_float", 3, RoundFloat},

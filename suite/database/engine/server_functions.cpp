@@ -98,11 +98,11 @@ void RegisterServerFunctions(sqlite3* store, FunctionContext& context) {
   if (code != SQLITE_OK) RaiseFromStore(store, code);
   for (const auto& group :
        {detail::TextFunctions(), detail::NumberFunctions(), detail::DateFunctions(), detail::SystemFunctions()}) {
-    for (const detail::FunctionSpec& spec : group) {
+    for (const detail::FunctionEntry& entry : group) {
       context.registered.push_back(
-          std::make_unique<FunctionContext::Registered>(FunctionContext::Registered{spec.body, spec.takesNull, &context}));
-      const int flags = SQLITE_UTF8 | SQLITE_INNOCUOUS | (spec.constant ? SQLITE_DETERMINISTIC : 0);
-      code = sqlite3_create_function_v2(store, spec.name, spec.arguments, flags, context.registered.back().get(), Trampoline,
+          std::make_unique<FunctionContext::Registered>(FunctionContext::Registered{entry.body, entry.takesNull, &context}));
+      const int flags = SQLITE_UTF8 | SQLITE_INNOCUOUS | (entry.constant ? SQLITE_DETERMINISTIC : 0);
+      code = sqlite3_create_function_v2(store, entry.name, entry.arguments, flags, context.registered.back().get(), Trampoline,
                                         nullptr, nullptr, nullptr);
       if (code != SQLITE_OK) RaiseFromStore(store, code);
     }

@@ -69,7 +69,7 @@ void RegisterServerFunctions(sqlite3* store, FunctionContext& context);
 int CompareTexts(std::string_view a, std::string_view b);
 
 namespace detail {
-struct FunctionSpec {
+struct FunctionEntry {
   const char* name;
   int arguments;  ///< -1: any number
   FunctionBody body;
@@ -77,10 +77,10 @@ struct FunctionSpec {
   bool takesNull = false;  ///< otherwise null in gives null out
 };
 // The functions by theme, each in its own file.
-std::vector<FunctionSpec> TextFunctions();
-std::vector<FunctionSpec> NumberFunctions();
-std::vector<FunctionSpec> DateFunctions();
-std::vector<FunctionSpec> SystemFunctions();
+std::vector<FunctionEntry> TextFunctions();
+std::vector<FunctionEntry> NumberFunctions();
+std::vector<FunctionEntry> DateFunctions();
+std::vector<FunctionEntry> SystemFunctions();
 }  // namespace detail
 
 /// The server's like: no regard to case, % _ [a-z] [^a-z].

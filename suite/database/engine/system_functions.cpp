@@ -60,7 +60,7 @@ void ObjectId(const FunctionCall& call) {
 
 }  // namespace
 
-std::vector<detail::FunctionSpec> detail::SystemFunctions() {
+std::vector<detail::FunctionEntry> detail::SystemFunctions() {
   return {{"srv_newid", 0, NewId, false}, {"srv_newsequentialid", 0, NewSequentialId, false}, {"srv_object_id", 1, ObjectId}};
 }
 

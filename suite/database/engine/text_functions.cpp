@@ -162,7 +162,7 @@ bool IsServerNumeric(std::string_view text) {
   return rest.find_first_not_of("0123456789", i) == std::string_view::npos;
 }
 
-std::vector<detail::FunctionSpec> detail::TextFunctions() {
+std::vector<detail::FunctionEntry> detail::TextFunctions() {
   return {{"srv_len", 1, Len},
           {"srv_datalength", 1, DataLength},
           {"srv_left", 2, Left},
