@@ -32,10 +32,11 @@ late::Value FromDecimal(const DECIMAL& decimal) {
     units /= 10;
     --scale;
   }
-  if (decimal.Hi32 == 0 && scale <= kGreatestScale &&
-      units <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max())) {
-    const auto magnitude = static_cast<std::int64_t>(units);
-    return vb::Decimal{decimal.sign & DECIMAL_NEG ? -magnitude : magnitude, scale};
+  const bool negative = decimal.sign & DECIMAL_NEG;
+  // The least number has no positive counterpart; unsigned negation holds for it, too.
+  const std::uint64_t greatest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()) + (negative ? 1 : 0);
+  if (decimal.Hi32 == 0 && scale <= kGreatestScale && units <= greatest) {
+    return vb::Decimal{static_cast<std::int64_t>(negative ? 0 - units : units), scale};
   }
   double nearest = 0;
   Check(VarR8FromDec(const_cast<DECIMAL*>(&decimal), &nearest));

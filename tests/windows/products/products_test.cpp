@@ -34,12 +34,13 @@ bool IsA(HWND window, const wchar_t* kind) {
 /// While it lives, every form and message of this thread is closed as it comes up.
 class PressingOn {
  public:
-  PressingOn() : timer_(SetTimer(nullptr, 0, 10, Look)) { forms = 0; }
+  PressingOn() : timer_(SetTimer(nullptr, 0, 10, Look)) { forms = messages = 0; }
   PressingOn(const PressingOn&) = delete;
   PressingOn& operator=(const PressingOn&) = delete;
   ~PressingOn() { KillTimer(nullptr, timer_); }
 
   static inline int forms = 0;
+  static inline int messages = 0;
 
  private:
   static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) {
@@ -47,7 +48,10 @@ class PressingOn {
         GetCurrentThreadId(),
         [](HWND window, LPARAM) -> BOOL {
           if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-          if (IsA(window, L"#32770")) PostMessageW(window, WM_COMMAND, IDOK, 0);
+          if (IsA(window, L"#32770")) {
+            ++messages;
+            PostMessageW(window, WM_COMMAND, IDOK, 0);
+          }
           if (IsA(window, L"ShopForm")) {
             ++forms;
             PostMessageW(window, WM_CLOSE, 0, 0);
@@ -208,6 +212,7 @@ TEST_F(Host, FiftyShowsLeaveNothingBehind) {
     LoggedOn(connection)->Call("Show");
     EXPECT_EQ(PressingOn::forms, 1) << "the register and nothing else";
     for (int i = 1; i < 50; ++i) LoggedOn(connection)->Call("Show");
+    EXPECT_EQ(PressingOn::messages, 0) << "the connection serves the last Show as the first";
   }
   EXPECT_EQ(WindowsOfThread(), 0);
   EXPECT_EQ(References(face), references);

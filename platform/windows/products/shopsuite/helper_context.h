@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/windows/com/com_factory.h"
-#include "platform/windows/com/late_dispatch.h"
 #include "platform/windows/products/common/styled_desktop.h"
 #include "platform/windows/workstation/windows_workstation.h"
 #include "suite/helpers/surroundings.h"
@@ -11,11 +10,6 @@ namespace windows {
 /// What the stand-ins of one apartment share. Gone with the last of them.
 class HelperContext {
  public:
-  HelperContext() = default;
-  HelperContext(const HelperContext&) = delete;
-  HelperContext& operator=(const HelperContext&) = delete;
-  ~HelperContext() { DisconnectLateObjects(); }
-
   suite::Surroundings& Surroundings() { return surroundings_; }
 
  private:
