@@ -85,7 +85,7 @@ void frmRequest::LoadExistingRequest() {
   optgoodreq.SetEnabled(false);
   optporeq.SetEnabled(false);
   const std::string condition =
-      " grhRequestid=" + std::to_string(Session().gLngRequestID) + " and grhshopid=" + std::to_string(Session().gIntShopID);
+      " grhRequestid=" + std::to_string(Session().gLngRequestID) + " and grhShopid=" + std::to_string(Session().gIntShopID);
   objCommonDB_.strTableName("mosGoodsRequestHeader");
   if (objCommonDB_.fnReturnField("grhIssuenotegenerated", condition).TrueOrFalse()) {
     Tell("Issue Note Generated,Cannot Modify");
