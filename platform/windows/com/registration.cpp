@@ -78,11 +78,14 @@ class TypeLibrary {
     return PerUserCall<Call>("RegisterTypeLibForUser")(library_.Get(), path.data(), nullptr);
   }
   HRESULT Unregister(RegistrationScope scope) const {
+    // A server of the other width may have registered its own half of the library.
+    const std::wstring place =
+        kClasses + L"TypeLib\\" + GuidText(Id()) + L"\\1.0\\0\\" + (kSystem == SYS_WIN64 ? L"win64" : L"win32");
+    if (!RegistryKey::Exists(RootOf(scope), place)) return S_OK;
     using Call = decltype(&UnRegisterTypeLib);
     const Call unregister =
         scope == RegistrationScope::Machine ? &UnRegisterTypeLib : PerUserCall<Call>("UnRegisterTypeLibForUser");
-    const HRESULT result = unregister(Id(), attributes_->wMajorVerNum, attributes_->wMinorVerNum, attributes_->lcid, kSystem);
-    return result == TYPE_E_REGISTRYACCESS ? S_OK : result;  // it was not there
+    return unregister(Id(), attributes_->wMajorVerNum, attributes_->wMinorVerNum, attributes_->lcid, kSystem);
   }
 
  private:

@@ -20,6 +20,13 @@ std::wstring RegistryKey::ReadText(HKEY root, const std::wstring& path, const st
   return text;
 }
 
+bool RegistryKey::Exists(HKEY root, const std::wstring& path) {
+  HKEY opened = nullptr;
+  if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return false;
+  const RegistryKey key(opened);
+  return true;
+}
+
 LSTATUS RegistryKey::DeleteTree(HKEY root, const std::wstring& path) {
   const LSTATUS result = RegDeleteTreeW(root, path.c_str());
   return result == ERROR_FILE_NOT_FOUND || result == ERROR_PATH_NOT_FOUND ? ERROR_SUCCESS : result;

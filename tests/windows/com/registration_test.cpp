@@ -20,10 +20,7 @@ std::wstring ClassKey(std::size_t index) {
 }
 
 bool Exists(const std::wstring& path) {
-  HKEY key = nullptr;
-  if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
-  RegCloseKey(key);
-  return true;
+  return RegistryKey::Exists(HKEY_CURRENT_USER, path);
 }
 
 }  // namespace

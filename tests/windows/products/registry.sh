@@ -6,7 +6,9 @@ step=$1 wine=$2 products=$3 work=$4
 
 classes() {
   for root in HKLM HKCU; do
-    "$wine" reg export "$root\\Software\\Classes" "$(winepath_of "$work/$1.$root.reg")" /y >/dev/null 2>&1 || : >"$work/$1.$root.reg"
+    : >"$work/export.reg"
+    "$wine" reg export "$root\\Software\\Classes" "$(winepath_of "$work/export.reg")" /y >/dev/null 2>&1 || true  # no such key
+    iconv -f utf-16 -t utf-8 "$work/export.reg" >"$work/$1.$root.reg"
   done
 }
 winepath_of() { echo "Z:${1//\//\\}"; }
@@ -27,7 +29,7 @@ case $step in
     classes registered
     for wanted in tq8v4461.clsGoodsRequest ShopCommon.clsCommonDB ShopCommon.clsCommonGen Lookup.clsFetch Theme.clsFormcolor \
                   Audit.clsUserAuditing GridPrefs.clsMasterGridSetting ErrLog.ErrorDetails ShopSuite.Database; do
-      iconv -f utf-16 -t utf-8 "$work/registered.HKLM.reg" | grep -q "\\\\$wanted\\\\CLSID\\]" || { echo "$wanted is not registered" >&2; exit 1; }
+      grep -q "\\\\$wanted\\\\CLSID\\]" "$work/registered.HKLM.reg" || { echo "$wanted is not registered" >&2; exit 1; }
     done
     ;;
   unregister)
@@ -35,7 +37,7 @@ case $step in
     server /u shopsuite
     classes after
     for root in HKLM HKCU; do
-      diff <(iconv -f utf-16 -t utf-8 "$work/before.$root.reg") <(iconv -f utf-16 -t utf-8 "$work/after.$root.reg")
+      diff "$work/before.$root.reg" "$work/after.$root.reg"
     done
     ;;
 esac

@@ -5,7 +5,7 @@ set -euo pipefail
 wine=$1 press_on=$2 what=$3
 
 case $what in
-  *.vbs) seen=$("$wine" "$press_on" cscript //nologo "$what") ;;
+  *.vbs) seen=$("$wine" "$press_on" cscript //nologo "Z:$what") ;;
   *) shop=$(mktemp -d)
      trap 'rm -rf "$shop"' EXIT
      seen=$("$wine" "$press_on" "$what" --unattended --company 1 --shop 1 --user 1 --date 15/03/2024 --database "Z:${shop//\//\\}\\shop.db") ;;

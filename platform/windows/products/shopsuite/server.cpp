@@ -1,6 +1,7 @@
 #include "platform/windows/products/common/server.h"
 
 #include "platform/windows/com/apartment.h"
+#include "platform/windows/com/late_dispatch.h"
 #include "platform/windows/desktop/window_class.h"
 #include "platform/windows/products/common/visual_styles.h"
 #include "platform/windows/products/shopsuite/helper_context.h"
