@@ -34,18 +34,19 @@ LSTATUS Write(HKEY root, const std::vector<Entry>& entries) {
 
 std::vector<Entry> EntriesOf(const ServerRegistration& server, const ServerClass& entry, const std::wstring& typeLibrary) {
   const std::wstring path = ClassPath(entry);
+  const std::wstring unnamed;  // the key's default value
   std::vector<Entry> entries = {
-      {path, L"", entry.description},
-      {path + L"\\InprocServer32", L"", server.modulePath},
+      {path, unnamed, entry.description},
+      {path + L"\\InprocServer32", unnamed, server.modulePath},
       {path + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
-      {path + L"\\ProgID", L"", entry.progId},
-      {path + L"\\Programmable", L"", L""},
-      {kClasses + entry.progId, L"", entry.description},
-      {kClasses + entry.progId + L"\\CLSID", L"", GuidText(entry.id)},
+      {path + L"\\ProgID", unnamed, entry.progId},
+      {path + L"\\Programmable", unnamed, unnamed},
+      {kClasses + entry.progId, unnamed, entry.description},
+      {kClasses + entry.progId + L"\\CLSID", unnamed, GuidText(entry.id)},
   };
   if (!typeLibrary.empty()) {
-    entries.push_back({path + L"\\TypeLib", L"", typeLibrary});
-    entries.push_back({path + L"\\Version", L"", L"1.0"});
+    entries.push_back({path + L"\\TypeLib", unnamed, typeLibrary});
+    entries.push_back({path + L"\\Version", unnamed, L"1.0"});
   }
   return entries;
 }
