@@ -44,7 +44,7 @@ TEST(Registration, LeavesAProgIdThatMeanwhileBelongsToAnother) {
   const std::wstring progId = L"Software\\Classes\\ShopTest.clsFirst";
   RegistryKey key;
   ASSERT_EQ(RegistryKey::Create(HKEY_CURRENT_USER, progId + L"\\CLSID", key), ERROR_SUCCESS);
-  key.WriteText(L"", L"{00000000-0000-0000-0000-000000000001}");
+  key.WriteText({}, L"{00000000-0000-0000-0000-000000000001}");
   ASSERT_EQ(windows::UnregisterServer(kServer), S_OK);
   EXPECT_TRUE(Exists(progId));
   RegistryKey::DeleteTree(HKEY_CURRENT_USER, progId);
