@@ -11,6 +11,7 @@
 #include "bench/stopwatch.h"
 #include "src/editor/frm_request.h"
 #include "src/editor/stock_out_proposal.h"
+#include "src/fetch/frm_fetch.h"
 #include "src/shared/grid_search.h"
 #include "src/shared/request_lines.h"
 
@@ -241,6 +242,44 @@ void MeasureTypeAhead() {
   PrintRow("type-ahead, one key, " + std::to_string(grid.Rows() - 1) + " sorted rows", perKey, 2, "ms", "");
 }
 
+/// Item entry as the fetch dialog sees it, with nobody in it.
+class NoItemEntry : public goods::ItemEntryPort {
+ public:
+  goods::ItemListMode SelectedList() const override { return goods::ItemListMode::AllInShop; }
+  bool TakeItemCode(const goods::PickedItem&) override { return true; }
+  void TakeStockOutItem(const goods::PickedItem&) override {}
+  void FillPackTypeinList(std::int32_t) override {}
+};
+
+constexpr const char* kShopItemsQuery =
+    "select a.itemid,a.itemcode,v.itemdescription,a.brand,a.modelno,ifnull(a.part_code,'') part_code from ashopitemdetail s,"
+    "vwitemdescription v,aitem a where a.itemid=v.itemid and a.itemtype<>'B' and s.itemid=v.itemid and s.shopid=1 and a.Active=1 "
+    "and v.itemdescription like '%e%'";
+
+void MeasureFetchDialog() {
+  BenchShop shop(TemporaryFile("fetch"), {0, 100000, 1});
+  shop.LogOn();
+  shop.session.gStrItemTypeFilter = " and a.itemtype<>'B'";
+  NoItemEntry itemEntry;
+  const auto dialog = std::make_shared<goods::FrmFetch>(shop.session, itemEntry);
+  dialog->Load();
+  dialog->cboFetch.SetListIndex(1);
+  const auto filter = [&] {
+    dialog->txtFetch.SetText("e");
+    int enter = controls::kCharReturn;
+    return Time([&] { dialog->txtFetch.KeyPress.Fire(enter); });
+  };
+  RawDatabase raw(shop.path);
+  const auto read = [&] {
+    std::vector<std::vector<std::string>> rows;
+    return Time([&] { raw.ReadIntoStrings(kShopItemsQuery, rows); });
+  };
+  const Pair pair = bench::MeasurePair(kRuns, filter, read);
+  PrintRow("fetch dialog, " + std::to_string(dialog->flexMaster.Rows() - 1) + " items filtered and filled", pair.Ratio(), 2, "x",
+           Detail(pair, "bare statement"));
+  dialog->Unload();
+}
+
 void MeasureTour(const std::string& program, const std::string& tourFolder) {
   const std::string folder = TemporaryFile("tour");
   std::filesystem::create_directory(folder);
@@ -257,11 +296,9 @@ struct Measurement {
   void (*run)();
 };
 
-constexpr Measurement kMeasurements[] = {{"register", MeasureRegister},
-                                         {"save", MeasureSaves},
-                                         {"open", MeasureOpening},
-                                         {"proposal", MeasureProposal},
-                                         {"typeahead", MeasureTypeAhead}};
+constexpr Measurement kMeasurements[] = {{"register", MeasureRegister},   {"save", MeasureSaves},
+                                         {"open", MeasureOpening},        {"proposal", MeasureProposal},
+                                         {"typeahead", MeasureTypeAhead}, {"fetch", MeasureFetchDialog}};
 
 }  // namespace
 

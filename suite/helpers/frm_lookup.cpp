@@ -1,6 +1,7 @@
 #include "suite/helpers/frm_lookup.h"
 
 #include "base/vb/text.h"
+#include "suite/helpers/cls_formcolor.h"
 
 namespace suite {
 
@@ -64,6 +65,7 @@ void frmLookup::Design() {
 
 void frmLookup::Form_Load() {
   SetCaption(caption_);
+  clsFormcolor::Applyformcolor(*this);
   flexMaster.SetFixedCols(0);
   flexMaster.SetCols(static_cast<long>(columns_.size()));
   for (std::size_t column = 0; column < columns_.size(); ++column) {
