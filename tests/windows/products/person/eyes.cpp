@@ -1,0 +1,167 @@
+#include "tests/windows/products/person/eyes.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/windows/desktop/common_controls.h"
+#include "platform/windows/wide_text.h"
+#include "tests/windows/products/person/patience.h"
+
+namespace person {
+namespace {
+
+constexpr std::size_t kLongestText = 1024;
+constexpr UINT kAnswerTime = 20'000;  // milliseconds
+
+BOOL CALLBACK Note(HWND window, LPARAM data) {
+  if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
+  return TRUE;
+}
+
+/// What is exchanged with a list in its own process.
+struct Letter {
+  LVITEMW item;
+  RECT place;
+  std::array<wchar_t, kLongestText> text;
+};
+
+}  // namespace
+
+LRESULT Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerTime, &answer);
+  return static_cast<LRESULT>(answer);
+}
+
+std::string TextOf(HWND window) {
+  std::array<wchar_t, kLongestText> text{};
+  Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+  return windows::Utf8(text.data());
+}
+
+std::string CaptionOf(HWND window) {
+  std::string text = TextOf(window);
+  std::erase(text, '&');
+  return text;
+}
+
+std::string KindOf(HWND window) {
+  std::array<wchar_t, 128> name{};
+  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return windows::Utf8(name.data());
+}
+
+std::vector<HWND> WindowsOf(DWORD process) {
+  std::vector<HWND> windows;
+  EnumWindows(Note, reinterpret_cast<LPARAM>(&windows));
+  std::erase_if(windows, [&](HWND window) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    return owner != process;
+  });
+  return windows;
+}
+
+std::vector<HWND> ChildrenOf(HWND window) {
+  std::vector<HWND> children;
+  EnumChildWindows(window, Note, reinterpret_cast<LPARAM>(&children));
+  return children;
+}
+
+HWND FocusOf(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) ? info.hwndFocus : nullptr;
+}
+
+std::string Describe(DWORD process) {
+  std::string text;
+  for (HWND window : WindowsOf(process)) {
+    text += "\n  " + KindOf(window) + " \"" + TextOf(window) + (IsWindowEnabled(window) ? "\"" : "\" (disabled)");
+    if (GetForegroundWindow() == window) text += " (in front)";
+    if (KindOf(window) != "#32770") continue;
+    for (HWND child : ChildrenOf(window)) text += " [" + TextOf(child) + "]";
+  }
+  return text.empty() ? "\n  no window" : text;
+}
+
+ListOnScreen::ListOnScreen(HWND list) : list_(list), header_(reinterpret_cast<HWND>(Ask(list, LVM_GETHEADER))) {
+  DWORD id = 0;
+  GetWindowThreadProcessId(list, &id);
+  process_ = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, id);
+  memory_ = VirtualAllocEx(process_, nullptr, sizeof(Letter), MEM_COMMIT, PAGE_READWRITE);
+  if (memory_ == nullptr) throw std::runtime_error("the list's process gives no memory");
+}
+
+ListOnScreen::~ListOnScreen() {
+  VirtualFreeEx(process_, memory_, 0, MEM_RELEASE);
+  CloseHandle(process_);
+}
+
+int ListOnScreen::Rows() const {
+  return static_cast<int>(Ask(list_, LVM_GETITEMCOUNT));
+}
+
+int ListOnScreen::Columns() const {
+  return static_cast<int>(Ask(header_, HDM_GETITEMCOUNT));
+}
+
+bool ListOnScreen::IsSeen(int column) const {
+  return Ask(list_, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)) > 0;
+}
+
+Texts ListOnScreen::Headings() const {
+  Texts headings;
+  auto* there = static_cast<Letter*>(memory_);
+  for (int column = 0; column < Columns(); ++column) {
+    if (!IsSeen(column)) continue;
+    HDITEMW item{};
+    item.mask = HDI_TEXT;
+    item.pszText = there->text.data();
+    item.cchTextMax = static_cast<int>(kLongestText);
+    WriteProcessMemory(process_, memory_, &item, sizeof(item), nullptr);
+    Ask(header_, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(memory_));
+    std::array<wchar_t, kLongestText> text{};
+    ReadProcessMemory(process_, there->text.data(), text.data(), sizeof(text), nullptr);
+    headings.push_back(windows::Utf8(text.data()));
+  }
+  return headings;
+}
+
+std::string ListOnScreen::TextAt(int row, int column) const {
+  auto* there = static_cast<Letter*>(memory_);
+  Letter letter{};
+  letter.item.iSubItem = column;
+  letter.item.pszText = there->text.data();
+  letter.item.cchTextMax = static_cast<int>(kLongestText);
+  WriteProcessMemory(process_, memory_, &letter, sizeof(letter), nullptr);
+  Ask(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&there->item));
+  ReadProcessMemory(process_, memory_, &letter, sizeof(letter), nullptr);
+  letter.text.back() = L'\0';
+  return windows::Utf8(letter.text.data());
+}
+
+Texts ListOnScreen::Row(int row) const {
+  Texts cells;
+  for (int column = 0; column < Columns(); ++column) {
+    if (IsSeen(column)) cells.push_back(TextAt(row, column));
+  }
+  return cells;
+}
+
+int ListOnScreen::SelectedRow() const {
+  return static_cast<int>(Ask(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+POINT ListOnScreen::PlaceOf(int row) const {
+  Ask(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+  auto* there = static_cast<Letter*>(memory_);
+  Letter letter{};
+  letter.place.left = LVIR_LABEL;
+  WriteProcessMemory(process_, memory_, &letter, sizeof(letter), nullptr);
+  Ask(list_, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&there->place));
+  ReadProcessMemory(process_, memory_, &letter, sizeof(letter), nullptr);
+  return {letter.place.left + 6, (letter.place.top + letter.place.bottom) / 2};
+}
+
+}  // namespace person

@@ -1,0 +1,317 @@
+#include "tests/windows/products/person/hands.h"
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+
+#include "platform/windows/desktop/common_controls.h"
+#include "platform/windows/wide_text.h"
+#include "tests/windows/products/person/patience.h"
+
+namespace person {
+namespace {
+
+constexpr const char* kFormKind = "ShopForm";
+constexpr const char* kMessageKind = "#32770";
+constexpr const char* kMenuKind = "#32768";
+
+void Send(std::vector<INPUT>& inputs) {
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+void AddKey(std::vector<INPUT>& inputs, WORD key, bool up) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+  inputs.push_back(input);
+}
+
+/// A key with the keys held meanwhile.
+void Stroke(WORD key, const std::vector<WORD>& held) {
+  std::vector<INPUT> inputs;
+  for (WORD with : held) AddKey(inputs, with, false);
+  AddKey(inputs, key, false);
+  AddKey(inputs, key, true);
+  for (WORD with : held) AddKey(inputs, with, true);
+  Send(inputs);
+}
+
+void TypeCharacter(wchar_t character) {
+  const SHORT key = VkKeyScanW(character);
+  if (key == -1) throw std::runtime_error("this keyboard has no such character");
+  Stroke(LOBYTE(key), (HIBYTE(key) & 1) != 0 ? std::vector<WORD>{VK_SHIFT} : std::vector<WORD>{});
+}
+
+void PressNamed(std::string name) {
+  static const std::map<std::string, WORD> named = {{"Enter", VK_RETURN}, {"Esc", VK_ESCAPE},    {"Tab", VK_TAB},
+                                                    {"F3", VK_F3},        {"Delete", VK_DELETE}, {"Down", VK_DOWN},
+                                                    {"Up", VK_UP},        {"Home", VK_HOME}};
+  static const std::map<std::string, WORD> holding = {{"Ctrl+", VK_CONTROL}, {"Alt+", VK_MENU}, {"Shift+", VK_SHIFT}};
+  std::vector<WORD> held;
+  for (const auto& [prefix, key] : holding) {
+    if (!name.starts_with(prefix)) continue;
+    held.push_back(key);
+    name.erase(0, prefix.size());
+  }
+  const auto found = named.find(name);
+  if (found == named.end() && name.size() != 1) throw std::runtime_error("no such key: " + name);
+  Stroke(found != named.end() ? found->second : static_cast<WORD>(std::toupper(static_cast<unsigned char>(name[0]))), held);
+}
+
+/// The mouse's messages for clicks at a point of a window. They are posted: the pointer itself is the display's, whose late news
+/// of where it stood would now and then carry a click elsewhere.
+void Mouse(HWND window, POINT point, int times, UINT down, UINT up) {
+  const auto place = static_cast<LPARAM>(MAKELONG(point.x, point.y));
+  for (int time = 0; time < times; ++time) {
+    const bool isSecond = time == 1 && down == WM_LBUTTONDOWN;
+    PostMessageW(window, isSecond ? WM_LBUTTONDBLCLK : down, down == WM_LBUTTONDOWN ? MK_LBUTTON : MK_RBUTTON, place);
+    PostMessageW(window, up, 0, place);
+  }
+}
+
+POINT MiddleOf(HWND window) {
+  RECT place{};
+  GetClientRect(window, &place);
+  return {place.right / 2, place.bottom / 2};
+}
+
+std::string Quoted(const std::string& text) {
+  return "\"" + text + "\"";
+}
+
+std::string Joined(const Texts& cells) {
+  std::string text;
+  for (const std::string& cell : cells) text += (text.empty() ? "" : " | ") + cell;
+  return text;
+}
+
+}  // namespace
+
+template <class Condition>
+void FormOnScreen::Wait(const Condition& holds, const std::string& what) const {
+  WaitUntil(holds, [&] { return "waited in vain: " + what + "; on the screen:" + Describe(process_); });
+}
+
+void FormOnScreen::ComeToFront() {
+  Wait([&] { return IsWindowVisible(form_) && IsWindowEnabled(form_) && GetForegroundWindow() == form_; },
+       Quoted(TextOf(form_)) + " in front");
+}
+
+HWND FormOnScreen::Captioned(const std::string& caption) const {
+  HWND found = nullptr;
+  Wait(
+      [&] {
+        for (HWND child : ChildrenOf(form_)) {
+          if (CaptionOf(child) == caption) return (found = child) != nullptr;
+        }
+        return false;
+      },
+      Quoted(caption));
+  return found;
+}
+
+HWND FormOnScreen::Behind(const std::string& label) const {
+  RECT place{};
+  GetWindowRect(Captioned(label), &place);
+  HWND nearest = nullptr;
+  LONG distance = 0;
+  for (HWND child : ChildrenOf(form_)) {
+    const std::string kind = KindOf(child);
+    if ((kind != "Edit" && kind != "ComboBox") || GetParent(child) != form_) continue;
+    RECT field{};
+    GetWindowRect(child, &field);
+    const LONG middle = (place.top + place.bottom) / 2;
+    if (field.left < place.left || middle < field.top || middle > field.bottom) continue;
+    if (nearest == nullptr || field.left < distance) {
+      nearest = child;
+      distance = field.left;
+    }
+  }
+  if (nearest == nullptr) throw std::runtime_error("nothing to type into behind " + Quoted(label));
+  return nearest;
+}
+
+HWND FormOnScreen::List() const {
+  HWND widest = nullptr;
+  LONG width = 0;
+  for (HWND child : ChildrenOf(form_)) {
+    RECT place{};
+    GetWindowRect(child, &place);
+    if (KindOf(child) != "SysListView32" || place.right - place.left <= width) continue;
+    widest = child;
+    width = place.right - place.left;
+  }
+  if (widest == nullptr) throw std::runtime_error("no list on " + Quoted(TextOf(form_)));
+  return widest;
+}
+
+void FormOnScreen::ClickAt(HWND window) {
+  ComeToFront();
+  Wait([&] { return IsWindowEnabled(window) != FALSE; }, Quoted(CaptionOf(window)) + " to be enabled");
+  Mouse(window, MiddleOf(window), 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+}
+
+void FormOnScreen::Click(const std::string& caption) {
+  ClickAt(Captioned(caption));
+}
+
+void FormOnScreen::ClickRow(int row) {
+  ComeToFront();
+  Mouse(List(), ListOnScreen(List()).PlaceOf(row), 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+  HasSelected(row);
+}
+
+void FormOnScreen::DoubleClickRow(int row) {
+  ClickRow(row);
+  Mouse(List(), ListOnScreen(List()).PlaceOf(row), 2, WM_LBUTTONDOWN, WM_LBUTTONUP);
+}
+
+void FormOnScreen::RightClickList() {
+  ComeToFront();
+  Mouse(List(), MiddleOf(List()), 1, WM_RBUTTONDOWN, WM_RBUTTONUP);
+}
+
+void FormOnScreen::Press(const std::string& key) {
+  ComeToFront();
+  PressNamed(key);
+}
+
+void FormOnScreen::Write(const std::string& label, const std::string& text) {
+  const HWND field = Behind(label);
+  if (FocusOf(form_) != field) ClickAt(field);
+  HasFocusBehind(label);
+  ComeToFront();
+  PressNamed("Ctrl+A");
+  for (wchar_t character : windows::Wide(text)) TypeCharacter(character);
+  Shows(label, text);
+}
+
+void FormOnScreen::Choose(const std::string& label, const std::string& entry) {
+  const HWND list = Behind(label);
+  ClickAt(list);
+  const auto isOpen = [&] { return Ask(list, CB_GETDROPPEDSTATE) != 0; };
+  Wait(isOpen, "the entries behind " + Quoted(label));
+  PressNamed("Home");
+  Wait([&] { return Ask(list, CB_GETCURSEL) == 0; }, "the first entry behind " + Quoted(label));
+  const LRESULT count = Ask(list, CB_GETCOUNT);
+  for (LRESULT next = 1; next < count && TextOf(list) != entry; ++next) {
+    PressNamed("Down");
+    Wait([&] { return Ask(list, CB_GETCURSEL) == next; }, "the next entry behind " + Quoted(label));
+  }
+  PressNamed("Enter");
+  Wait([&] { return !isOpen(); }, "the entries behind " + Quoted(label) + " to close");
+  Shows(label, entry);
+}
+
+void FormOnScreen::CloseByTitleBar() {
+  ComeToFront();
+  PostMessageW(form_, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+void FormOnScreen::Shows(const std::string& label, const std::string& text) {
+  const HWND field = Behind(label);
+  std::string seen;
+  WaitUntil([&] { return (seen = TextOf(field)) == text; },
+            [&] { return Quoted(label) + " shows " + Quoted(seen) + " and not " + Quoted(text) + Describe(process_); });
+}
+
+void FormOnScreen::HasFocusBehind(const std::string& label) {
+  const HWND field = Behind(label);
+  Wait(
+      [&] {
+        const HWND focus = FocusOf(form_);
+        return focus == field || IsChild(field, focus);
+      },
+      "the focus behind " + Quoted(label));
+}
+
+void FormOnScreen::HasFocusOn(const std::string& caption) {
+  const HWND window = Captioned(caption);
+  Wait([&] { return FocusOf(form_) == window; }, "the focus on " + Quoted(caption));
+}
+
+void FormOnScreen::HasRows(int count) {
+  const ListOnScreen list(List());
+  WaitUntil([&] { return list.Rows() == count; },
+            [&] { return std::to_string(list.Rows()) + " rows and not " + std::to_string(count) + Describe(process_); });
+}
+
+void FormOnScreen::HasRow(int row, const Texts& cells) {
+  const ListOnScreen list(List());
+  Texts seen;
+  WaitUntil([&] { return (seen = list.Row(row)) == cells; },
+            [&] { return "row " + std::to_string(row) + " is\n  " + Joined(seen) + "\nand not\n  " + Joined(cells); });
+}
+
+void FormOnScreen::HasSelected(int row) {
+  const ListOnScreen list(List());
+  Wait([&] { return list.SelectedRow() == row; }, "row " + std::to_string(row) + " selected");
+}
+
+void FormOnScreen::IsUsable(const std::string& caption, bool usable) {
+  const HWND window = Captioned(caption);
+  Wait([&] { return (IsWindowEnabled(window) != FALSE) == usable; }, Quoted(caption) + (usable ? " enabled" : " disabled"));
+}
+
+void FormOnScreen::Goes() {
+  Wait([&] { return !IsWindowVisible(form_); }, "the window to close");
+}
+
+Person::Person(const Program& program) : program_(program) {
+  // A pointer that lies about would point at entries of lists that open below it.
+  SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+}
+
+FormOnScreen Person::Meets(const std::string& title) {
+  HWND found = nullptr;
+  WaitUntil(
+      [&] {
+        for (HWND window : WindowsOf(program_.Id())) {
+          if (KindOf(window) == kFormKind && IsWindowEnabled(window) && TextOf(window) == title) found = window;
+        }
+        return found != nullptr && GetForegroundWindow() == found && FocusOf(found) != nullptr;
+      },
+      [&] { return "never met " + Quoted(title) + "; on the screen:" + Describe(program_.Id()); });
+  return FormOnScreen(program_.Id(), found);
+}
+
+std::string Person::Answers(const std::string& caption) {
+  HWND box = nullptr;
+  HWND button = nullptr;
+  const auto isThere = [&] {
+    for (HWND window : WindowsOf(program_.Id())) {
+      if (KindOf(window) != kMessageKind || !IsWindowEnabled(window)) continue;
+      for (HWND child : ChildrenOf(window)) {
+        if (KindOf(child) == "Button" && CaptionOf(child) == caption) button = child;
+      }
+      box = window;
+    }
+    return button != nullptr && GetForegroundWindow() == box;
+  };
+  WaitUntil(isThere,
+            [&] { return "no message to answer with " + Quoted(caption) + "; on the screen:" + Describe(program_.Id()); });
+  std::string text;
+  for (HWND child : ChildrenOf(box)) {
+    if (KindOf(child) == "Static") text += TextOf(child);
+  }
+  for (char& c : text) {
+    if (c == '\n' || c == '\r') c = ' ';
+  }
+  Mouse(button, MiddleOf(button), 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+  WaitUntil([&] { return !IsWindowVisible(box); }, [&] { return "the message stays: " + text; });
+  return text;
+}
+
+void Person::Picks(char accessKey) {
+  WaitUntil(
+      [&] {
+        const auto windows = WindowsOf(program_.Id());
+        return std::any_of(windows.begin(), windows.end(), [](HWND window) { return KindOf(window) == kMenuKind; });
+      },
+      [&] { return "no menu; on the screen:" + Describe(program_.Id()); });
+  PressNamed(std::string(1, accessKey));
+}
+
+}  // namespace person

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <string>
+
+#include "tests/windows/products/person/eyes.h"
+#include "tests/windows/products/person/program.h"
+
+namespace person {
+
+/// A form of another process, worked as a person does: keys come from the system's keyboard, clicks as the mouse's own
+/// messages to the window under it. Everything waits until it can be done or seen, and throws std::runtime_error with what is on
+/// the screen when that never comes.
+class FormOnScreen {
+ public:
+  FormOnScreen(DWORD process, HWND form) : process_(process), form_(form) {}
+
+  /// The button, option, check box or label with this caption (access key marks left out).
+  void Click(const std::string& caption);
+  void DoubleClickRow(int row);
+  void ClickRow(int row);
+  void RightClickList();
+  /// A key on whatever has the focus: "Enter", "Esc", "Tab", "Delete", "Down", "F3" or one letter or digit, with "Ctrl+",
+  /// "Alt+" or "Shift+" before it.
+  void Press(const std::string& key);
+  /// Replaces what is in the field behind a label and waits until it stands there.
+  void Write(const std::string& label, const std::string& text);
+  /// Chooses an entry of the drop-down list behind a label by its text.
+  void Choose(const std::string& label, const std::string& entry);
+  void CloseByTitleBar();
+
+  /// What there is to read; each waits until it is so.
+  void Shows(const std::string& label, const std::string& text);
+  void HasFocusBehind(const std::string& label);
+  void HasFocusOn(const std::string& caption);
+  void HasRows(int count);
+  void HasRow(int row, const Texts& cells);
+  void HasSelected(int row);
+  void IsUsable(const std::string& caption, bool usable);
+
+  Texts Headings() const { return ListOnScreen(List()).Headings(); }
+  /// What is read now behind a label.
+  std::string Read(const std::string& label) const { return TextOf(Behind(label)); }
+  /// Waits until the window is gone.
+  void Goes();
+
+ private:
+  template <class Condition>
+  void Wait(const Condition& holds, const std::string& what) const;
+  void ComeToFront();
+  void ClickAt(HWND window);
+  HWND Captioned(const std::string& caption) const;
+  HWND Behind(const std::string& label) const;
+  /// The form's list: the widest that is shown.
+  HWND List() const;
+
+  DWORD process_;
+  HWND form_;
+};
+
+/// Somebody in front of a program's windows.
+class Person {
+ public:
+  explicit Person(const Program& program);
+
+  /// Waits until the form with this title is there to be worked with.
+  FormOnScreen Meets(const std::string& title);
+  /// Waits for a message, answers it by the caption of a button and gives its text, line ends as blanks.
+  std::string Answers(const std::string& caption);
+  /// Waits for a menu and picks by access key.
+  void Picks(char accessKey);
+
+ private:
+  const Program& program_;
+};
+
+}  // namespace person

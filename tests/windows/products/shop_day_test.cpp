@@ -1,0 +1,205 @@
+// A shop's day at the real windows: the host in a process of its own, somebody at its mouse and keyboard.
+#include <array>
+#include <gtest/gtest.h>
+
+#include "platform/windows/wide_text.h"
+#include "tests/windows/products/person/hands.h"
+
+namespace person {
+namespace {
+
+/// A folder of its own for the shop's database, gone afterwards.
+class ShopFolder {
+ public:
+  ShopFolder() {
+    std::array<wchar_t, MAX_PATH> temporary{};
+    GetTempPathW(static_cast<DWORD>(temporary.size()), temporary.data());
+    path_ = std::wstring(temporary.data()) + L"shop" + std::to_wstring(GetCurrentProcessId()) + L"_" +
+            std::to_wstring(GetTickCount64());
+    CreateDirectoryW(path_.c_str(), nullptr);
+  }
+  ShopFolder(const ShopFolder&) = delete;
+  ShopFolder& operator=(const ShopFolder&) = delete;
+  ~ShopFolder() {
+    for (const wchar_t* file : {L"\\shop.db", L"\\shop.db-wal", L"\\shop.db-shm", L"\\shop.db-journal"}) {
+      DeleteFileW((path_ + file).c_str());
+    }
+    RemoveDirectoryW(path_.c_str());
+  }
+  std::string Database() const { return windows::Utf8(path_ + L"\\shop.db"); }
+
+ private:
+  std::wstring path_;
+};
+
+std::string Host(const ShopFolder& folder, const std::string& switches) {
+  return std::string("\"") + HOST_PROGRAM + "\" --database \"" + folder.Database() + "\" " + switches;
+}
+
+constexpr const char* kLoggedOn = "--unattended --company 1 --shop 1 --user 1 --date 15/03/2024";
+
+TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
+  const ShopFolder folder;
+  Program host(Host(folder, kLoggedOn));
+  Person nora(host);
+
+  // The register of the year.
+  FormOnScreen requests = nora.Meets("Goods Request to HQ");
+  EXPECT_EQ(requests.Headings(), (Texts{"Request ID", "Request No", "Request Date", "Remarks", "Cancelled", "Finished"}));
+  requests.HasRows(16);
+  requests.HasRow(0, {"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"});
+  requests.HasRow(15, {"28", "GR24/20", "15/03/2024", "Opened by mistake", "Yes", "No"});
+
+  // A new request, without the stock-out items.
+  requests.Click("New");
+  EXPECT_EQ(nora.Answers("No"), "Do you want to add stock out items?");
+  FormOnScreen editor = nora.Meets("Goods Request");
+  editor.HasRows(0);
+  editor.Shows("Request Date:", "15/03/2024");
+  editor.Write("Remarks:", "For the new shelf");
+
+  // Two lines by their codes: Enter goes from box to box, and the button takes the line.
+  editor.RightClickList();
+  nora.Picks('A');
+  FormOnScreen entry = nora.Meets("Goods Request Details");
+  entry.HasFocusBehind("Barcode:");
+  entry.Write("Barcode:", "KT1003");
+  entry.Press("Enter");
+  entry.HasFocusBehind("Quantity:");
+  entry.Shows("Item:", "Frying pan 28 cm");
+  entry.Write("Quantity:", "12.5");
+  entry.Press("Enter");
+  entry.HasFocusBehind("Comments:");
+  entry.Write("Comments:", "blue ones");
+  entry.Press("Enter");
+  entry.HasFocusOn("Ok");
+  entry.Click("Ok");
+  entry.HasFocusBehind("Barcode:");
+  entry.Write("Barcode:", "none such");
+  entry.Press("Enter");
+  EXPECT_EQ(nora.Answers("OK"), "Scan valid barcode ");
+  entry.Write("Barcode:", "KT1001");
+  entry.Press("Enter");
+  entry.Shows("Item:", "Frying pan 20 cm");
+  entry.HasFocusBehind("Quantity:");
+  entry.Write("Quantity:", "3");
+  entry.Click("Ok");
+  entry.HasFocusBehind("Barcode:");
+  entry.Press("Esc");
+  entry.Goes();
+
+  // What the editor holds becomes the year's next request.
+  editor.HasRows(2);
+  editor.HasRow(0, {"1", "KT1003", "Frying pan 28 cm", "12.500", "blue ones", "PCS", ""});
+  editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "3.000", "", "PCS", ""});
+  editor.Shows("Remarks:", "For the new shelf");
+  editor.Click("OK");
+  editor.Goes();
+  requests.HasRows(17);
+  requests.HasRow(16, {"29", "GR24/21", "15/03/2024", "For the new shelf", "No", "No"});
+
+  // Later a quantity changes; nearly closed without saving, the editor asks.
+  requests.ClickRow(16);
+  requests.Click("Edit");
+  editor = nora.Meets("Goods Request");
+  editor.Shows("Request No:", "GR24/21");
+  editor.HasRows(2);
+  editor.DoubleClickRow(1);
+  entry = nora.Meets("Goods Request Details");
+  entry.Shows("Quantity:", "3.000");
+  entry.Write("Quantity:", "8");
+  entry.Click("Ok");
+  entry.Goes();
+  editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "8.000", "", "PCS", ""});
+  editor.CloseByTitleBar();
+  EXPECT_EQ(nora.Answers("Cancel"), "Save Changes?");
+  editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "8.000", "", "PCS", ""});
+  editor.Click("OK");
+  editor.Goes();
+
+  // Saved is saved: it is read again from the database. Then it goes, with a reason.
+  requests.ClickRow(16);
+  requests.Press("Enter");
+  editor = nora.Meets("Goods Request");
+  editor.HasRow(0, {"1", "KT1003", "Frying pan 28 cm", "12.500", "blue ones", "PCS", ""});
+  editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "8.000", "", "PCS", ""});
+  editor.Press("Esc");
+  editor.Goes();
+  requests.Click("Delete");
+  EXPECT_EQ(nora.Answers("No"), "Are you sure you want to Delete GR24/21 ?");
+  requests.Click("Delete");
+  EXPECT_EQ(nora.Answers("Yes"), "Are you sure you want to Delete GR24/21 ?");
+  FormOnScreen reason = nora.Meets("Reason for deletion");
+  reason.Write("Reason :", "Ordered twice");
+  reason.Click("OK");
+  reason.Goes();
+  requests.HasRow(16, {"29", "GR24/21", "15/03/2024", "For the new shelf", "Yes", "No"});
+
+  requests.Click("Close");
+  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+
+  // The next morning it is still there.
+  Program nextDay(Host(folder, kLoggedOn));
+  FormOnScreen again = Person(nextDay).Meets("Goods Request to HQ");
+  again.HasRows(17);
+  again.HasRow(16, {"29", "GR24/21", "15/03/2024", "For the new shelf", "Yes", "No"});
+  again.CloseByTitleBar();
+  EXPECT_EQ(nextDay.ExitCode(), 0u) << nextDay.Complaint();
+}
+
+/// What the host remembers for its user, kept out of the test's way and put back.
+class Forgotten {
+ public:
+  Forgotten() { RegDeleteTreeW(HKEY_CURRENT_USER, kPath); }
+  Forgotten(const Forgotten&) = delete;
+  Forgotten& operator=(const Forgotten&) = delete;
+  ~Forgotten() { RegDeleteTreeW(HKEY_CURRENT_USER, kPath); }
+
+ private:
+  static constexpr const wchar_t* kPath = L"Software\\ShopSuite\\Host";
+};
+
+TEST(LogOn, TheChoiceIsCheckedTakenAndRemembered) {
+  const ShopFolder folder;
+  const Forgotten forgotten;
+  {
+    Program host(Host(folder, ""));
+    Person person(host);
+    FormOnScreen logOn = person.Meets("Shop host");
+    logOn.Shows("Process date:", "15/03/2024");
+    logOn.Choose("Company:", "Sunmill Bakeries");
+    logOn.Choose("Shop:", "Mill Lane Bakery");
+    logOn.Choose("User:", "Greta Lindholm");
+    logOn.Write("Process date:", "31/02/2024");
+    logOn.Click("Goods requests");
+    EXPECT_EQ(person.Answers("OK"), "Enter a valid process date");
+    logOn.HasFocusBehind("Process date:");
+    logOn.Shows("Process date:", "31/02/2024");
+    logOn.Write("Process date:", "14/03/2024");
+    logOn.Press("Enter");
+    // That shop's requests, on that day.
+    FormOnScreen requests = person.Meets("Goods Request to HQ");
+    requests.HasRow(0, {"3", "2", "04/03/2024", "Dough for the week", "No", "No"});
+    requests.Click("New");
+    EXPECT_EQ(person.Answers("No"), "Do you want to add stock out items?");
+    FormOnScreen editor = person.Meets("Goods Request");
+    editor.Shows("Request Date:", "14/03/2024");
+    editor.Press("Esc");
+    editor.Goes();
+    requests.Click("Close");
+    requests.Goes();
+    person.Meets("Shop host").Click("Exit");
+    EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+  }
+  Program nextDay(Host(folder, ""));
+  FormOnScreen logOn = Person(nextDay).Meets("Shop host");
+  logOn.Shows("Company:", "Sunmill Bakeries");
+  logOn.Shows("Shop:", "Mill Lane Bakery");
+  logOn.Shows("User:", "Greta Lindholm");
+  logOn.Shows("Process date:", "14/03/2024");
+  logOn.Press("Esc");
+  EXPECT_EQ(nextDay.ExitCode(), 0u) << nextDay.Complaint();
+}
+
+}  // namespace
+}  // namespace person
