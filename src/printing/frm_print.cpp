@@ -58,15 +58,12 @@ void frmPrint::Form_KeyPress(int& character) {
 }
 
 void frmPrint::cmdOK_Click() {
-  // The dialog goes away whatever becomes of the print; a trapped error has told the user by then.
-  const bool windowsPrint = optwindowsprint.Value();
-  Trap(windowsPrint ? "WIndowsprint" : "cmdOK_Click", [&] {
-    if (windowsPrint) {
-      WIndowsprint(Session(), RequestId());
-    } else {
-      PrintAsText();
-    }
-  });
+  // The report's errors are its own routine's, and the dialog goes all the same; a text print that fails here leaves it open.
+  if (optwindowsprint.Value()) {
+    Trap("WIndowsprint", [&] { WIndowsprint(Session(), RequestId()); });
+  } else {
+    PrintAsText();
+  }
   Unload();
 }
 

@@ -1,6 +1,5 @@
 #include "src/printing/request_slip.h"
 
-#include "base/ado/recordset.h"
 #include "base/vb/format.h"
 #include "base/vb/text.h"
 #include "src/printing/slip_footer.h"
@@ -64,39 +63,40 @@ OpenedOutput OpenOutput(controls::Workstation& workstation, SlipDestination dest
 
 std::string RequestSlip::PrintBill(std::int32_t requestId, SlipDestination destination) {
   std::string path;
-  Trapped(session_, kModule, "PrintBill", [&] { path = Write(requestId, destination); });
+  Trapped(session_, kModule, "PrintBill", [&] { Write(requestId, destination, path); });
   return path;
 }
 
-std::string RequestSlip::Write(std::int32_t requestId, SlipDestination destination) {
+void RequestSlip::Write(std::int32_t requestId, SlipDestination destination, std::string& path) {
   const SlipSettings settings = SlipSettings::Read(session_);
   const SlipColumns columns(settings);
+  // Asked before anything is opened: what cannot be read leaves the last slip, and the paper, alone.
+  ado::Recordset rows = ado::Recordset::Create(session_.services.factory);
+  rows.Open(SlipLinesQuery(requestId, session_.gIntShopID, settings.printinsavedorder), session_.gAdoCon);
   OpenedOutput opened = OpenOutput(session_.services.workstation, destination, settings.port);
+  path = opened.path;
   SlipOutput output(std::move(opened.file));
   // The screen file starts with the headings; only paper gets the header.
   if (destination == SlipDestination::Printer) HeaderPrint(output, settings.pagewidth, requestId);
   WriteHeadings(output, settings, columns);
-  const Totals totals = WriteLines(output, settings, columns, requestId, destination);
+  const Totals totals = WriteLines(output, settings, columns, rows, destination);
   WriteTotals(output, settings, columns, totals);
   FooterPrint(output, settings.pagewidth);
   output.Close();
-  return opened.path;
 }
 
 void RequestSlip::WriteHeadings(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns) const {
-  const std::string dashes = columns.DashedLine();
+  const std::string& dashes = columns.DashedLine();
   if (settings.printheadertopline && !dashes.empty()) output.Line(dashes);
   output.Line(columns.Headings());
   if (settings.printheaderbottomline && !dashes.empty()) output.Line(dashes);
 }
 
 RequestSlip::Totals RequestSlip::WriteLines(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns,
-                                            std::int32_t requestId, SlipDestination destination) {
+                                            ado::Recordset& rows, SlipDestination destination) {
   const double costFactor = settings.showcostintrans ? CostFactor(session_) : 1;
   Totals totals;
   long number = 0;
-  ado::Recordset rows = ado::Recordset::Create(session_.services.factory);
-  rows.Open(SlipLinesQuery(requestId, session_.gIntShopID, settings.printinsavedorder), session_.gAdoCon);
   enum Field : std::size_t { kUnitCode, kRequestNo, kItemId, kQuantity, kDescription, kItemCode, kRate };
   ado::ForEachRow(rows, [&](const late::Array& block, std::size_t record) {
     if (settings.internalprintnoofrecords > 0 && number > 0 && number % settings.internalprintnoofrecords == 0) {
@@ -130,7 +130,7 @@ RequestSlip::Totals RequestSlip::WriteLines(SlipOutput& output, const SlipSettin
 
 void RequestSlip::WriteTotals(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns,
                               const Totals& totals) const {
-  const std::string dashes = columns.DashedLine();
+  const std::string& dashes = columns.DashedLine();
   if (settings.printdetailbottomline && !dashes.empty()) output.Line(dashes);
   if (settings.showtotalqty) {
     output.Line(columns.QuantityTotal(vb::Format(totals.quantity, "0.000")));

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/ado/recordset.h"
 #include "src/entry/session.h"
 #include "src/printing/slip_columns.h"
 #include "src/printing/slip_output.h"
@@ -17,8 +18,8 @@ class RequestSlip {
  public:
   explicit RequestSlip(basGoodsRequest& session) : session_(session) {}
 
-  /// Writes the whole slip. The path of the file written (for Screen), empty when nothing could be opened or an error ended it
-  /// early.
+  /// Writes the whole slip. The path of the file that was opened, written in full or as far as an error let it; empty when none
+  /// was.
   std::string PrintBill(std::int32_t requestId, SlipDestination destination);
 
  private:
@@ -26,9 +27,9 @@ class RequestSlip {
     double quantity = 0;
     double cost = 0;
   };
-  std::string Write(std::int32_t requestId, SlipDestination destination);
+  void Write(std::int32_t requestId, SlipDestination destination, std::string& path);
   void WriteHeadings(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns) const;
-  Totals WriteLines(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns, std::int32_t requestId,
+  Totals WriteLines(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns, ado::Recordset& rows,
                     SlipDestination destination);
   void WriteTotals(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns, const Totals& totals) const;
   void HeaderPrint(SlipOutput& output, std::int16_t pageWidth, std::int32_t requestId);

@@ -37,6 +37,16 @@ std::int16_t DescriptionWidth(const SlipSettings& settings, std::int16_t itemCod
   return width;
 }
 
+std::string Dashes(const SlipSettings& settings) {
+  const std::int16_t step = vb::Add16(settings.spaceinlinecode, 1);
+  if (step == 0) vb::Raise(vb::kDivisionByZero);
+  std::string line;
+  for (int dash = 1; dash <= settings.pagewidth / step; ++dash) {
+    line += dash == 1 ? std::string("-") : vb::Space(settings.spaceinlinecode) + "-";
+  }
+  return line == "-" ? std::string() : line;
+}
+
 }  // namespace
 
 std::string RightAligned(std::string_view text, long width) {
@@ -51,7 +61,8 @@ std::string Centred(std::string_view text, long width) {
 SlipColumns::SlipColumns(const SlipSettings& settings)
     : settings_(settings),
       itemCodeWidth_(settings.showitemcodeinprint ? vb::Add16(settings.Unit, 3) : std::int16_t{0}),
-      descriptionWidth_(DescriptionWidth(settings, itemCodeWidth_)) {}
+      descriptionWidth_(DescriptionWidth(settings, itemCodeWidth_)),
+      dashedLine_(Dashes(settings)) {}
 
 std::string SlipColumns::Headings() const {
   std::string line = RightAligned("Sl.No", settings_.SlNo);
@@ -81,16 +92,6 @@ std::string SlipColumns::QuantityTotal(std::string_view quantity) const {
 
 std::string SlipColumns::CostTotal(std::string_view cost) const {
   return RightAligned("Grand Total : " + std::string(cost), settings_.pagewidth);
-}
-
-std::string SlipColumns::DashedLine() const {
-  const std::int16_t step = vb::Add16(settings_.spaceinlinecode, 1);
-  if (step == 0) vb::Raise(vb::kDivisionByZero);
-  std::string line;
-  for (int dash = 1; dash <= settings_.pagewidth / step; ++dash) {
-    line += dash == 1 ? std::string("-") : vb::Space(settings_.spaceinlinecode) + "-";
-  }
-  return line == "-" ? std::string() : line;
 }
 
 }  // namespace goods

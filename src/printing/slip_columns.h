@@ -23,7 +23,7 @@ struct SlipLine {
 /// exactly `pagewidth` wide as long as its texts fit; a longer figure pushes the rest of the line to the right.
 class SlipColumns {
  public:
-  /// Error 6 when a width leaves the 16-bit range, 5 when nothing is left for the description.
+  /// Error 6 when a width leaves the 16-bit range, 5 when nothing is left for the description, 11 when the dashes have no step.
   explicit SlipColumns(const SlipSettings& settings);
 
   std::string Headings() const;
@@ -33,12 +33,13 @@ class SlipColumns {
   /// One page-wide line that ends with "Grand Total : " and the cost.
   std::string CostTotal(std::string_view cost) const;
   /// Empty where there is nothing worth a line.
-  std::string DashedLine() const;
+  const std::string& DashedLine() const { return dashedLine_; }
 
  private:
   SlipSettings settings_;
   std::int16_t itemCodeWidth_ = 0;
   std::int16_t descriptionWidth_ = 0;
+  std::string dashedLine_;
 };
 
 /// Text moved to the right edge of `width` characters; as it is when it is longer.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/controls/workstation.h"
+#include "base/vb/error.h"
 
 namespace support {
 
@@ -18,6 +19,7 @@ class TestWorkstation : public controls::Workstation {
   std::map<std::string, std::string> files;          ///< contents as bytes, by path
   std::set<std::string> refusedPaths;                ///< opening these for output is error 70
   std::vector<std::pair<std::string, int>> started;  ///< command lines with their window styles
+  bool startsPrograms = true;                        ///< else starting one is error 53
 
   /// Puts ShopSetting.txt into the application folder: one "key :=value" a line.
   void WriteSettings(const std::vector<std::pair<std::string, std::string>>& settings);
@@ -30,7 +32,10 @@ class TestWorkstation : public controls::Workstation {
   std::unique_ptr<controls::InputFile> OpenForInput(std::string_view path) override;
   std::unique_ptr<controls::OutputFile> OpenForOutput(std::string_view path) override;
   std::unique_ptr<controls::OutputFile> OpenForAppend(std::string_view path) override;
-  void StartProgram(std::string_view commandLine, int style) override { started.emplace_back(commandLine, style); }
+  void StartProgram(std::string_view commandLine, int style) override {
+    if (!startsPrograms) vb::Raise(vb::kFileNotFound);
+    started.emplace_back(commandLine, style);
+  }
 };
 
 }  // namespace support

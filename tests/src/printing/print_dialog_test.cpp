@@ -121,6 +121,19 @@ TEST(PrintDialog, APortThatCannotBeReachedIsToldAndTheDialogGoes) {
   EXPECT_EQ(day.errors->lines, std::vector<std::string>{"frmMaster |PrintBill|70|"});
 }
 
+TEST(PrintDialog, AnEditorThatCannotBeStartedLeavesTheSlipAndTheDialog) {
+  PrintDay day;
+  day.workstation.startsPrograms = false;
+  day.Print([&](goods::frmPrint& dialog) {
+    support::Click(dialog.cmdOK);
+    EXPECT_TRUE(dialog.IsLoaded());
+    EXPECT_EQ(day.desktop.hourglasses, 0);
+    support::Click(dialog.cmdCancel);
+  });
+  EXPECT_TRUE(day.workstation.files["C:\\Reqtohq.txt"].starts_with("Sl.No"));
+  EXPECT_EQ(day.errors->lines, std::vector<std::string>{"frmPrint |cmdOK_Click|53|"});
+}
+
 TEST(PrintDialog, WindowsPrintDrivesTheReportServerInOrder) {
   PrintDay day;
   const auto calls = std::make_shared<std::vector<std::string>>();

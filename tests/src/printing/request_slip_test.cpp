@@ -182,6 +182,43 @@ TEST(RequestSlip, WidthsThatCannotBeAreErrorsOfTheRoutine) {
   }
 }
 
+TEST(RequestSlip, WhatGoesWrongBeforeTheFirstLineLeavesTheLastSlipAlone) {
+  SlipShop shop;
+  shop.Settings({{"spaceinlinecode", "-1"}});
+  shop.workstation.files["LPT1"] = "the last slip";
+  EXPECT_EQ(shop.PrintToPort(), "the last slip");
+  shop.Settings({});
+  shop.log.FailAt(1);
+  EXPECT_EQ(shop.PrintToPort(), "the last slip");
+  EXPECT_TRUE(shop.log.HasFailed());
+  EXPECT_EQ(shop.errors->lines.size(), 2u);
+}
+
+TEST(RequestSlip, ALineThatCannotBeSetEndsTheSlipThere) {
+  SlipShop shop;
+  shop.Settings({{"showitemcodeinprint", "1"}, {"Unit", "-3"}});
+  shop.AddLine(1, 11, "1");
+  EXPECT_EQ(shop.PrintToScreen(), Drawn(R"(
+Sl.No Code Item Description             Quantity Unit
+)"));
+  EXPECT_EQ(shop.errors->lines, std::vector<std::string>{"frmMaster |PrintBill|5|"});
+}
+
+TEST(RequestSlip, AHeaderOrFooterThatFailsIsToldAsItsOwnAndTheSlipGoesOn) {
+  SlipShop shop;
+  shop.Settings({{"pagewidth", "40"}, {"headerleftmargin", "40000"}});
+  shop.AddLine(1, 11, "1");
+  shop.log.FailAt(3);  // the lines, the user's name for the header's error, the footer's messages
+  EXPECT_EQ(shop.PrintToPort(), Drawn(R"(
+Sl.No Item Description    Quantity  Unit
+    1 Rice 25 kg              1.00   Bag
+
+)"));
+  ASSERT_EQ(shop.errors->lines.size(), 2u);
+  EXPECT_EQ(shop.errors->lines[0], "frmMaster |HeaderPrint|6|");
+  EXPECT_TRUE(shop.errors->lines[1].starts_with("frmMaster |FooterPrint|")) << shop.errors->lines[1];
+}
+
 TEST(RequestSlip, SettingsAreReadAnewForEveryPrint) {
   SlipShop shop;
   shop.Settings({});
