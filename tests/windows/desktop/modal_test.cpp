@@ -1,44 +1,14 @@
 // Forms over forms in real windows: owners, refusals, quitting, and what is left behind.
 
 #include <gtest/gtest.h>
-#include <intrin.h>
 
 #include "platform/windows/desktop/metrics.h"
 #include "tests/base/controls/counter_form.h"
+#include "tests/windows/desktop/leftovers.h"
 #include "tests/windows/desktop/windows_driver.h"
 
 namespace counter {
 namespace {
-
-/// Pens, brushes, fonts and the like of this process. Wine does not count them itself, but keeps the classic table: entries of
-/// 24 bytes with the object's type, 0 for a free one, at byte 14.
-std::size_t GraphicsObjects() {
-  if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return counted;
-  constexpr std::size_t kTableInProcessBlock = 0xF8;
-  constexpr std::size_t kEntries = 0x10000;
-  constexpr std::size_t kEntrySize = 24;
-  constexpr std::size_t kType = 14;
-  const auto block = __readgsqword(0x60);
-  const auto* table = *reinterpret_cast<const unsigned char* const*>(block + kTableInProcessBlock);
-  std::size_t count = 0;
-  for (std::size_t entry = 0; table != nullptr && entry < kEntries; ++entry) count += table[entry * kEntrySize + kType] != 0;
-  return count;
-}
-
-/// All windows of this thread, hidden ones and children included.
-std::size_t Windows() {
-  std::size_t count = 0;
-  const auto one = [](HWND, LPARAM data) -> BOOL { return ++*reinterpret_cast<std::size_t*>(data) != 0; };
-  static constexpr WNDENUMPROC kOne = +one;
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM data) -> BOOL {
-        EnumChildWindows(window, kOne, data);
-        return kOne(window, data);
-      },
-      reinterpret_cast<LPARAM>(&count));
-  return count;
-}
 
 class ModalForms : public testing::Test {
  protected:

@@ -1,7 +1,6 @@
 // The registered servers in this process, as a compiled host has them.
 #include <functional>
 #include <gtest/gtest.h>
-#include <set>
 
 #include "base/vb/error.h"
 #include "platform/windows/com/com_error.h"
@@ -10,6 +9,7 @@
 #include "platform/windows/com/late_dispatch.h"
 #include "platform/windows/com/variant.h"
 #include "platform/windows/wide_text.h"
+#include "tests/windows/desktop/leftovers.h"
 
 using late::Value;
 using windows::Bstr;
@@ -63,18 +63,6 @@ class PressingOn {
 
   UINT_PTR timer_;
 };
-
-int WindowsOfThread() {
-  int count = 0;
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM data) -> BOOL {
-        if (IsA(window, L"ShopForm")) ++*reinterpret_cast<int*>(data);
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&count));
-  return count;
-}
 
 ULONG References(IUnknown* object) {
   object->AddRef();
@@ -206,17 +194,27 @@ TEST_F(Host, FiftyShowsLeaveNothingBehind) {
   late::ObjectPtr connection = database->Call("Open").ToObject();
   auto* face = static_cast<windows::DispatchObject&>(*connection).Dispatch().Get();
   const ULONG references = References(face);
-  const DWORD handles = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+  std::size_t windows = 0;
+  std::size_t graphics = 0;
+  DWORD handles = 0;
   {
     const PressingOn pressing;
     LoggedOn(connection)->Call("Show");
     EXPECT_EQ(PressingOn::forms, 1) << "the register and nothing else";
+    // What the system keeps from the first time on is not counted.
+    windows = counter::Windows();
+    graphics = counter::GraphicsObjects();
+    handles = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    ASSERT_GT(graphics, 0u);
     for (int i = 1; i < 50; ++i) LoggedOn(connection)->Call("Show");
     EXPECT_EQ(PressingOn::messages, 0) << "the connection serves the last Show as the first";
   }
-  EXPECT_EQ(WindowsOfThread(), 0);
+  EXPECT_EQ(counter::Windows(), windows);
+  EXPECT_LE(counter::GraphicsObjects(), graphics + 4) << "less than one in ten Shows";
   EXPECT_EQ(References(face), references);
-  EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), handles + 5);
+  EXPECT_EQ(FindWindowW(L"ShopForm", nullptr), nullptr);
+  // Where the system counts its handles itself, menus and timers are among them.
+  EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), handles + 4);
   EXPECT_TRUE(CanUnloadNow(L"tq8v4461.dll"));
   connection.reset();
   database.reset();
