@@ -9,6 +9,8 @@ if [ ! -f "$WINE_FOLDER/screen" ]; then
   "$root/tools/in_wine.sh" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
   fonts=/usr/share/wine/fonts
   [ ! -d "$fonts" ] || cp "$fonts"/*.ttf "$WINE_FOLDER/prefix/drive_c/windows/Fonts/"
+  # What was started without a screen must be gone before the first window.
+  WINEPREFIX=$WINE_FOLDER/prefix wineserver -k -w 2>/dev/null || true
   touch "$WINE_FOLDER/screen"
 fi
 exec xvfb-run -a -s "-screen 0 1280x900x24" "$root/tools/in_wine.sh" "$@"
