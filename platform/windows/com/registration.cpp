@@ -102,6 +102,8 @@ bool IsRefused(HRESULT result) {
 }  // namespace
 
 HRESULT RegisterServer(const ServerRegistration& server) {
+  // Asked first: half of it written before the refusal could not be told from what stood there.
+  if (RegistryKey::IsRefused(HKEY_LOCAL_MACHINE, L"Software\\Classes")) return RegisterServer(server, RegistrationScope::User);
   const HRESULT result = RegisterServer(server, RegistrationScope::Machine);
   return IsRefused(result) ? RegisterServer(server, RegistrationScope::User) : result;
 }

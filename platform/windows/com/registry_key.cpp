@@ -27,6 +27,13 @@ bool RegistryKey::Exists(HKEY root, const std::wstring& path) {
   return true;
 }
 
+bool RegistryKey::IsRefused(HKEY root, const std::wstring& path) {
+  HKEY opened = nullptr;
+  const LSTATUS result = RegOpenKeyExW(root, path.c_str(), 0, KEY_WRITE, &opened);
+  const RegistryKey key(opened);
+  return result == ERROR_ACCESS_DENIED;
+}
+
 LSTATUS RegistryKey::DeleteTree(HKEY root, const std::wstring& path) {
   const LSTATUS result = RegDeleteTreeW(root, path.c_str());
   return result == ERROR_FILE_NOT_FOUND || result == ERROR_PATH_NOT_FOUND ? ERROR_SUCCESS : result;

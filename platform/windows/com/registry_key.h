@@ -26,6 +26,8 @@ class RegistryKey {
   /// The text of a value of a key; empty when there is none. The empty name is the key's default value.
   static std::wstring ReadText(HKEY root, const std::wstring& path, const std::wstring& name = {});
   static bool Exists(HKEY root, const std::wstring& path);
+  /// Whether the system refuses this user to write to an existing key.
+  static bool IsRefused(HKEY root, const std::wstring& path);
   /// Deletes the key and everything below; that it is not there counts as success.
   static LSTATUS DeleteTree(HKEY root, const std::wstring& path);
 
