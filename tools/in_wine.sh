@@ -11,6 +11,8 @@ if [ ! -f "$folder/ready" ]; then
     flock 9
     if [ ! -f "$folder/ready" ]; then
       wine wineboot -i >/dev/null 2>&1 9>&-
+      # Debian keeps Wine's own fonts apart; without them captions are drawn with stand-ins.
+      cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null || true
       touch "$folder/ready"
     fi
   ) 9>"$folder/lock"

@@ -7,8 +7,6 @@ export WINE_FOLDER=${WINE_FOLDER:-$root/build/wine_screen}
 if [ ! -f "$WINE_FOLDER/screen" ]; then
   # A managed window waits seconds for a manager that is not there.
   "$root/tools/in_wine.sh" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
-  fonts=/usr/share/wine/fonts
-  [ ! -d "$fonts" ] || cp "$fonts"/*.ttf "$WINE_FOLDER/prefix/drive_c/windows/Fonts/"
   # What was started without a screen must be gone before the first window.
   WINEPREFIX=$WINE_FOLDER/prefix wineserver -k -w 2>/dev/null || true
   touch "$WINE_FOLDER/screen"
