@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <new>
 
 #include "platform/windows/com/com_ptr.h"
@@ -89,7 +90,11 @@ std::string ErrorTextOf(HRESULT result) {
   wchar_t* text = nullptr;
   const DWORD length = FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
                                       nullptr, static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-  if (length == 0) return std::string(vb::ErrorText(number));
+  if (length == 0) {
+    std::array<char, 32> named{};
+    std::snprintf(named.data(), named.size(), "Automation error (%08lX)", static_cast<unsigned long>(result));
+    return named.data();
+  }
   std::wstring_view shown(text, length);
   while (!shown.empty() && shown.back() <= L' ') shown.remove_suffix(1);
   std::string result8 = Utf8(shown);

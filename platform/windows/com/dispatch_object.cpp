@@ -69,7 +69,7 @@ DISPID DispatchObject::Find(std::string_view member) const {
   DISPID id = DISPID_UNKNOWN;
   const HRESULT result = dispatch_->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id);
   if (result == DISP_E_UNKNOWNNAME || result == DISP_E_MEMBERNOTFOUND) return DISPID_UNKNOWN;
-  Check(result);
+  if (FAILED(result)) RaiseFailed(result, *this, member);
   known_.push_back({std::string(member), id});
   return id;
 }

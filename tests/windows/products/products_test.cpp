@@ -221,6 +221,20 @@ TEST_F(Host, FiftyShowsLeaveNothingBehind) {
   EXPECT_TRUE(CanUnloadNow(L"shopsuite.dll"));
 }
 
+TEST_F(Host, WithoutAConnectionTheComponentMakesOne) {
+  // While a database lives, connections are the embedded ones.
+  const late::ObjectPtr database = factory.Create("ShopSuite.Database");
+  const late::ObjectPtr request = LoggedOn(nullptr);
+  const late::ObjectPtr connection = request->Get("adocon").ToObject();
+  EXPECT_EQ(connection->TypeName(), database->Call("Open").ToObject()->TypeName());
+  EXPECT_EQ(connection->Get("State").ToInt32(), 0);
+  EXPECT_EQ(request->Get("adocon").ToObject(), connection) << "one, and kept";
+  const PressingOn pressing;
+  request->Call("Show");
+  EXPECT_GE(PressingOn::messages, 1) << "it is closed, and somebody must be told";
+  EXPECT_EQ(PressingOn::forms, 1);
+}
+
 TEST_F(Host, OneObjectIsShownAgainAndAgain) {
   const late::ObjectPtr database = factory.Create("ShopSuite.Database");
   const late::ObjectPtr connection = database->Call("Open").ToObject();

@@ -201,5 +201,21 @@ TEST(LogOn, TheChoiceIsCheckedTakenAndRemembered) {
   EXPECT_EQ(nextDay.ExitCode(), 0u) << nextDay.Complaint();
 }
 
+TEST(LogOn, ADatabaseThatCannotBeReachedIsReportedAndEndsTheHost) {
+  const std::string wrong = std::string("\"") + HOST_PROGRAM + "\" --connection \"Provider=None such;Data Source=nowhere\"";
+  const std::string expected = "Cannot connect to the shop's database.";
+  {
+    Program host(wrong);
+    const std::string message = Person(host).Answers("OK");
+    EXPECT_TRUE(message.starts_with(expected)) << message;
+    EXPECT_GT(message.size(), expected.size() + 5) << "the provider's reason";
+    EXPECT_EQ(host.ExitCode(), 1u);
+  }
+  // Nobody is there to answer.
+  Program host(wrong + " --unattended");
+  EXPECT_EQ(host.ExitCode(), 1u);
+  EXPECT_TRUE(host.Complaint().starts_with(expected)) << host.Complaint();
+}
+
 }  // namespace
 }  // namespace person

@@ -13,7 +13,7 @@ esac
 seen=$(tr -d '\r' <<<"$seen")
 echo "$seen"
 case $what in
-  # The closed connection is reported, the register opens all the same, and the script goes on after it.
+  # A closed connection is reported, the register opens all the same, and the script goes on after it.
   *.vbs) grep -q '^message: ' <<<"$seen" && grep -q '^form: ' <<<"$seen" && grep -q '^script: returned$' <<<"$seen" ;;
   *) grep -q '^form: ' <<<"$seen" && grep -q '^ended: 0$' <<<"$seen" && ! grep -q '^message: ' <<<"$seen" ;;
 esac

@@ -1,5 +1,6 @@
 #include "platform/windows/products/shophost/shop.h"
 
+#include "base/vb/error.h"
 #include "platform/windows/com/com_error.h"
 #include "platform/windows/wide_text.h"
 
@@ -19,13 +20,21 @@ std::string UsersDatabase() {
   return Utf8(own + L"\\shop.db");
 }
 
+ado::Connection OpenConnection(late::Factory& factory, const std::string& text) {
+  try {
+    const late::ObjectPtr connection = factory.Create("ADODB.Connection");
+    connection->Call("Open", {text});
+    return ado::Connection(connection);
+  } catch (const vb::RunTimeError& error) {
+    vb::Raise(error.Number(), "Cannot connect to the shop's database.\n\n" + error.Description(), error.Source());
+  }
+}
+
 }  // namespace
 
 Shop OpenShop(late::Factory& factory, const Options& options, vb::Date today) {
   if (!options.connection.empty()) {
-    const late::ObjectPtr connection = factory.Create("ADODB.Connection");
-    connection->Call("Open", {options.connection});
-    return {nullptr, ado::Connection(connection), vb::Date{static_cast<double>(static_cast<long>(today.days))}};
+    return {nullptr, OpenConnection(factory, options.connection), vb::Date{static_cast<double>(static_cast<long>(today.days))}};
   }
   const late::ObjectPtr database = factory.Create("ShopSuite.Database");
   const std::string file = options.database.empty() ? UsersDatabase() : options.database;
