@@ -1,0 +1,134 @@
+// The registered component, worked at its windows, and the report server it finds: two strangers in one process.
+#include <gtest/gtest.h>
+
+#include "platform/windows/com/com_factory.h"
+#include "platform/windows/wide_text.h"
+#include "tests/windows/printing/recording_server.h"
+
+namespace {
+
+std::string TextOf(HWND window) {
+  wchar_t text[256] = L"";
+  GetWindowTextW(window, text, 256);
+  return windows::Utf8(text);
+}
+
+bool IsA(HWND window, const wchar_t* kind) {
+  wchar_t name[64] = L"";
+  GetClassNameW(window, name, 64);
+  return std::wstring_view(name) == kind;
+}
+
+struct Wanted {
+  std::string caption;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK TakeVisibleChild(HWND window, LPARAM data) {
+  auto& wanted = *reinterpret_cast<Wanted*>(data);
+  if (IsWindowVisible(window) && IsWindowEnabled(window) && TextOf(window) == wanted.caption) wanted.found = window;
+  return wanted.found == nullptr;
+}
+
+/// Somebody at the windows of this thread: takes one step whenever the form that it is for has come up.
+class Person {
+ public:
+  struct Step {
+    std::string form;    ///< its caption
+    std::string button;  ///< pressed; empty closes the form
+  };
+
+  explicit Person(std::vector<Step> steps) : timer_(SetTimer(nullptr, 0, 20, Look)) {
+    steps_ = std::move(steps);
+    messages.clear();
+  }
+  Person(const Person&) = delete;
+  Person& operator=(const Person&) = delete;
+  ~Person() { KillTimer(nullptr, timer_); }
+
+  bool IsDone() const { return steps_.empty(); }
+
+  static inline std::vector<std::string> messages;
+
+ private:
+  static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) { EnumThreadWindows(GetCurrentThreadId(), Meet, 0); }
+
+  static BOOL CALLBACK Meet(HWND window, LPARAM) {
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+    if (IsA(window, L"#32770")) {
+      messages.push_back(TextOf(window));
+      PostMessageW(window, WM_COMMAND, IDOK, 0);
+      return FALSE;
+    }
+    if (!IsA(window, L"ShopForm")) return TRUE;
+    if (steps_.empty()) {
+      PostMessageW(window, WM_CLOSE, 0, 0);  // what is left open would keep the test for ever
+      return FALSE;
+    }
+    const Step& step = steps_.front();
+    if (TextOf(window) != step.form) return TRUE;
+    Wanted wanted{step.button};
+    if (!step.button.empty()) EnumChildWindows(window, TakeVisibleChild, reinterpret_cast<LPARAM>(&wanted));
+    if (!step.button.empty() && !wanted.found) return TRUE;
+    const HWND button = wanted.found;
+    steps_.erase(steps_.begin());
+    if (button) {
+      SetActiveWindow(window);
+      PostMessageW(button, BM_CLICK, 0, 0);
+    } else {
+      PostMessageW(window, WM_CLOSE, 0, 0);
+    }
+    return FALSE;
+  }
+
+  static inline std::vector<Step> steps_;
+  UINT_PTR timer_;
+};
+
+class PrintByDll : public testing::Test {
+ protected:
+  static void SetUpTestSuite() { ASSERT_EQ(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK); }
+  static void TearDownTestSuite() { CoUninitialize(); }
+
+  /// The register of shop 1 is opened and its first request printed through the report server.
+  void WindowsPrint() {
+    const late::ObjectPtr database = factory.Create("ShopSuite.Database");
+    const late::ObjectPtr request = factory.Create("tq8v4461.clsGoodsRequest");
+    request->PutRef("adocon", database->Call("Open").ToObject());
+    request->Put("strMsgboxCaption", "Goods Request");
+    for (const char* id : {"intCompanyID", "intUserID", "intShopID"}) request->Put(id, std::int32_t{1});
+    request->Put("dtProcessDate", vb::MakeDate(2024, 3, 15));
+    const Person person(
+        {{"Goods Request to HQ", "&Print"}, {"Print", "Windows Print"}, {"Print", "&OK"}, {"Goods Request to HQ", ""}});
+    request->Call("Show");
+    EXPECT_TRUE(person.IsDone());
+  }
+
+  windows::ComFactory factory;
+  Recording recording;
+};
+
+}  // namespace
+
+TEST_F(PrintByDll, TheReportServerIsFoundAndDriven) {
+  const ServerOnDuty server("Crystal.CRPE.Application", recording);
+  WindowsPrint();
+  EXPECT_EQ(Person::messages, std::vector<std::string>());
+  ASSERT_EQ(recording.calls.size(), 13u);
+  EXPECT_EQ(recording.calls[0], "Application.LogOnServer('pdsodbc.dll', 'admindsnv2', 'adminv2', 'admin', 'plumgate0417')");
+  EXPECT_TRUE(recording.calls[1].ends_with("\\reports\\reqtohq.rpt')")) << recording.calls[1];
+  EXPECT_EQ(recording.calls[4], "Field(3).SetCurrentValue(13)");
+  EXPECT_EQ(recording.calls[6], "Field(5).SetCurrentValue('Nora Halvard')");
+  EXPECT_EQ(recording.calls[12], "Report.Preview('Request To HQ', 0, 0, 0, 0, 30343168)");
+  EXPECT_EQ(recording.living, 0);
+}
+
+TEST_F(PrintByDll, AServerThatRefusesIsToldOfOnceAndTheRegisterIsBack) {
+  const ServerOnDuty server("Crystal.CRPE.Application", recording);
+  recording.failing = "Application.LogOnServer";
+  recording.failure = static_cast<HRESULT>(0x800A5024);
+  WindowsPrint();
+  EXPECT_EQ(Person::messages, std::vector<std::string>{"Error"});
+  EXPECT_EQ(recording.calls.size(), 1u);
+  EXPECT_EQ(recording.living, 0);
+}
