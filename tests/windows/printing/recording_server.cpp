@@ -126,7 +126,7 @@ ServerOnDuty::ServerOnDuty(std::string_view progId, Recording& recording) : key_
       CoRegisterClassObject(kServerClass, factory.Get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &registered_);
   windows::RegistryKey key;
   if (FAILED(result) || windows::RegistryKey::Create(kRoot, key_ + L"\\CLSID", key) != ERROR_SUCCESS ||
-      key.WriteText(L"", std::wstring(kServerClassText)) != ERROR_SUCCESS) {
+      key.WriteText(std::wstring(), std::wstring(kServerClassText)) != ERROR_SUCCESS) {
     throw std::runtime_error("the recording server cannot be registered");
   }
 }
