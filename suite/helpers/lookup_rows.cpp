@@ -2,11 +2,21 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 
 namespace suite {
+namespace {
+
+/// A field as text; a text is taken over, not copied.
+std::string TextOf(late::Value&& value) {
+  if (auto* text = std::get_if<std::string>(&value.Alternatives())) return std::move(*text);
+  return value.TextOrEmpty();
+}
+
+}  // namespace
 
 void LookupRows::Read(ado::Recordset& recordset, const std::vector<std::string>& fieldNames) {
   std::vector<int> fields;
@@ -18,14 +28,17 @@ void LookupRows::Read(ado::Recordset& recordset, const std::vector<std::string>&
     fields.push_back(found);
   }
   rows_.clear();
-  ado::ForEachRow(recordset, [&](const late::Array& block, std::size_t record) {
-    std::vector<std::string> row;
-    row.reserve(fields.size());
-    for (const int field : fields) {
-      row.push_back(field < 0 ? std::string() : block.At(static_cast<std::size_t>(field), record).TextOrEmpty());
+  constexpr int kBlockRows = 1024;
+  while (!recordset.Eof()) {
+    const late::ArrayPtr block = recordset.GetRows(kBlockRows);
+    for (std::size_t record = 0; record < block->columns; ++record) {
+      std::vector<std::string>& row = rows_.emplace_back();
+      row.reserve(fields.size());
+      for (const int field : fields) {
+        row.push_back(field < 0 ? std::string() : TextOf(std::move(block->At(static_cast<std::size_t>(field), record))));
+      }
     }
-    rows_.push_back(std::move(row));
-  });
+  }
   foldedField_ = static_cast<std::size_t>(-1);
   Restart();
 }
