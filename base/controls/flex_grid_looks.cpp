@@ -128,8 +128,7 @@ Color FlexGrid::BackColorSel() const {
 
 void FlexGrid::SetBackColorSel(Color color) {
   Touch();
-  backColorSel_ = color;
-  Changed(Aspect::Colors);
+  if (std::exchange(backColorSel_, color) != color) Changed(Aspect::Selection);
 }
 
 Color FlexGrid::ForeColorSel() const {
@@ -139,8 +138,7 @@ Color FlexGrid::ForeColorSel() const {
 
 void FlexGrid::SetForeColorSel(Color color) {
   Touch();
-  foreColorSel_ = color;
-  Changed(Aspect::Colors);
+  if (std::exchange(foreColorSel_, color) != color) Changed(Aspect::Selection);
 }
 
 }  // namespace controls

@@ -199,15 +199,20 @@ void FormWindow::Place() {
   for (const auto& view : views_) {
     controls::Control& control = view->Model();
     const RECT rect = PlaceOf(control);
-    // A combo's height includes its list.
-    const bool isCombo = control.Kind() == ControlKind::ComboBox;
-    const LONG height = isCombo ? metrics_.Pixels(3600) : rect.bottom - rect.top;
-    SetWindowPos(view->Handle(), nullptr, rect.left, rect.top, rect.right - rect.left, height, SWP_NOZORDER | SWP_NOACTIVATE);
-    if (isCombo) FitCombo(view->Handle(), rect.bottom - rect.top);
+    // Where a window stays as it was, nothing is drawn anew.
+    if (RECT& placed = placed_[view.get()]; !EqualRect(&placed, &rect)) {
+      placed = rect;
+      // A combo's height includes its list.
+      const bool isCombo = control.Kind() == ControlKind::ComboBox;
+      const LONG height = isCombo ? metrics_.Pixels(3600) : rect.bottom - rect.top;
+      SetWindowPos(view->Handle(), nullptr, rect.left, rect.top, rect.right - rect.left, height, SWP_NOZORDER | SWP_NOACTIVATE);
+      if (isCombo) FitCombo(view->Handle(), rect.bottom - rect.top);
+    }
     bool enabled = control.Enabled();
     for (controls::Control* c = control.Container(); c != nullptr; c = c->Container()) enabled = enabled && c->Enabled();
     if (IsWindowEnabled(view->Handle()) != (enabled ? TRUE : FALSE)) EnableWindow(view->Handle(), enabled);
-    ShowWindow(view->Handle(), control.IsShown() ? SW_SHOWNA : SW_HIDE);
+    const bool isVisible = (GetWindowLongW(view->Handle(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (isVisible != control.IsShown()) ShowWindow(view->Handle(), isVisible ? SW_HIDE : SW_SHOWNA);
   }
 }
 

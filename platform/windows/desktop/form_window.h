@@ -78,6 +78,7 @@ class FormWindow {
   HWND toolTips_ = nullptr;
   std::vector<std::unique_ptr<ControlView>> views_;
   std::map<HWND, ControlView*> viewByHandle_;
+  std::map<const ControlView*, RECT> placed_;  // in pixels of the window
   std::map<controls::Color, HBRUSH> brushes_;
   std::set<Dirty> dirty_;
   bool flushPosted_ = false;

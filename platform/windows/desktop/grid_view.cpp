@@ -1,6 +1,7 @@
 #include "platform/windows/desktop/grid_view.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/windows/desktop/form_window.h"
 #include "platform/windows/desktop/lines_view.h"
@@ -41,33 +42,65 @@ void GridView::ShowColumns() {
   }
 }
 
+void GridView::ShowColors() {
+  const COLORREF back = ScreenColor(grid_.BackColor());
+  if (std::exchange(shownBack_, back) != back) {
+    SendMessageW(Handle(), LVM_SETBKCOLOR, 0, static_cast<LPARAM>(back));
+    SendMessageW(Handle(), LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(back));
+  }
+  InvalidateRect(Handle(), nullptr, FALSE);
+}
+
 void GridView::ShowRows() {
   updating_ = true;
-  const COLORREF back = ScreenColor(grid_.BackColor());
-  SendMessageW(Handle(), LVM_SETBKCOLOR, 0, static_cast<LPARAM>(back));
-  SendMessageW(Handle(), LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(back));
-  SendMessageW(Handle(), LVM_SETITEMCOUNT, static_cast<WPARAM>(std::max(0L, grid_.Rows() - grid_.FixedRows())), LVSICF_NOSCROLL);
+  // Told anew, the count costs as much as a picture of the whole list.
+  if (const long count = std::max(0L, grid_.Rows() - grid_.FixedRows()); std::exchange(shownCount_, count) != count) {
+    SendMessageW(Handle(), LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LVSICF_NOSCROLL);
+  }
   updating_ = false;
+  ShowColors();
   ShowCurrentRow();
+}
+
+void GridView::ScrollToTop(long item) {
+  const auto top = static_cast<int>(SendMessageW(Handle(), LVM_GETTOPINDEX, 0, 0));
+  RECT row{};
+  row.left = LVIR_BOUNDS;
+  SendMessageW(Handle(), LVM_GETITEMRECT, static_cast<WPARAM>(top), reinterpret_cast<LPARAM>(&row));
+  SendMessageW(Handle(), LVM_SCROLL, 0, (item - top) * (row.bottom - row.top));
 }
 
 void GridView::ShowCurrentRow() {
   updating_ = true;
   LVITEMW state{};
-  state.stateMask = state.state = LVIS_FOCUSED | LVIS_SELECTED;
+  state.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
   const long item = grid_.Row() - grid_.FixedRows();
+  // Left to it, a virtual list may look for the row to unselect among all of them.
+  if (item != shownItem_ && shownItem_ >= 0 && shownItem_ < shownCount_) {
+    SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(shownItem_), reinterpret_cast<LPARAM>(&state));
+  }
+  shownItem_ = item;
   if (item >= 0) {
+    state.state = state.stateMask;
     SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&state));
     // A row brought to the top by code stays at the top; otherwise it is enough that the current row is in view.
     if (grid_.TopRow() != shownTop_ && grid_.TopRow() >= grid_.FixedRows()) {
       shownTop_ = grid_.TopRow();
-      SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(std::max(0L, grid_.Rows() - grid_.FixedRows() - 1)), FALSE);
-      SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(shownTop_ - grid_.FixedRows()), FALSE);
+      ScrollToTop(shownTop_ - grid_.FixedRows());
     }
     SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
   }
-  InvalidateRect(Handle(), nullptr, FALSE);
+  // Only the rows that were or are selected look different; what scrolled in is drawn anyway.
+  RedrawSelected();
+  selectedFrom_ = std::min(grid_.Row(), grid_.RowSel()) - grid_.FixedRows();
+  selectedTo_ = std::max(grid_.Row(), grid_.RowSel()) - grid_.FixedRows();
+  RedrawSelected();
   updating_ = false;
+}
+
+void GridView::RedrawSelected() {
+  const long first = std::max(0L, selectedFrom_);
+  if (selectedTo_ >= first) SendMessageW(Handle(), LVM_REDRAWITEMS, static_cast<WPARAM>(first), selectedTo_);
 }
 
 void GridView::Update(Aspect aspect) {
@@ -83,7 +116,7 @@ void GridView::Update(Aspect aspect) {
       ShowCurrentRow();
       break;
     case Aspect::Colors:
-      ShowRows();
+      ShowColors();
       break;
     default:
       break;
@@ -168,6 +201,7 @@ std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
           !updating_ && change.iItem >= 0 && (change.uNewState & LVIS_SELECTED) != 0 && RowOf(change.iItem) < grid_.Rows() &&
           GetKeyState(VK_SHIFT) >= 0 && RowOf(change.iItem) != grid_.Row()) {
         updating_ = true;
+        shownItem_ = change.iItem;
         grid_.SetRow(RowOf(change.iItem));
         updating_ = false;
         InvalidateRect(Handle(), nullptr, FALSE);

@@ -18,8 +18,11 @@ class GridView : public ControlView {
 
  private:
   void ShowColumns();
+  void ShowColors();
   void ShowRows();
   void ShowCurrentRow();
+  void ScrollToTop(long item);
+  void RedrawSelected();
   LRESULT Paint(NMLVCUSTOMDRAW& draw) const;
   void PaintCell(NMLVCUSTOMDRAW& draw) const;
   void Clicked(const NMITEMACTIVATE& click);
@@ -28,7 +31,13 @@ class GridView : public ControlView {
 
   controls::FlexGrid& grid_;
   bool updating_ = false;
+  // What the window shows, so that it is told of changes only. Items count from 0, without the heading.
   long shownTop_ = -1;
+  long shownCount_ = -1;
+  long shownItem_ = -1;
+  COLORREF shownBack_ = CLR_INVALID;
+  long selectedFrom_ = 0;
+  long selectedTo_ = -1;
 };
 
 }  // namespace windows
