@@ -10,8 +10,10 @@ fail() { echo "$1: $2" >&2; failed=1; }
 
 for dll in "$@"; do
   name=$(basename "$dll")
-  case $(file -b "$dll") in *x86-64*) tools=x86_64-w64-mingw32 ;; *) tools=i686-w64-mingw32 ;; esac
+  tools=x86_64-w64-mingw32
   headers=$($tools-objdump -p "$dll")
+  # The magic of the optional header: 020b is the wide one.
+  grep -q '^Magic.*020b' <<<"$headers" || tools=i686-w64-mingw32
   exports=$(sed -n '/Ordinal\/Name Pointer/,/^$/p' <<<"$headers" | awk '/\[ *[0-9]+\]/ {print $NF}' | sort | tr '\n' ' ')
   [ "$exports" = "DllCanUnloadNow DllGetClassObject DllRegisterServer DllUnregisterServer " ] || fail "$name" "exports are: $exports"
   foreign=$(sed -n 's/.*DLL Name: //p' <<<"$headers" | grep -vixE "($system)(\.dll)?" | tr '\n' ' ' || true)
