@@ -75,8 +75,9 @@ void GridView::ShowCurrentRow() {
   LVITEMW state{};
   state.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
   const long item = grid_.Row() - grid_.FixedRows();
+  const bool isMoved = item != shownItem_;
   // Left to it, a virtual list may look for the row to unselect among all of them.
-  if (item != shownItem_ && shownItem_ >= 0 && shownItem_ < shownCount_) {
+  if (isMoved && shownItem_ >= 0 && shownItem_ < shownCount_) {
     SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(shownItem_), reinterpret_cast<LPARAM>(&state));
   }
   shownItem_ = item;
@@ -90,12 +91,20 @@ void GridView::ShowCurrentRow() {
     }
     SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), FALSE);
   }
-  // Only the rows that were or are selected look different; what scrolled in is drawn anyway.
-  RedrawSelected();
-  selectedFrom_ = std::min(grid_.Row(), grid_.RowSel()) - grid_.FixedRows();
-  selectedTo_ = std::max(grid_.Row(), grid_.RowSel()) - grid_.FixedRows();
-  RedrawSelected();
+  ShowSelection(isMoved);
   updating_ = false;
+}
+
+void GridView::ShowSelection(bool isMoved) {
+  const bool wasOneRow = selectedFrom_ == selectedTo_;
+  const long from = std::min(grid_.Row(), grid_.RowSel()) - grid_.FixedRows();
+  const long to = std::max(grid_.Row(), grid_.RowSel()) - grid_.FixedRows();
+  // One row that moved is drawn with its window's state; of others only the rows that were or are selected look different.
+  const bool isDrawn = isMoved && wasOneRow && from == to;
+  if (!isDrawn) RedrawSelected();
+  selectedFrom_ = from;
+  selectedTo_ = to;
+  if (!isDrawn) RedrawSelected();
 }
 
 void GridView::RedrawSelected() {

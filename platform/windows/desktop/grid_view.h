@@ -22,6 +22,7 @@ class GridView : public ControlView {
   void ShowRows();
   void ShowCurrentRow();
   void ScrollToTop(long item);
+  void ShowSelection(bool isMoved);
   void RedrawSelected();
   LRESULT Paint(NMLVCUSTOMDRAW& draw) const;
   void PaintCell(NMLVCUSTOMDRAW& draw) const;
