@@ -147,6 +147,109 @@ TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
   EXPECT_EQ(nextDay.ExitCode(), 0u) << nextDay.Complaint();
 }
 
+TEST(ShopDay, ARequestIsFilledWithoutTypingACode) {
+  const ShopFolder folder;
+  Program host(Host(folder, kLoggedOn));
+  Person nora(host);
+  FormOnScreen requests = nora.Meets("Goods Request to HQ");
+
+  // What is out of stock would make a request of its own; not today.
+  requests.Click("New");
+  EXPECT_EQ(nora.Answers("Yes"), "Do you want to add stock out items?");
+  FormOnScreen editor = nora.Meets("Goods Request");
+  editor.HasRows(27);
+  editor.Press("Esc");
+  editor.Goes();
+
+  // Two customers are waiting; the first has come and gone.
+  requests.Click("New");
+  EXPECT_EQ(nora.Answers("No"), "Do you want to add stock out items?");
+  editor = nora.Meets("Goods Request");
+  editor.Click("Customer Request");
+  editor.TurnTo("Customer Requests");
+  editor.HasRow(0, {"1", "CR24/101", ""});
+  editor.TickRow(0);
+  editor.TickRow(1);
+  editor.TickRow(0);
+  editor.TurnTo("Items");
+  editor.HasRows(2);
+  editor.HasRow(0, {"1", "KT1002", "Frying pan 24 cm", "2.000", "", "PCS", ""});
+  editor.HasRow(1, {"2", "TX1009", "Bed linen set single white", "10.000", "white only", "SET", ""});
+
+  // One item from the list of all, found by a part of its name.
+  editor.RightClickList();
+  nora.Picks('A');
+  FormOnScreen entry = nora.Meets("Goods Request Details");
+  entry.Press("F3");
+  FormOnScreen lookup = nora.Meets("Item Fetch");
+  lookup.HasFocusBehind("Search:");
+  lookup.Write("Search:", "Chef");
+  lookup.HasRows(1);
+  lookup.Press("Enter");
+  lookup.Goes();
+  entry.Shows("Item:", "Chef's knife 20 cm");
+  entry.HasFocusBehind("Quantity:");
+  entry.Write("Quantity:", "2");
+  entry.Click("Ok");
+  entry.HasFocusBehind("Barcode:");
+
+  // Another from the fetch dialog.
+  entry.Press("Shift+F3");
+  FormOnScreen fetch = nora.Meets("Fetch Item");
+  fetch.Type("knife");
+  fetch.Press("Enter");
+  fetch.HasRows(5);
+  fetch.DoubleClickRow(1);
+  fetch.Goes();
+  entry.Shows("Item:", "Paring knife 8 cm");
+  entry.Write("Quantity:", "4");
+  entry.Click("Ok");
+  entry.Press("Esc");
+  entry.Goes();
+  editor.HasRows(4);
+  editor.HasRow(3, {"4", "KT1013", "Paring knife 8 cm", "4.000", "", "PCS", ""});
+  editor.Click("OK");
+  editor.Goes();
+
+  // The request keeps its customer.
+  requests.HasRows(17);
+  requests.ClickRow(16);
+  requests.Click("Edit");
+  editor = nora.Meets("Goods Request");
+  editor.HasRows(4);
+  editor.TurnTo("Customer Requests");
+  editor.HasRow(0, {"1", "CR24/102", ""});
+  editor.HasTicked(0, true);
+  editor.HasTicked(1, false);
+  editor.Press("Esc");
+  editor.Goes();
+  requests.Click("Close");
+  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+}
+
+TEST(ShopDay, TheListsGrowWithTheirWindows) {
+  const ShopFolder folder;
+  Program host(Host(folder, kLoggedOn));
+  Person nora(host);
+  const auto grows = [](FormOnScreen& form) {
+    const SIZE before = form.ListSize();
+    form.Pull(70, 50);
+    form.HasListOf({before.cx + 70, before.cy + 50});
+    form.Pull(-70, -50);
+    form.HasListOf(before);
+  };
+  FormOnScreen requests = nora.Meets("Goods Request to HQ");
+  grows(requests);
+  requests.Click("New");
+  nora.Answers("No");
+  FormOnScreen editor = nora.Meets("Goods Request");
+  grows(editor);
+  editor.Press("Esc");
+  editor.Goes();
+  requests.Click("Close");
+  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+}
+
 /// What the host remembers for its user, kept out of the test's way and put back.
 class Forgotten {
  public:

@@ -25,6 +25,13 @@ struct Letter {
   std::array<wchar_t, kLongestText> text;
 };
 
+/// The same with a tab control.
+struct TabLetter {
+  TCITEMW item;
+  RECT place;
+  std::array<wchar_t, kLongestText> text;
+};
+
 }  // namespace
 
 LRESULT Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -85,18 +92,61 @@ std::string Describe(DWORD process) {
   return text.empty() ? "\n  no window" : text;
 }
 
-ListOnScreen::ListOnScreen(HWND list) : list_(list), header_(reinterpret_cast<HWND>(Ask(list, LVM_GETHEADER))) {
+Elsewhere::Elsewhere(HWND window, std::size_t bytes) {
   DWORD id = 0;
-  GetWindowThreadProcessId(list, &id);
+  GetWindowThreadProcessId(window, &id);
   process_ = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, id);
-  memory_ = VirtualAllocEx(process_, nullptr, sizeof(Letter), MEM_COMMIT, PAGE_READWRITE);
-  if (memory_ == nullptr) throw std::runtime_error("the list's process gives no memory");
+  memory_ = VirtualAllocEx(process_, nullptr, bytes, MEM_COMMIT, PAGE_READWRITE);
+  if (memory_ == nullptr) throw std::runtime_error("the window's process gives no memory");
 }
 
-ListOnScreen::~ListOnScreen() {
+Elsewhere::~Elsewhere() {
   VirtualFreeEx(process_, memory_, 0, MEM_RELEASE);
   CloseHandle(process_);
 }
+
+void Elsewhere::Write(const void* data, std::size_t bytes) const {
+  WriteProcessMemory(process_, memory_, data, bytes, nullptr);
+}
+
+void Elsewhere::Read(const void* place, void* data, std::size_t bytes) const {
+  ReadProcessMemory(process_, place, data, bytes, nullptr);
+}
+
+TabsOnScreen::TabsOnScreen(HWND tabs) : tabs_(tabs), there_(tabs, sizeof(TabLetter)) {}
+
+std::string TabsOnScreen::CaptionAt(LRESULT tab) const {
+  auto* there = static_cast<TabLetter*>(there_.Memory());
+  TabLetter letter{};
+  letter.item.mask = TCIF_TEXT;
+  letter.item.pszText = there->text.data();
+  letter.item.cchTextMax = static_cast<int>(kLongestText);
+  there_.Write(&letter, sizeof(letter));
+  Ask(tabs_, TCM_GETITEMW, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&there->item));
+  there_.Read(there, &letter, sizeof(letter));
+  letter.text.back() = L'\0';
+  return windows::Utf8(letter.text.data());
+}
+
+std::string TabsOnScreen::InFront() const {
+  return CaptionAt(Ask(tabs_, TCM_GETCURSEL));
+}
+
+std::optional<POINT> TabsOnScreen::PlaceOf(const std::string& caption) const {
+  const LRESULT count = Ask(tabs_, TCM_GETITEMCOUNT);
+  for (LRESULT tab = 0; tab < count; ++tab) {
+    if (CaptionAt(tab) != caption) continue;
+    auto* there = static_cast<TabLetter*>(there_.Memory());
+    Ask(tabs_, TCM_GETITEMRECT, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&there->place));
+    RECT place{};
+    there_.Read(&there->place, &place, sizeof(place));
+    return POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  }
+  return std::nullopt;
+}
+
+ListOnScreen::ListOnScreen(HWND list)
+    : list_(list), header_(reinterpret_cast<HWND>(Ask(list, LVM_GETHEADER))), there_(list, sizeof(Letter)) {}
 
 int ListOnScreen::Rows() const {
   return static_cast<int>(Ask(list_, LVM_GETITEMCOUNT));
@@ -112,31 +162,31 @@ bool ListOnScreen::IsSeen(int column) const {
 
 Texts ListOnScreen::Headings() const {
   Texts headings;
-  auto* there = static_cast<Letter*>(memory_);
+  auto* there = static_cast<Letter*>(there_.Memory());
   for (int column = 0; column < Columns(); ++column) {
     if (!IsSeen(column)) continue;
     HDITEMW item{};
     item.mask = HDI_TEXT;
     item.pszText = there->text.data();
     item.cchTextMax = static_cast<int>(kLongestText);
-    WriteProcessMemory(process_, memory_, &item, sizeof(item), nullptr);
-    Ask(header_, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(memory_));
+    there_.Write(&item, sizeof(item));
+    Ask(header_, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(there));
     std::array<wchar_t, kLongestText> text{};
-    ReadProcessMemory(process_, there->text.data(), text.data(), sizeof(text), nullptr);
+    there_.Read(there->text.data(), text.data(), sizeof(text));
     headings.push_back(windows::Utf8(text.data()));
   }
   return headings;
 }
 
 std::string ListOnScreen::TextAt(int row, int column) const {
-  auto* there = static_cast<Letter*>(memory_);
+  auto* there = static_cast<Letter*>(there_.Memory());
   Letter letter{};
   letter.item.iSubItem = column;
   letter.item.pszText = there->text.data();
   letter.item.cchTextMax = static_cast<int>(kLongestText);
-  WriteProcessMemory(process_, memory_, &letter, sizeof(letter), nullptr);
+  there_.Write(&letter, sizeof(letter));
   Ask(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&there->item));
-  ReadProcessMemory(process_, memory_, &letter, sizeof(letter), nullptr);
+  there_.Read(there, &letter, sizeof(letter));
   letter.text.back() = L'\0';
   return windows::Utf8(letter.text.data());
 }
@@ -153,14 +203,19 @@ int ListOnScreen::SelectedRow() const {
   return static_cast<int>(Ask(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
+bool ListOnScreen::IsTicked(int row) const {
+  // State images count from 1: without a tick, with one.
+  return (Ask(list_, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK) >> 12) == 2;
+}
+
 POINT ListOnScreen::PlaceOf(int row) const {
   Ask(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-  auto* there = static_cast<Letter*>(memory_);
+  auto* there = static_cast<Letter*>(there_.Memory());
   Letter letter{};
   letter.place.left = LVIR_LABEL;
-  WriteProcessMemory(process_, memory_, &letter, sizeof(letter), nullptr);
+  there_.Write(&letter, sizeof(letter));
   Ask(list_, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&there->place));
-  ReadProcessMemory(process_, memory_, &letter, sizeof(letter), nullptr);
+  there_.Read(there, &letter, sizeof(letter));
   return {letter.place.left + 6, (letter.place.top + letter.place.bottom) / 2};
 }
 

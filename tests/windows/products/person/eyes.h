@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,13 +29,43 @@ HWND FocusOf(HWND window);
 /// The program's windows with what is written on them, for a complaint.
 std::string Describe(DWORD process);
 
+/// Memory in the process of a window, for messages that carry texts and places.
+class Elsewhere {
+ public:
+  Elsewhere(HWND window, std::size_t bytes);
+  Elsewhere(const Elsewhere&) = delete;
+  Elsewhere& operator=(const Elsewhere&) = delete;
+  ~Elsewhere();
+
+  void* Memory() const { return memory_; }
+  void Write(const void* data, std::size_t bytes) const;
+  /// From a place in it.
+  void Read(const void* place, void* data, std::size_t bytes) const;
+
+ private:
+  HANDLE process_;
+  void* memory_;
+};
+
+/// The tabs of a tab control of another process, by their captions.
+class TabsOnScreen {
+ public:
+  explicit TabsOnScreen(HWND tabs);
+  std::string InFront() const;
+  /// A point on the tab, in the control's own coordinates; nothing when there is no such tab.
+  std::optional<POINT> PlaceOf(const std::string& caption) const;
+
+ private:
+  std::string CaptionAt(LRESULT tab) const;
+
+  HWND tabs_;
+  Elsewhere there_;
+};
+
 /// A list of another process, whatever stands behind it: the system asks the list's owner for each text.
 class ListOnScreen {
  public:
   explicit ListOnScreen(HWND list);
-  ListOnScreen(const ListOnScreen&) = delete;
-  ListOnScreen& operator=(const ListOnScreen&) = delete;
-  ~ListOnScreen();
 
   int Rows() const;
   Texts Headings() const;
@@ -42,6 +73,7 @@ class ListOnScreen {
   Texts Row(int row) const;
   /// The selected row, -1 for none.
   int SelectedRow() const;
+  bool IsTicked(int row) const;
   /// Brings a row into view and gives a point on its first visible cell, in the list's own coordinates.
   POINT PlaceOf(int row) const;
 
@@ -52,8 +84,7 @@ class ListOnScreen {
 
   HWND list_;
   HWND header_;
-  HANDLE process_ = nullptr;
-  void* memory_ = nullptr;  // in the list's process
+  Elsewhere there_;
 };
 
 }  // namespace person

@@ -47,7 +47,7 @@ void TypeCharacter(wchar_t character) {
 void PressNamed(std::string name) {
   static const std::map<std::string, WORD> named = {{"Enter", VK_RETURN}, {"Esc", VK_ESCAPE},    {"Tab", VK_TAB},
                                                     {"F3", VK_F3},        {"Delete", VK_DELETE}, {"Down", VK_DOWN},
-                                                    {"Up", VK_UP},        {"Home", VK_HOME}};
+                                                    {"Up", VK_UP},        {"Home", VK_HOME},     {"Space", VK_SPACE}};
   static const std::map<std::string, WORD> holding = {{"Ctrl+", VK_CONTROL}, {"Alt+", VK_MENU}, {"Shift+", VK_SHIFT}};
   std::vector<WORD> held;
   for (const auto& [prefix, key] : holding) {
@@ -173,9 +173,35 @@ void FormOnScreen::RightClickList() {
   Mouse(List(), MiddleOf(List()), 1, WM_RBUTTONDOWN, WM_RBUTTONUP);
 }
 
+void FormOnScreen::TickRow(int row) {
+  ClickRow(row);
+  const bool before = ListOnScreen(List()).IsTicked(row);
+  PressNamed("Space");
+  HasTicked(row, !before);
+}
+
+void FormOnScreen::TurnTo(const std::string& page) {
+  ComeToFront();
+  for (HWND child : ChildrenOf(form_)) {
+    if (KindOf(child) != "SysTabControl32") continue;
+    const TabsOnScreen tabs(child);
+    std::optional<POINT> place;
+    Wait([&] { return (place = tabs.PlaceOf(page)).has_value(); }, "the tab " + Quoted(page));
+    Mouse(child, *place, 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+    Wait([&] { return tabs.InFront() == page; }, "the page " + Quoted(page));
+    return;
+  }
+  throw std::runtime_error("no pages on " + Quoted(TextOf(form_)));
+}
+
 void FormOnScreen::Press(const std::string& key) {
   ComeToFront();
   PressNamed(key);
+}
+
+void FormOnScreen::Type(const std::string& text) {
+  ComeToFront();
+  for (wchar_t character : windows::Wide(text)) TypeCharacter(character);
 }
 
 void FormOnScreen::Write(const std::string& label, const std::string& text) {
@@ -184,7 +210,7 @@ void FormOnScreen::Write(const std::string& label, const std::string& text) {
   HasFocusBehind(label);
   ComeToFront();
   PressNamed("Ctrl+A");
-  for (wchar_t character : windows::Wide(text)) TypeCharacter(character);
+  Type(text);
   Shows(label, text);
 }
 
@@ -210,6 +236,14 @@ void FormOnScreen::CloseByTitleBar() {
   PostMessageW(form_, WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
+void FormOnScreen::Pull(int right, int down) {
+  ComeToFront();
+  RECT place{};
+  GetWindowRect(form_, &place);
+  SetWindowPos(form_, nullptr, 0, 0, place.right - place.left + right, place.bottom - place.top + down,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void FormOnScreen::Shows(const std::string& label, const std::string& text) {
   const HWND field = Behind(label);
   std::string seen;
@@ -233,21 +267,43 @@ void FormOnScreen::HasFocusOn(const std::string& caption) {
 }
 
 void FormOnScreen::HasRows(int count) {
-  const ListOnScreen list(List());
-  WaitUntil([&] { return list.Rows() == count; },
-            [&] { return std::to_string(list.Rows()) + " rows and not " + std::to_string(count) + Describe(process_); });
+  int seen = 0;
+  WaitUntil([&] { return (seen = ListOnScreen(List()).Rows()) == count; },
+            [&] { return std::to_string(seen) + " rows and not " + std::to_string(count) + Describe(process_); });
 }
 
 void FormOnScreen::HasRow(int row, const Texts& cells) {
-  const ListOnScreen list(List());
   Texts seen;
-  WaitUntil([&] { return (seen = list.Row(row)) == cells; },
+  WaitUntil([&] { return (seen = ListOnScreen(List()).Row(row)) == cells; },
             [&] { return "row " + std::to_string(row) + " is\n  " + Joined(seen) + "\nand not\n  " + Joined(cells); });
 }
 
 void FormOnScreen::HasSelected(int row) {
-  const ListOnScreen list(List());
-  Wait([&] { return list.SelectedRow() == row; }, "row " + std::to_string(row) + " selected");
+  Wait([&] { return ListOnScreen(List()).SelectedRow() == row; }, "row " + std::to_string(row) + " selected");
+}
+
+void FormOnScreen::HasTicked(int row, bool ticked) {
+  Wait([&] { return ListOnScreen(List()).IsTicked(row) == ticked; },
+       "row " + std::to_string(row) + (ticked ? " ticked" : " not ticked"));
+}
+
+SIZE FormOnScreen::ListSize() const {
+  RECT place{};
+  GetWindowRect(List(), &place);
+  return {place.right - place.left, place.bottom - place.top};
+}
+
+void FormOnScreen::HasListOf(SIZE size) {
+  SIZE seen{};
+  WaitUntil(
+      [&] {
+        seen = ListSize();
+        return seen.cx == size.cx && seen.cy == size.cy;
+      },
+      [&] {
+        return "the list has " + std::to_string(seen.cx) + " by " + std::to_string(seen.cy) + " pixels and not " +
+               std::to_string(size.cx) + " by " + std::to_string(size.cy);
+      });
 }
 
 void FormOnScreen::IsUsable(const std::string& caption, bool usable) {

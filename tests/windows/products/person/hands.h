@@ -19,14 +19,22 @@ class FormOnScreen {
   void DoubleClickRow(int row);
   void ClickRow(int row);
   void RightClickList();
-  /// A key on whatever has the focus: "Enter", "Esc", "Tab", "Delete", "Down", "F3" or one letter or digit, with "Ctrl+",
-  /// "Alt+" or "Shift+" before it.
+  /// Checks or unchecks a row's box by the keyboard.
+  void TickRow(int row);
+  /// Brings a tab's page to the front by its caption.
+  void TurnTo(const std::string& page);
+  /// A key on whatever has the focus: "Enter", "Esc", "Tab", "Space", "Delete", "Down", "F3" or one letter or digit, with
+  /// "Ctrl+", "Alt+" or "Shift+" before it.
   void Press(const std::string& key);
+  /// Characters for whatever has the focus.
+  void Type(const std::string& text);
   /// Replaces what is in the field behind a label and waits until it stands there.
   void Write(const std::string& label, const std::string& text);
   /// Chooses an entry of the drop-down list behind a label by its text.
   void Choose(const std::string& label, const std::string& entry);
   void CloseByTitleBar();
+  /// Pulls the window's lower right corner, by pixels.
+  void Pull(int right, int down);
 
   /// What there is to read; each waits until it is so.
   void Shows(const std::string& label, const std::string& text);
@@ -35,9 +43,13 @@ class FormOnScreen {
   void HasRows(int count);
   void HasRow(int row, const Texts& cells);
   void HasSelected(int row);
+  void HasTicked(int row, bool ticked);
+  /// The list's size in pixels.
+  void HasListOf(SIZE size);
   void IsUsable(const std::string& caption, bool usable);
 
   Texts Headings() const { return ListOnScreen(List()).Headings(); }
+  SIZE ListSize() const;
   /// What is read now behind a label.
   std::string Read(const std::string& label) const { return TextOf(Behind(label)); }
   /// Waits until the window is gone.
@@ -50,7 +62,7 @@ class FormOnScreen {
   void ClickAt(HWND window);
   HWND Captioned(const std::string& caption) const;
   HWND Behind(const std::string& label) const;
-  /// The form's list: the widest that is shown.
+  /// The form's list: the widest that is shown. Looked for anew each time, for pages change.
   HWND List() const;
 
   DWORD process_;
