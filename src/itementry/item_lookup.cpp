@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "base/vb/error.h"
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/fetch/item_type_filter.h"
@@ -34,16 +33,11 @@ std::string BarcodeQuery(std::string_view code, const LookupRules& rules) {
 }
 
 /// The code as a shortcut number, 0 for none. No shortcut has more than ten digits: a longer number, a scanned one say, is none.
-/// Nor is a code that only begins with a number: "12-B" must find its item, not that of shortcut 12.
+/// Nor is a code that only begins with a number: "12-B" and "12-" must find their items, not that of shortcut 12.
 std::string ShortcutNumber(std::string_view code) {
   constexpr double kBeyondShortcuts = 1e15;
   if (!vb::IsNumeric(code)) return "0";
-  double number = 0;
-  try {
-    number = vb::Val(code);
-  } catch (const vb::RunTimeError&) {
-    // "1E999" is a code like any other, too long for a number.
-  }
+  const double number = vb::CDbl(code);
   return std::abs(number) < kBeyondShortcuts ? vb::NumberText(number) : "0";
 }
 

@@ -57,12 +57,33 @@ TEST_F(ItemLookup, TheStatementsStandAsTheSuiteKnowsThem) {
 }
 
 TEST_F(ItemLookup, ACodeThatOnlyBeginsWithANumberIsNoShortcut) {
-  shop.Run("update aItem set ItemCode = '12-B' where ItemId = 1");
   Add([&] {
     Scan("12");
     EXPECT_EQ(ChosenItem(), shop.Row("select ItemDescription from smpItemDescription where ItemID = 66"));
-    Scan("12-B");
+    for (const std::string code : {"12-B", "12-"}) {
+      shop.Run("update aItem set ItemCode = '" + code + "' where ItemId = 1");
+      Scan(code);
+      EXPECT_EQ(ChosenItem(), "Frying pan 20 cm") << code;
+    }
+  });
+}
+
+TEST_F(ItemLookup, AScanThatTheServerFailsIsRepeatedWithEnter) {
+  Add([&] {
+    Scan("KT1002");
+    support::Enter(form->txtQuantity, "9");
+    support::Enter(form->txtreqcomments, "blue");
+    // The shop's item type, the barcodes, the shortcuts, whether codes may repeat, the item codes.
+    for (int statement = 1; statement <= 5; ++statement) {
+      shop.log.FailAt(statement);
+      ExpectError("Connection broken by the test", "txtitemcode_KeyPress", -2147217900);
+      Scan("KT1001");
+      EXPECT_EQ(form->txtitemcode.Text() + ChosenItem() + form->txtQuantity.Text(), "KT1001Frying pan 24 cm9") << statement;
+      EXPECT_TRUE(form->txtitemcode.HasFocus());
+    }
+    support::Press(form->txtitemcode, "Enter");
     EXPECT_EQ(ChosenItem(), "Frying pan 20 cm");
+    EXPECT_EQ(form->txtreqcomments.Text(), "blue");
   });
 }
 
