@@ -1,5 +1,6 @@
 #include "src/itementry/stock_availability.h"
 
+#include <cmath>
 #include <string>
 
 namespace goods {
@@ -32,6 +33,12 @@ double FirstFigure(basGoodsRequest& session, const std::string& query) {
   return figure;
 }
 
+/// Sums of thousandths leave binary rests: what is as good as nothing must not be shown as -5.55E-17.
+double WithoutBinaryRest(double quantity) {
+  constexpr double kFinestPart = 1e8;  // of the unit; more decimals are shown nowhere
+  return std::round(quantity * kFinestPart) / kFinestPart;
+}
+
 }  // namespace
 
 double GetAvailableQuantity(basGoodsRequest& session, CommonDb& db, std::string_view itemId) {
@@ -44,7 +51,7 @@ double GetAvailableQuantity(basGoodsRequest& session, CommonDb& db, std::string_
   const double despatched = FirstFigure(session, UnconfirmedDespatchesQuery(itemId));
   const double issuedFinished = FirstFigure(session, IssuedGoodsQuery(itemId, departmentId, true));
   const double issuedOpen = FirstFigure(session, IssuedGoodsQuery(itemId, departmentId, false));
-  return inGodowns - (issuedOpen + issuedFinished + despatched);
+  return WithoutBinaryRest(inGodowns - (issuedOpen + issuedFinished + despatched));
 }
 
 }  // namespace goods

@@ -73,6 +73,23 @@ TEST_F(Availability, MorePromisedThanThereIsShowsAsNegative) {
   });
 }
 
+TEST_F(Availability, WeighedGoodsThatAreAllPromisedShowNothing) {
+  shop.Run(
+      "delete from smpGodownStock where gsitemid = 31\ngo\n"
+      "insert into smpGodownStock (godownid, gsitemid, gsstock) values (10, 31, 0.3)\ngo\n"
+      "update meiDespatchToShopDetail set ddItemGoodQty = 0.1 where ddItemID = 31\ngo\n"
+      "insert into ahqIssueNotedetail (INDIssuenoteID, INDItemID, INDQty) values (1, 31, 0.1), (2, 31, 0.1)");
+  Add([&] {
+    Scan("KT1031");
+    EXPECT_EQ(form->txtavailqty.Text(), "0");
+    shop.Run("update smpGodownStock set gsstock = 0.305 where gsitemid = 31");
+    Scan("KT1031");
+    EXPECT_EQ(form->txtavailqty.Text(), "0.005");
+    form->txtavailqty.MouseMove.Fire();
+    EXPECT_EQ(form->txtavailqty.ToolTipText(), "0.005");
+  });
+}
+
 TEST_F(Availability, AnErrorLeavesTheFigureAndTheChosenItem) {
   Add([&] {
     Scan("KT1012");
