@@ -18,6 +18,9 @@ void frmRequestDetail::Form_Load() {
   itemCode_.clear();
   CreateHelpers();
   if (lines_.lvwrequest.Count() < 2) EnableNavigation(false, false);
+  // In front of what is read: after a database error, too, no shop is offered a list that is not for it.
+  if (!Session().gBlnRequestForNonShopItem) optItemsNotInShop.SetVisible(false);
+  ArrangeOptionButtons();
 
   const std::string shopId = std::to_string(Session().gIntShopID);
   objCommonDB_.strTableName("ashops");
@@ -28,8 +31,6 @@ void frmRequestDetail::Form_Load() {
 
   objCommonDB_.strTableName("apackagesettings");
   txtitemcode.SetEnabled(!objCommonDB_.fnReturnField("allowitemcodeduplication").TrueOrFalse());
-  if (!Session().gBlnRequestForNonShopItem) optItemsNotInShop.SetVisible(false);
-  ArrangeOptionButtons();
 }
 
 void frmRequestDetail::CreateHelpers() {
@@ -57,7 +58,8 @@ void frmRequestDetail::ArrangeOptionButtons() {
 }
 
 void frmRequestDetail::Form_Activate() {
-  ReadAliases();
+  // Without the aliases the options keep their own captions; the form is there for the line.
+  Trap("Form_Activate", [&] { ReadAliases(); });
   if (firstActivation_) {
     if (IsAdding()) cboItem.Clear();
     RememberLoadedValues();

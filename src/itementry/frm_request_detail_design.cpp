@@ -75,6 +75,9 @@ void frmRequestDetail::DesignEntryFields() {
   txtavailqty.SetRightAligned(true);
   txtavailqty.SetLocked(true);
   txtavailqty.SetTabStop(false);
+  // Until the shop's settings show them.
+  lblavail.SetVisible(false);
+  txtavailqty.SetVisible(false);
   Place(lblcomments, "Co&mments:", 120, 2340, 1200, 240);
   txtreqcomments.Move(1380, 2310, 8900, 315);
   txtreqcomments.SetMaxLength(kCommentsLength);

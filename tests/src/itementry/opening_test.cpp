@@ -78,6 +78,48 @@ TEST_F(Opening, AliasesNameTheShopAndTheGodown) {
   Add([&] { EXPECT_EQ(form->optall.Caption(), "All I&tems in Shop"); });
 }
 
+TEST_F(Opening, EachOptionSaysWhatItLists) {
+  const std::vector<std::pair<controls::OptionButton*, std::string>> tips{
+      {&form->optStockoutitems, "whose stock is less than or equal to reorder level."},
+      {&form->optAvaingodnotinshop, "stock out items whose stocks are available in godowns."},
+      {&form->optall, "that are in the item list of the shop."},
+      {&form->optItemsNotInShop, "that are not in the item list of the shop."}};
+  Add([&] {
+    for (const auto& [option, tip] : tips) {
+      EXPECT_TRUE(option->ToolTipText().starts_with("This option lists all those ")) << option->Name();
+      EXPECT_TRUE(option->ToolTipText().ends_with(tip)) << option->ToolTipText();
+    }
+  });
+}
+
+TEST_F(Opening, SettingsThatCannotBeReadGiveNoShopMoreThanItHas) {
+  LogOnTo(2);
+  for (int statement = 1; statement <= 2; ++statement) {
+    shop.log.FailAt(statement);
+    ExpectError("Connection broken by the test", "Form_Load", -2147217900);
+    Add([&] {
+      EXPECT_FALSE(form->optItemsNotInShop.Visible());
+      EXPECT_FALSE(form->txtavailqty.Visible() || form->lblavail.Visible());
+      EXPECT_TRUE(form->optall.Value());
+      EXPECT_TRUE(form->txtitemcode.HasFocus());
+    });
+  }
+}
+
+TEST_F(Opening, WithoutTheAliasesTheLineIsThereAllTheSame) {
+  GivenLine(1, "2.000", "blue");
+  shop.Run("update aPackageSettings set alias = 1");
+  for (int statement = 3; statement <= 5; ++statement) {  // behind the two of the load
+    shop.log.FailAt(statement);
+    ExpectError("Connection broken by the test", "Form_Activate", -2147217900);
+    Edit(1, [&] {
+      EXPECT_EQ(form->optall.Caption(), "All I&tems in Shop");
+      EXPECT_EQ(ChosenItem() + form->txtQuantity.Text() + form->txtreqcomments.Text(), "Frying pan 20 cm2.000blue");
+      EXPECT_FALSE(form->cmdFetch.Enabled());
+    });
+  }
+}
+
 TEST_F(Opening, WhereCodesMayRepeatTheBarcodeBoxIsClosed) {
   shop.Run("update aPackageSettings set allowitemcodeduplication = 1");
   Add([&] {
