@@ -15,7 +15,7 @@ frmLookup::frmLookup(controls::Desktop& desktop) : Form(desktop, "frmLookup") {
   On(cboSearch.Click, "cboSearch_Click", &frmLookup::FilterRows);
   On(cboColNames.Click, "cboColNames_Click", &frmLookup::cboColNames_Click);
   On(flexMaster.Click, "flexMaster_Click", &frmLookup::flexMaster_Click);
-  On(flexMaster.DblClick, "flexMaster_DblClick", &frmLookup::Take);
+  On(flexMaster.DblClick, "flexMaster_DblClick", &frmLookup::flexMaster_DblClick);
   On(flexMaster.KeyPress, "flexMaster_KeyPress", &frmLookup::flexMaster_KeyPress);
   On(cmdOk.Click, "cmdOk_Click", &frmLookup::Take);
   On(cmdClose.Click, "cmdClose_Click", [this] { Unload(); });
@@ -101,6 +101,11 @@ void frmLookup::flexMaster_Click() {
   if (flexMaster.MouseRow() < flexMaster.FixedRows() && flexMaster.MouseCol() >= 0) {
     SortBy(static_cast<std::size_t>(flexMaster.MouseCol()));
   }
+}
+
+void frmLookup::flexMaster_DblClick() {
+  // On a heading it is two clicks that sort.
+  if (flexMaster.MouseRow() >= flexMaster.FixedRows()) Take();
 }
 
 void frmLookup::flexMaster_KeyPress(int& character) {

@@ -50,6 +50,7 @@ class frmLookup : public controls::Form {
   void txtsearch_KeyDown(int& keyCode, int shift);
   void txtsearch_KeyPress(int& character);
   void flexMaster_Click();
+  void flexMaster_DblClick();
   void flexMaster_KeyPress(int& character);
   void cboColNames_Click();
   void FilterRows();

@@ -81,6 +81,8 @@ TEST_F(Lookup, AHeadingSortsOnceUpOnceDownAndTheRightRowIsTaken) {
     for (long row = 2; row < window.flexMaster.Rows(); ++row) {
       EXPECT_GE(window.flexMaster.TextMatrix(row - 1, 2), window.flexMaster.TextMatrix(row, 2));
     }
+    support::DoubleClick(window.flexMaster);
+    EXPECT_TRUE(window.IsShown()) << "a heading clicked twice takes no item";
     support::GoToRow(window.flexMaster, 1);
     support::DoubleClick(window.flexMaster);
   });
@@ -97,6 +99,47 @@ TEST_F(Lookup, EscapeCancelsAndAnEmptyListTakesNothing) {
               EXPECT_TRUE(window.IsShown());
             }),
             0);
+}
+
+TEST_F(Lookup, SearchesAndSortsByTheColumnsThatAreShown) {
+  shop.Run("update aItem set ItemCode = '9' where ItemId = 6\ngo\nupdate aItem set ItemCode = '10' where ItemId = 5");
+  EXPECT_EQ(Show([&](suite::frmLookup& window) {
+              EXPECT_EQ(window.flexMaster.TextMatrix(0, 1), "Item Code");
+              EXPECT_EQ(window.flexMaster.ColWidth(1), 2000);
+              EXPECT_EQ(window.flexMaster.ColWidth(2), 4000);
+              EXPECT_EQ(window.cboSearch.ListCount(), 2) << "the hidden column is none to search in";
+              EXPECT_EQ(window.cboColNames.ListCount(), 2);
+              EXPECT_EQ(window.cboSearch.Text(), "Item Description");
+              support::Choose(window.cboColNames, "Item Code");
+              EXPECT_TRUE(Descriptions(window).starts_with("Saucepan with lid 2 l;Saucepan with lid 1.5 l;Frying pan 20 cm;"))
+                  << "9, 10, KT1001: " << Descriptions(window);
+              support::Enter(window.txtsearch, "1001");
+              EXPECT_EQ(window.lblcount.Caption(), "0 of 6") << "no description has it";
+              support::Choose(window.cboSearch, "Item Code");
+              EXPECT_EQ(window.lblcount.Caption(), "1 of 6");
+              support::Enter(window.txtsearch, "");
+              EXPECT_EQ(window.lblcount.Caption(), "6 of 6");
+              support::Press(window.txtsearch, "Down");
+              support::Press(window.txtsearch, "Enter");
+            }),
+            5)
+      << "the row under the bar in the order shown";
+}
+
+TEST_F(Lookup, WhatWasTakenBeforeIsNotTakenAgainByCancellingOrByAnError) {
+  EXPECT_EQ(Show([](suite::frmLookup& window) { support::Click(window.cmdOk); }), 1);
+  EXPECT_EQ(Show([](suite::frmLookup& window) { support::Click(window.cmdClose); }), 0);
+  EXPECT_EQ(Show([](suite::frmLookup& window) { support::Click(window.cmdOk); }), 1);
+  fetch->Put("ForcedRefresh", true);
+  shop.log.FailAt(1);
+  EXPECT_THROW(fetch->Call("Show"), vb::RunTimeError);
+  EXPECT_TRUE(fetch->Call("getCancelledStatus").ToBool());
+  fetch->Put("ForcedRefresh", false);
+  EXPECT_EQ(Show([](suite::frmLookup& window) {
+              EXPECT_EQ(window.flexMaster.Rows(), 7);
+              support::Click(window.cmdOk);
+            }),
+            1);
 }
 
 TEST_F(Lookup, KeepsItsRowsOnlyAsLongAsItIsToldTo) {
