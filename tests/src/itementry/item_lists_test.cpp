@@ -84,6 +84,27 @@ TEST_F(ItemLists, EachOptionHasItsList) {
   });
 }
 
+TEST_F(ItemLists, AShopOfTypeBIsOfferedItsItemsFromItsOwnStockFigures) {
+  shop.Run("update aPackageSettings set TransactionsSummary = 1");
+  LogOnTo(3);
+  const auto asked = [&](controls::OptionButton& option) {
+    support::Click(option);
+    diary->told.clear();
+    support::Click(form->cmdFetch);
+    EXPECT_TRUE(WasTold("PreserveData=False")) << "the shop wants every list anew";
+    return *std::find_if(diary->told.begin(), diary->told.end(),
+                         [](const std::string& line) { return line.starts_with("strQuery="); });
+  };
+  Add([&] {
+    const std::string stockOut = asked(form->optStockoutitems);
+    EXPECT_NE(stockOut.find(" from vwInquiryShopStockSummary ms, "), std::string::npos) << stockOut;
+    EXPECT_NE(stockOut.find(" a.itemID = v.itemID  and a.itemtype = 'B' and sd.itemid=a.itemid "), std::string::npos) << stockOut;
+    const std::string all = asked(form->optall);
+    EXPECT_NE(all.find(" where a.itemid = v.itemid  and a.itemtype = 'B' and s.itemid = v.itemid "), std::string::npos) << all;
+    EXPECT_EQ(asked(form->optAvaingodnotinshop), "strQuery= spgodownitemnotinshop 3, '',1");
+  });
+}
+
 TEST_F(ItemLists, OnlyAnotherModeForcesARefreshAndTheModeOutlivesTheForm) {
   const auto refreshes = [&] {
     std::string flags;
@@ -189,6 +210,62 @@ TEST_F(SuiteLookup, ItemsAreChosenInTheSuitesOwnLookup) {
     EXPECT_EQ(ChosenItem(), "");
     EXPECT_EQ(form->txtQuantity.Text(), "");
     EXPECT_TRUE(form->txtitemcode.HasFocus());
+  });
+}
+
+/// Opens the lookup, lets the user look, and leaves it with Esc.
+class SuiteLookupRows : public ItemEntryShop {
+ protected:
+  std::string Listed() {
+    std::string codes;
+    shop.desktop.ExpectForm("frmLookup", [&](controls::Form& opened) {
+      auto& lookup = dynamic_cast<suite::frmLookup&>(opened);
+      for (long row = 1; row < lookup.flexMaster.Rows(); ++row) codes += lookup.flexMaster.TextMatrix(row, 1) + " ";
+      support::Press(lookup.txtsearch, "Esc");
+    });
+    support::Click(form->cmdFetch);
+    return codes;
+  }
+};
+
+TEST_F(SuiteLookupRows, AnItemIsOutOfStockByTheSumOfItsStockRows) {
+  shop.Run(
+      "delete from aShopItemDetail where ShopID = 1 and ItemID > 5\ngo\n"
+      "update aShopItemDetail set ItemReorderLevel = 7 where ShopID = 1\ngo\n"
+      "delete from smpShopStock where shopid = 1 and itemid <= 5\ngo\n"
+      // At the level, above it, below nothing, out of use; the fourth has no stock rows at all, the fifth is not in the list.
+      "insert into smpShopStock (shopid, itemid, stock) values (1, 1, 3), (1, 1, 4), (1, 2, 4), (1, 2, 3.001), (1, 3, -2), (1, "
+      "5, 0)"
+      "\ngo\nupdate aItem set active = 1, forsales = 1 where ItemId <= 5");
+  Add([&] {
+    support::Click(form->optStockoutitems);
+    EXPECT_EQ(Listed(), "KT1001 KT1003 ");
+    shop.Run("update aItem set active = 0 where ItemId = 1");
+    support::Click(form->optall);
+    support::Click(form->optStockoutitems);
+    EXPECT_EQ(Listed(), "KT1001 KT1003 ") << "the list on offer is kept as long as no other was looked at";
+    support::Click(form->optall);
+    EXPECT_EQ(Listed(), "KT1002 KT1003 KT1004 ");
+    support::Click(form->optStockoutitems);
+    EXPECT_EQ(Listed(), "KT1003 ");
+  });
+}
+
+TEST_F(SuiteLookupRows, AListThatTheServerFailsIsReadAtTheNextAttempt) {
+  Add([&] {
+    support::Click(form->optItemsNotInShop);
+    const std::string list = Listed();
+    support::Click(form->optAvaingodnotinshop);
+    Scan("KT1012");
+    support::Enter(form->txtQuantity, "7");
+    shop.log.FailAt(2);  // behind the preferred field
+    ExpectError("Connection broken by the test", "FillItemList", -2147217900);
+    support::Press(form->txtQuantity, "F3");
+    EXPECT_EQ(ChosenItem() + form->txtQuantity.Text(), "Chef's knife 20 cm7");
+    const std::string other = Listed();
+    EXPECT_NE(other, "");
+    EXPECT_NE(other, list);
+    EXPECT_EQ(ChosenItem() + form->txtQuantity.Text(), "Chef's knife 20 cm7");
   });
 }
 
