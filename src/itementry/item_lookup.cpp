@@ -33,10 +33,11 @@ std::string BarcodeQuery(std::string_view code, const LookupRules& rules) {
 }
 
 /// The code as a shortcut number, 0 for none. No shortcut has more than ten digits: a longer number, a scanned one say, is none.
-/// Nor is a code that only begins with a number: "12-B" and "12-" must find their items, not that of shortcut 12.
+/// Nor is a code that only begins with a number or is one by a comma: "12-B", "12-" and "1,2" must find their items, not that of
+/// shortcut 12.
 std::string ShortcutNumber(std::string_view code) {
   constexpr double kBeyondShortcuts = 1e15;
-  if (!vb::IsNumeric(code)) return "0";
+  if (!vb::IsNumeric(code) || vb::InStr(code, ",") > 0) return "0";
   const double number = vb::CDbl(code);
   return std::abs(number) < kBeyondShortcuts ? vb::NumberText(number) : "0";
 }
