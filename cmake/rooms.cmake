@@ -11,14 +11,6 @@ if(SANITIZE)
   target_link_options(house_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# The standard headers that nearly every file includes, read once a target instead of once a file. Sources do not lean on it: they
-# include what they use, and a build without it must pass.
-option(PRECOMPILE "Precompile the standard headers" OFF)
-if(PRECOMPILE)
-  target_precompile_headers(house_flags INTERFACE <algorithm> <functional> <map> <memory> <optional> <span> <string> <string_view>
-                            <variant> <vector>)
-endif()
-
 function(add_room name)
   cmake_parse_arguments(ROOM "" "" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${ROOM_UNPARSED_ARGUMENTS}/*.cpp)
@@ -29,4 +21,5 @@ function(add_room name)
   endif()
   add_library(${name} STATIC ${sources})
   target_link_libraries(${name} PUBLIC house_flags ${ROOM_LINKS})
+  use_headers(${name} house)
 endfunction()
