@@ -1,3 +1,6 @@
+#include <utility>
+
+#include "src/fetch/fetch_queries.h"
 #include "tests/src/fetch/fetch_shop.h"
 
 namespace fetch_test {
@@ -32,6 +35,31 @@ TEST_F(Fetch, TheFilterFindsTextAnywhereInTheChosenColumn) {
   });
 }
 
+TEST_F(Fetch, EachFieldIsLookedForInItsOwnColumn) {
+  Open(ItemListMode::AllInShop, [&] {
+    const auto found = [&](std::string_view field, std::string_view text) {
+      support::Choose(dialog->cboFetch, field);
+      Filter(text);
+      return Column(FrmFetch::kItemCode);
+    };
+    EXPECT_EQ(found("ItemCode", "t1003"), "KT1003;");
+    EXPECT_EQ(found("ItemDescription", "limescale"), "SP1001;");
+    EXPECT_EQ(found("ModelNo", "ST-80"), "KT1009;");
+    EXPECT_EQ(found("Part_Code", "748"), "SP1016;");
+    EXPECT_EQ(found("Brand", "limescale"), ";");
+  });
+}
+
+TEST_F(Fetch, TheFilterContinuesTheListsConditionsAndLeavesItsOrderLast) {
+  const auto filtered = [](std::string_view list, bool isCondition = false) {
+    return goods::FilteredQuery(list, "a.brand", "o''k", isCondition);
+  };
+  EXPECT_EQ(filtered("select * from aitem a Where active=1 ORDER BY a.itemcode"),
+            "select * from aitem a Where active=1  and a.brand like '%o''k%' ORDER BY a.itemcode");
+  EXPECT_EQ(filtered("select * from aitem a order by 1"), "select * from aitem a  where a.brand like '%o''k%' order by 1");
+  EXPECT_EQ(filtered("", true), " and a.brand like '%o''k%' ");
+}
+
 TEST_F(Fetch, EnterInTheEmptyFilterListsEverything) {
   Open(ItemListMode::AllInShop, [&] {
     Filter("");
@@ -58,7 +86,15 @@ TEST_F(Fetch, StockOutItemsAreThoseBelowTheirLevelWithoutAPendingRequest) {
     EXPECT_NE(codes.find("KT1008;"), std::string::npos) << "stock -2, level 10";
     EXPECT_EQ(codes.find("KT1003;"), std::string::npos) << "stock at its level";
     EXPECT_EQ(codes.find("KT1006;"), std::string::npos) << "already requested";
+
+    // Stock is summed over the item's rows, wherever the shop has it summed already.
+    shop.Run("insert into smpShopStock (shopid, itemid, stock) values (1, 8, 12)");
+    Filter("");
+    EXPECT_EQ(Column(FrmFetch::kItemCode).find("KT1008;"), std::string::npos);
   });
+  shop.session.gStrStockView = "vwInquiryShopStockSummary";
+  Open(ItemListMode::StockOut, [&] { Filter("pot"); });
+  EXPECT_NE(shop.log.lines.back().find(" from vwInquiryShopStockSummary ms, "), std::string::npos) << shop.log.lines.back();
 }
 
 TEST_F(Fetch, ItemsOfGodownsComeFromTheProcedureAsAFilterAlone) {
@@ -74,6 +110,9 @@ TEST_F(Fetch, ItemsThatTheShopDoesNotKeep) {
   Open(ItemListMode::NotInShop, [&] {
     Filter("saucepan");
     EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1005;");
+    shop.Run("update aItem set forsales = 0 where ItemId = 5");
+    Filter("saucepan");
+    EXPECT_EQ(Column(FrmFetch::kItemCode), ";");
   });
 }
 
@@ -145,6 +184,9 @@ TEST_F(Fetch, SortingFollowsTheListAndTheDirection) {
     EXPECT_EQ(dialog->cboColNames.ListIndex(), -1);
     support::Choose(dialog->cboColNames, "ItemDescription");
     EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1024;KT1021;KT1026;");
+    EXPECT_EQ(dialog->flexMaster.Row(), 3);
+    support::Click(dialog->optAscend);
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1024;KT1021;KT1026;") << "the direction alone sorts nothing";
 
     // This entry sorts on the brand alone.
     support::Click(dialog->optAscend);
@@ -156,6 +198,35 @@ TEST_F(Fetch, SortingFollowsTheListAndTheDirection) {
     }
     EXPECT_TRUE(shop.desktop.sawHourglass);
     EXPECT_EQ(shop.desktop.hourglasses, 0);
+
+    Filter("filter");  // spare parts of several machines
+    support::Choose(dialog->cboColNames, "ItemCode");
+    dialog->flexMaster.SetTextMatrix(1, FrmFetch::kPartCode, "ZZ");
+    dialog->flexMaster.SetRow(1);
+    dialog->flexMaster.SetTopRow(1);
+    support::Press(dialog->txtFetch, "Up");  // several rows are selected now: all are sorted all the same
+    support::Choose(dialog->cboColNames, "Part_code");
+    const std::string partCodes = Column(FrmFetch::kPartCode);
+    EXPECT_TRUE(partCodes.ends_with("ZZ;")) << partCodes;
+    EXPECT_EQ(dialog->flexMaster.Row(), RowsShown());
+    EXPECT_EQ(dialog->flexMaster.TopRow(), RowsShown());
+  });
+}
+
+/// Rows of code, description and brand that no two columns order alike.
+TEST_F(Fetch, SortCodesNameRangesOfColumns) {
+  Open(ItemListMode::AllInShop, [&] {
+    controls::FlexGrid& grid = dialog->flexMaster;
+    grid.SetRows(1);
+    for (const auto* row : {"1\tA\tpot\tZeta", "2\tA\tcup\tZeta", "3\tB\tcup\tAlfa", "4\tA\tcup\tAlfa"}) grid.AddItem(row);
+    const auto sorted = [&](std::int32_t code) {
+      dialog->cboColNames.AddItem(std::to_string(code), code);
+      support::Choose(dialog->cboColNames, std::to_string(code));
+      return Column(FrmFetch::kItemId);
+    };
+    EXPECT_EQ(sorted(4), "2;4;1;3;") << "code, then description";
+    EXPECT_EQ(sorted(5), "4;3;2;1;") << "description, then brand";
+    EXPECT_EQ(sorted(6), "4;2;1;3;") << "code, description, brand";
   });
 }
 
@@ -169,6 +240,18 @@ TEST_F(Fetch, TypingJumpsToTheFirstRowThatBeginsSo) {
     EXPECT_EQ(dialog->flexMaster.TextMatrix(dialog->flexMaster.Row(), FrmFetch::kItemDescription), "Frying pan 24 cm");
     EXPECT_EQ(dialog->flexMaster.TopRow(), dialog->flexMaster.Row());
     EXPECT_EQ(dialog->flexMaster.ColSel(), FrmFetch::kPartCode);
+
+    const auto current = [&](FrmFetch::Column column) { return dialog->flexMaster.TextMatrix(dialog->flexMaster.Row(), column); };
+    support::Choose(dialog->cboSearch, "ModelNo");
+    support::Enter(dialog->txtsearch, "fp-3");
+    EXPECT_EQ(current(FrmFetch::kModelNo), "FP-32");
+    support::Choose(dialog->cboSearch, "Part_Code");
+    support::Enter(dialog->txtsearch, "FP-751");
+    EXPECT_EQ(current(FrmFetch::kItemCode), "SP1017") << "the frying pan's handle";
+    support::Choose(dialog->cboSearch, "ItemCode");
+    support::Enter(dialog->txtsearch, " ");
+    EXPECT_EQ(current(FrmFetch::kItemCode), "SP1017") << "a blank asks for nothing";
+    EXPECT_EQ(dialog->flexMaster.Row(), RowsShown());
   });
 }
 
@@ -200,6 +283,25 @@ TEST_F(Fetch, AChosenItemIsHandedOverInEveryMode) {
   EXPECT_EQ(entry.lines, (std::vector<std::string>{"code KT1005"})) << "no packings of an item that was refused";
 }
 
+TEST_F(Fetch, TheCurrentRowIsHandedOver) {
+  Open(ItemListMode::AllInShop, [&] {
+    Filter("frying pan");
+    support::GoToRow(dialog->flexMaster, 2);
+    support::Click(dialog->CmdOk);
+  });
+  EXPECT_EQ(entry.lines.at(0), "code KT1002");
+
+  // A stock-out item comes as it stands, also when its code finds nothing, with the part code that it has by now.
+  entry.lines.clear();
+  entry.refuses = true;
+  Open(ItemListMode::StockOut, [&] {
+    Filter("stock pot 5 l");
+    shop.Run("update aItem set part_code = 'NEW' where ItemId = 8");
+    support::Press(dialog->flexMaster, "Enter");
+  });
+  EXPECT_EQ(entry.lines, (std::vector<std::string>{"code KT1008", "item 8 Stock pot 5 l [NEW]", "packings 8"}));
+}
+
 TEST_F(Fetch, ARowWithoutAnItemOnlyClosesTheDialog) {
   Open(ItemListMode::AllInShop, [&] {
     dialog->flexMaster.SetTextMatrix(1, FrmFetch::kItemId, "0");
@@ -220,8 +322,16 @@ TEST_F(Fetch, KeysLeadThroughTheDialog) {
     EXPECT_EQ(dialog->flexMaster.RowSel(), RowsShown());
     support::Press(dialog->txtsearch, "Ctrl+D");
     EXPECT_TRUE(dialog->flexMaster.HasFocus());
-    support::Press(dialog->cboFetch, "Enter");
-    EXPECT_TRUE(dialog->txtFetch.HasFocus());
+    for (const auto& [here, next] :
+         std::initializer_list<std::pair<controls::Control*, controls::Control*>>{{&dialog->cboFetch, &dialog->txtFetch},
+                                                                                  {&dialog->cboSearch, &dialog->txtsearch},
+                                                                                  {&dialog->txtsearch, &dialog->cboColNames},
+                                                                                  {&dialog->cboColNames, &dialog->optAscend},
+                                                                                  {&dialog->optAscend, &dialog->optDescend},
+                                                                                  {&dialog->optDescend, &dialog->CmdOk}}) {
+      support::Press(*here, "Enter");
+      EXPECT_TRUE(next->HasFocus()) << here->Name();
+    }
     support::Press(dialog->txtFetch, "Esc");
     EXPECT_FALSE(dialog->IsLoaded());
   });
@@ -236,8 +346,15 @@ TEST_F(Fetch, EachOpeningStartsAnew) {
   Open(ItemListMode::NotInShop, [&] {
     EXPECT_EQ(dialog->cboFetch.Text(), "ItemDescription");
     EXPECT_EQ(RowsShown(), 1);
+    EXPECT_EQ(Column(FrmFetch::kItemCode), ";");
     Filter("");
     EXPECT_EQ(Column(FrmFetch::kItemCode).find("KT1001;"), std::string::npos);
+  });
+  shop.Run("update LOsSettings set defaultfetch = 'ItemID' where ShopID = 1");
+  Open(ItemListMode::AllInShop, [&] {
+    EXPECT_EQ(dialog->cboFetch.Text(), "ItemDescription") << "a field that is not offered";
+    Filter("limescale");
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "SP1001;");
   });
 }
 
