@@ -52,6 +52,34 @@ TEST_F(CustomerDocuments, OnOfferAreFinishedOnesThatNoLiveRequestHolds) {
   });
 }
 
+TEST_F(CustomerDocuments, AreAskedForInTheSuitesOwnWords) {
+  New([&] { CheckDocuments({"I-102", "X-102"}); });
+  EXPECT_TRUE(log.Sent(
+      "select a.ihInvoiceNo,null ReExportNo,a.ihInvoiceID from losinvoiceheader a left outer join losinvoiceheader b on "
+      "a.ihShopID "
+      "= b.ihShopID And a.ihInvoiceID = b.ihProformaID  and a.ihCompanyId=b.ihCompanyId and a.ihCancelled=0 left outer join   "
+      "(select gd.reqinvdshopid, gd.reqinvdinvoiceid from mosRequestInvDetail gd,  mosgoodsrequestheader gh where "
+      "gh.GRHrequestID=gd.reqdid and  gh.GRHshopID=gd.reqinvdshopid and gh.GRHcancel=0 ) req on a.ihShopID=req.reqinvdshopid  "
+      "and "
+      "a.ihInvoiceID=req.reqinvdinvoiceid left outer join vwInvoicedPosRequests InvReq  on a.ihShopID=invReq.ihShopID and "
+      "a.ihInvoiceID=invReq.RequestID where  a.ihType='R' and invreq.invoiceid is null and req.reqinvdinvoiceid is null and "
+      "b.ihinvoiceid is null and a.ihTransFinished=1 And a.ihShopID = 1 And a.ihCompanyId = 1 union all  select "
+      "null,a.rehExportNo, a.rehExportID from losExportHeader a left outer join (select gd.reqinvdshopid, gd.reqReexportID from "
+      "mosRequestInvDetail gd,  mosgoodsrequestheader gh where gh.GRHrequestID=gd.reqdid and  gh.GRHshopID=gd.reqinvdshopid and "
+      "gh.GRHcancel=0 and gd.reqReexportID is not null ) req  on a.rehShopID=req.reqinvdshopid  and "
+      "a.rehExportID=req.reqReexportID where a.rehCancelled=0 and a.rehCompanyID=1 and a.rehtype='R' and  req.reqReexportID is "
+      "null "
+      "and a.rehShopID=1"));
+  EXPECT_TRUE(
+      log.Sent("select v.ItemID,v.itemdescription,v.code,d.idQuantity, d.idDescription, u.UnitCode  from vwitemdescription "
+               "v,losinvoicedetail  d, aItem i, aUnit u  where d.idInvoiceID = 102 and v.ItemID = d.idItemID  and idItemId = "
+               "i.ItemId and i.UnitsId = u.UnitId and idShopID = 1"));
+  EXPECT_TRUE(log.Sent(
+      "select v.ItemID,v.itemdescription,v.code,d.redQuantity idQuantity, d.redDescription idDescription, u.UnitCode  from "
+      "vwitemdescription v,losExportDetail d, aItem i, aUnit u  where d.redExportID = 102 and v.ItemID = d.redItemID  and "
+      "redItemID = i.ItemId and i.UnitsId = u.UnitId and redShopID = 1"));
+}
+
 TEST_F(CustomerDocuments, CheckingAddsTheirQuantitiesAndUncheckingTakesThemOutAgain) {
   New([&] {
     AddLine(2, "1.500");
@@ -81,6 +109,32 @@ TEST_F(CustomerDocuments, AQuantityChangedByHandInBetweenMayGoBelowNothing) {
   });
 }
 
+TEST_F(CustomerDocuments, MayNameAnItemTwiceOrWithoutAQuantity) {
+  shop.Run(
+      "insert into losinvoicedetail (idInvoiceID, idShopID, idItemID, idQuantity) values (102, 1, 1, 0.5), (102, 1, 6, null), "
+      "(102, 2, 2, 9)");
+  New([&] {
+    CheckDocuments({"I-102"});
+    EXPECT_EQ((Texts{"1|CUP|2.500|1", "2|JAR|0.000|6"}), Lines());
+    CheckDocument("I-102", false);
+    EXPECT_EQ(Texts{}, Lines());
+  });
+}
+
+TEST_F(CustomerDocuments, FindTheFirstLineOfAnItemThatHasSeveral) {
+  shop.Run(
+      "insert into mosGoodsRequestDetail (GRDDetailid, GRDshopID, GRDrequestID, GRDitemID, GRDgoodQty) values (3, 1, 7, 2, 1)");
+  shop.Run("insert into losinvoicedetail (idInvoiceID, idShopID, idItemID, idQuantity) values (103, 1, 2, 2.5), (103, 1, 2, 1)");
+  Link(7, 1, "103", "null");
+  Edit(7, [&] {
+    CheckDocument("X-101");
+    EXPECT_EQ((Texts{"1|POT|7.500|2", "2|CUP|4.000|1", "3|POT|1.000|2"}), Lines());
+    CheckDocument("X-101", false);
+    CheckDocument("I-103", false);
+    EXPECT_EQ((Texts{"1|CUP|4.000|1"}), Lines()) << "both of its lines";
+  });
+}
+
 TEST_F(CustomerDocuments, ALineTakenOutOfTheMiddleLeavesTheOthersNumberedAndTheSelectionWhereItWas) {
   New([&] {
     CheckDocuments({"I-103", "I-102", "X-101"});
@@ -104,6 +158,18 @@ TEST_F(CustomerDocuments, ClearingTheBoxOnANewRequestUnchecksAll) {
     EXPECT_EQ(5u, Documents().size());
     desktop.ExpectMessage("Save Changes?", Answer::No);
   });
+}
+
+TEST_F(CustomerDocuments, ClearingTheBoxOnAnExistingRequestLeavesItsLines) {
+  Edit(7, [&] {
+    CheckDocuments({"X-101"});
+    Click(editor->chkcutomerrequest);
+    EXPECT_EQ((Texts{"1|POT|7.500|2", "2|CUP|4.000|1"}), Lines());
+    EXPECT_EQ(Texts{}, Documents());
+    EXPECT_FALSE(editor->sstabGoodsReq.TabVisible(1));
+    Click(editor->cmdOK);
+  });
+  EXPECT_EQ(Texts{}, Links());
 }
 
 TEST_F(CustomerDocuments, ADatabaseErrorLeavesBoxMarkAndLinesAsTheyWere) {
@@ -146,6 +212,16 @@ TEST_F(CustomerDocuments, AProjectRequestStandsAlone) {
       log.Sent("SELECT * FROM losInvoiceProjectRequestDetails WHERE idrInvoiceId = 103 AND idrShopId = 1 AND idrCompanyId = 1"));
 }
 
+TEST_F(CustomerDocuments, OnlyAnInvoiceOfThisShopCanBeAProjectRequest) {
+  shop.Run("insert into losInvoiceProjectRequestDetails (idrInvoiceId, idrShopId, idrCompanyId) values (102, 1, 1), (101, 2, 1)");
+  New([&] {
+    CheckDocuments({"I-101", "X-101", "X-102"});  // a re-export has the project's number, I-102 is not checked
+    Click(editor->cmdOK);
+    EXPECT_FALSE(editor->IsLoaded());
+  });
+  EXPECT_EQ("3", shop.Row("select count(*) from mosRequestInvDetail where reqdid=8"));
+}
+
 TEST_F(CustomerDocuments, AnEditedRequestNeverLosesALink) {
   Link(7, 1, "102", "null");
   Link(7, 2, "null", "101");
@@ -169,10 +245,39 @@ TEST_F(CustomerDocuments, AnEditedRequestNeverLosesALink) {
   EXPECT_EQ((Texts{"2|NULL|101", "3|999|NULL", "4|NULL|102"}), Links());
 }
 
+TEST_F(CustomerDocuments, ALinkedDocumentThatCannotBeNamedIsCalledByItsId) {
+  shop.Run("update losinvoiceheader set ihCompanyId = 2 where ihInvoiceID = 102");
+  shop.Run("update losExportHeader set rehCompanyID = 2 where rehExportID = 102");
+  shop.Run("update losExportHeader set rehExportNo = null where rehExportID = 101");
+  Link(7, 1, "102", "null");
+  Link(7, 2, "null", "101");
+  Link(7, 3, "null", "102");
+  Edit(7, [&] {
+    EXPECT_EQ((Texts{"[x] 102", "[x] 101", "[x] 102", "[ ] I-101", "[ ] I-103"}), Documents());
+    Click(editor->cmdOK);
+  });
+  EXPECT_EQ((Texts{"1|102|NULL", "2|NULL|101", "3|NULL|102"}), Links()) << "a re-export without a number stays one";
+}
+
+TEST_F(CustomerDocuments, LinksOfAnotherShopOrCompanyAreNotThisRequestsBusiness) {
+  const std::string insert =
+      "insert into mosRequestInvDetail (reqcompanyid, reqdid, reqddetailid, reqinvdshopid, reqinvdinvoiceid, reqReexportID) "
+      "values ";
+  shop.Run(insert + "(2, 7, 1, 1, 102, null), (2, 7, 2, 1, null, 101), (1, 7, 3, 2, 103, null), (1, 7, 4, 2, null, 102)");
+  const Texts before = Links();
+  Edit(7, [&] {
+    EXPECT_EQ(Texts{}, Documents());
+    EXPECT_FALSE(editor->chkcutomerrequest.IsChecked());
+    Click(editor->cmdOK);
+  });
+  EXPECT_EQ(before, Links());
+}
+
 TEST_F(CustomerDocuments, ACancelledRequestShowsItsDocumentsOnce) {
   Link(7, 1, "102", "null");
+  Link(7, 2, "null", "101");
   shop.Run("update mosGoodsRequestHeader set GRHcancel = 1 where GRHrequestID = 7");
-  Edit(7, [&] { EXPECT_EQ((Texts{"[x] I-102", "[ ] I-101", "[ ] I-103", "[ ] X-101", "[ ] X-102"}), Documents()); });
+  Edit(7, [&] { EXPECT_EQ((Texts{"[x] I-102", "[x] X-101", "[ ] I-101", "[ ] I-103", "[ ] X-102"}), Documents()); });
 }
 
 TEST_F(CustomerDocuments, ARequestWithoutLinksStartsWithTheBoxUnticked) {

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <utility>
+
 #include "tests/src/editor/editor_shop.h"
 
 namespace editor_test {
@@ -59,6 +62,49 @@ TEST_F(EditorWindow, AProposalThatFailsIsReportedAndTheEditorIsThereAllTheSame) 
   EXPECT_TRUE(editor->cmdOK.Enabled());
 }
 
+/// Takes note of each error that is reported, and shows nothing.
+class SilentErrorLog : public late::TableObject<SilentErrorLog> {
+ public:
+  explicit SilentErrorLog(std::function<void()> note) : note_(std::move(note)) {}
+  static const late::MemberTable<SilentErrorLog>& Members() {
+    static const late::MemberTable<SilentErrorLog> table{{"ErrorTrack",
+                                                          [](SilentErrorLog& self, late::Arguments&) {
+                                                            self.note_();
+                                                            return late::Value(true);
+                                                          },
+                                                          nullptr, 8, 8}};
+    return table;
+  }
+  std::string TypeName() const override { return "ErrorDetails"; }
+
+ private:
+  std::function<void()> note_;
+};
+
+TEST_F(EditorWindow, AProposedLineWhoseUnitCannotBeReadIsALineAllTheSame) {
+  New([] {}, Answer::Yes);
+  const auto isUnit = [](const std::string& line) { return line.starts_with("select u.UnitCode"); };
+  const auto firstUnit = std::find_if(log.lines.begin(), log.lines.end(), isUnit) - log.lines.begin() + 1;
+
+  std::vector<int> timeouts;  // at the moment of the error
+  shop.registry.Unregister("ErrLog.ErrorDetails");
+  shop.registry.Register("ErrLog.ErrorDetails", [&] {
+    return std::make_shared<SilentErrorLog>([&] { timeouts.push_back(session.gAdoCon.CommandTimeout()); });
+  });
+  session.gAdoCon.SetCommandTimeout(45);
+  log.Clear();
+  log.FailAt(static_cast<int>(firstUnit));
+  New(
+      [&] {
+        EXPECT_EQ((Texts{"1|CUP|24.000|1", "2|TEA|0.000|3"}), Lines());
+        EXPECT_EQ("", editor->lvwrequest.Item(1).SubItem(goods::kLineUnit));
+        EXPECT_EQ("kg", editor->lvwrequest.Item(2).SubItem(goods::kLineUnit));
+      },
+      Answer::Yes);
+  EXPECT_EQ(std::vector<int>{0}, timeouts) << "a proposal may take as long as it takes";
+  EXPECT_EQ(45, session.gAdoCon.CommandTimeout()) << "the host's own time-out again";
+}
+
 TEST_F(EditorWindow, AnExistingRequestShowsItsHeaderAndItsLinesWithAQuantity) {
   shop.Run(
       "insert into mosGoodsRequestDetail (GRDDetailid, GRDshopID, GRDrequestID, GRDitemID, GRDgoodQty) values (3, 1, 7, 3, 0), "
@@ -115,25 +161,10 @@ TEST_F(EditorWindow, ARequestThatWasIssuedOrFinishedCanOnlyBeLookedAt) {
   Edit(7, look);
 }
 
-/// Counts the errors that are reported, and shows nothing.
-class SilentErrorLog : public late::TableObject<SilentErrorLog> {
- public:
-  explicit SilentErrorLog(int& errors) : errors_(errors) {}
-  static const late::MemberTable<SilentErrorLog>& Members() {
-    static const late::MemberTable<SilentErrorLog> table{
-        {"ErrorTrack", [](SilentErrorLog& self, late::Arguments&) { return late::Value(++self.errors_ > 0); }, nullptr, 8, 8}};
-    return table;
-  }
-  std::string TypeName() const override { return "ErrorDetails"; }
-
- private:
-  int& errors_;
-};
-
 TEST_F(EditorWindow, ARequestThatCannotBeReadToItsEndCannotBeSaved) {
   int errors = 0;
   shop.registry.Unregister("ErrLog.ErrorDetails");
-  shop.registry.Register("ErrLog.ErrorDetails", [&] { return std::make_shared<SilentErrorLog>(errors); });
+  shop.registry.Register("ErrLog.ErrorDetails", [&] { return std::make_shared<SilentErrorLog>([&] { ++errors; }); });
   session.gStrEntryMode = "E";
   session.gLngRequestID = 7;
   editor->Load();
