@@ -114,6 +114,12 @@ TEST_F(Fetch, ItemsThatTheShopDoesNotKeep) {
     Filter("saucepan");
     EXPECT_EQ(Column(FrmFetch::kItemCode), ";");
   });
+  shop.session.gIntShopID = 3;
+  Open(ItemListMode::NotInShop, [&] {
+    support::Choose(dialog->cboFetch, "ItemDescription");
+    Filter("frying pan 20");
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1001;") << "of this shop's list, not of any shop's";
+  });
 }
 
 TEST_F(Fetch, ShopsOfTypeBSeeItemsOfThatType) {
@@ -122,7 +128,9 @@ TEST_F(Fetch, ShopsOfTypeBSeeItemsOfThatType) {
   EXPECT_EQ(shop.session.gStrItemTypeFilter, " and a.itemtype = 'B'");
   Open(ItemListMode::AllInShop, [&] {
     EXPECT_EQ(dialog->cboFetch.Text(), "ItemCode");
-    Filter("9000");
+    Filter("");
+    EXPECT_EQ(std::to_string(RowsShown()), shop.Row("select count(*) from aShopItemDetail s inner join aItem a on a.ItemId = "
+                                                    "s.ItemID where s.ShopID = 3 and a.active = 1 and a.itemtype = 'B'"));
     EXPECT_GT(RowsShown(), 1);
   });
 }
