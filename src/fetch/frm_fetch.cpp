@@ -154,6 +154,8 @@ void FrmFetch::txtFetch_KeyPress(int& character) {
 }
 
 void FrmFetch::RunFilter() {
+  // Where the load could not build the list's query, there is none to filter: now it may be built.
+  if (strFetchQuery_.empty()) BuildBaseQuery();
   const std::string text = vb::DoubleApostrophes(vb::Trim(txtFetch.Text()));
   strFetchField_ = FilterColumn(strFetchField_);
   // An empty filter lists everything of the mode, also the items without a brand, model or part code.

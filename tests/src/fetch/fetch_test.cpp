@@ -182,6 +182,15 @@ TEST_F(Fetch, ADatabaseErrorLeavesListAndFilterText) {
   });
 }
 
+TEST_F(Fetch, AnErrorWhileItOpensDoesNotSpoilTheNextFilter) {
+  shop.log.FailAt(1);  // the shop's item type
+  shop.desktop.ExpectMessage("Connection broken by the test\n(FrmFetch Form_Load, -2147217900)");
+  Open(ItemListMode::StockOut, [&] {
+    Filter("stock pot 5 l");
+    EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1008;");
+  });
+}
+
 TEST_F(Fetch, SortingFollowsTheListAndTheDirection) {
   Open(ItemListMode::AllInShop, [&] {
     Filter("rim");
