@@ -113,14 +113,22 @@ TEST_F(ItemLists, OnlyAnotherModeForcesARefreshAndTheModeOutlivesTheForm) {
     }
     return flags;
   };
+  diary->onShow = [&] {
+    if (!diary->handed.IsOpen()) diary->handed.Open(std::string(kKettleFilter) + "258", session.gAdoCon, ado::kStatic);
+  };
   Add([&] {
     support::Click(form->cmdFetch);
     support::Click(form->cmdFetch);
   });
   Add([&] {
     support::Click(form->cmdFetch);
+    EXPECT_TRUE(session.gRsFetchItems.IsOpen()) << "the list is still there from the form before";
     support::Click(form->optItemsNotInShop);
+    diary->onTake = [](late::Value& recordset) {
+      EXPECT_FALSE(ado::Recordset(recordset.ToObject()).IsOpen()) << "no other mode's rows are handed over";
+    };
     support::Click(form->cmdFetch);
+    diary->onTake = nullptr;
     support::Click(form->cmdFetch);
   });
   EXPECT_EQ(refreshes(), "True False False True False ");
@@ -201,6 +209,7 @@ TEST_F(SuiteLookup, ItemsAreChosenInTheSuitesOwnLookup) {
     });
     support::Press(form->txtitemcode, "F3");
     EXPECT_EQ(ChosenItem(), "Knife set 8 pieces with block");
+    EXPECT_TRUE(form->txtQuantity.HasFocus());
     support::Click(form->cmdOk);
     EXPECT_EQ(editor->lvwrequest.Item(1).SubItem(goods::kLineItemCode), "KT1016");
 

@@ -104,6 +104,16 @@ TEST_F(ItemLookup, WhatNoItemHasIsRefusedAndKeptForCorrection) {
   });
 }
 
+TEST_F(ItemLookup, WhereCodesMayRepeatOnlyBarcodesAndShortcutsNameAnItem) {
+  Add([&] {
+    shop.Run("update aPackageSettings set allowitemcodeduplication = 1");  // while the box is still open
+    Refused("Scan valid barcode ");
+    Scan("KT1001");
+    Scan("2100001010003");
+    EXPECT_EQ(ChosenItem(), "Frying pan 20 cm");
+  });
+}
+
 TEST_F(ItemLookup, AShopOfTypeBFindsItsItemsAndNoOthers) {
   Add([&] {
     Refused("Scan valid barcode ");

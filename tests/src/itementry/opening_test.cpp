@@ -56,6 +56,7 @@ TEST_F(Opening, AShopThatRequestsOnlyItsOwnItemsHasThreeLists) {
 TEST_F(Opening, OnlyShopsSetUpForItSeeTheAvailableQuantity) {
   Add([&] { EXPECT_TRUE(form->txtavailqty.Visible() && form->lblavail.Visible()); });
   LogOnTo(2);
+  shop.Run("update aShops set miscsettings13 = 'abD' where ShopID = 2");  // another setting's letter
   Add([&] {
     EXPECT_FALSE(form->txtavailqty.Visible() || form->lblavail.Visible());
     Scan(

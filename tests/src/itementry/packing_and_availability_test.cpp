@@ -39,6 +39,19 @@ TEST_F(Packing, OnlyActivePackingsWithACapacityForTheUnitAreListed) {
   });
 }
 
+TEST_F(Packing, AListThatCannotBeReadShowsNoOtherItemsPackings) {
+  Add([&] {
+    Scan("KT1012");
+    // The shop's type, barcode, shortcut, repeated codes, item code, reorder quantity, five for the availability, the packings.
+    shop.log.FailAt(12);
+    ExpectError("Connection broken by the test", "FillPackTypeinList", -2147217900);
+    Scan("KT1001");
+    EXPECT_EQ(ChosenItem() + Packings(), "Frying pan 20 cm");
+    support::Click(form->cmdOk);
+    EXPECT_EQ(LineCount(), 1);
+  });
+}
+
 TEST_F(Packing, ACapacityOfZeroIsReportedAndTheRestKeepTheirCounts) {
   Add([&] {
     Scan("KT1012");
