@@ -68,15 +68,20 @@ void frmLookup::Form_Load() {
   clsFormcolor::Applyformcolor(*this);
   flexMaster.SetFixedCols(0);
   flexMaster.SetCols(static_cast<long>(columns_.size()));
+  int searched = 0;  // the first column shown, where the one to search first is none of them
   for (std::size_t column = 0; column < columns_.size(); ++column) {
     flexMaster.SetTextMatrix(0, static_cast<long>(column), columns_[column].caption);
     flexMaster.SetColWidth(static_cast<long>(column), columns_[column].width);
     if (columns_[column].width == 0) continue;
     cboSearch.AddItem(columns_[column].caption, static_cast<std::int32_t>(column));
     cboColNames.AddItem(columns_[column].caption, static_cast<std::int32_t>(column));
-    if (column == defaultColumn_) cboSearch.SetListIndex(cboSearch.NewIndex());
+    if (column == defaultColumn_) searched = cboSearch.NewIndex();
   }
-  FilterRows();
+  if (cboSearch.ListCount() > 0) {
+    cboSearch.SetListIndex(searched);  // fills the grid
+  } else {
+    FilterRows();
+  }
   txtsearch.SetFocus();
 }
 

@@ -124,6 +124,25 @@ TEST_F(Lookup, SearchesAndSortsByTheColumnsThatAreShown) {
       << "the row under the bar in the order shown";
 }
 
+TEST_F(Lookup, ColumnsGivenAsTextsMayBeMoreThanTheQueryHas) {
+  fetch->Call("setFieldNames", {"ItemID, ItemCode ,ItemDescription,Colour"});
+  fetch->Call("setFieldCaptions", {"Id,Code"});
+  fetch->Call("setFieldWidths", {"0,1500"});
+  fetch->Call("setDefaultFetchField", {0});
+  EXPECT_EQ(Show([](suite::frmLookup& window) {
+              ASSERT_EQ(window.flexMaster.Cols(), 4);
+              EXPECT_EQ(window.flexMaster.TextMatrix(0, 1), "Code");
+              EXPECT_EQ(window.flexMaster.TextMatrix(0, 2), "ItemDescription") << "without a caption its own name";
+              EXPECT_EQ(window.flexMaster.ColWidth(1), 1500);
+              EXPECT_EQ(window.flexMaster.TextMatrix(2, 1), "KT1002");
+              EXPECT_EQ(window.flexMaster.TextMatrix(2, 3), "");
+              EXPECT_EQ(window.cboSearch.Text(), "Code") << "nobody can search in a hidden column";
+              support::Enter(window.txtsearch, "kt1004");
+              support::Press(window.txtsearch, "Enter");
+            }),
+            4);
+}
+
 TEST_F(Lookup, WhatWasTakenBeforeIsNotTakenAgainByCancellingOrByAnError) {
   EXPECT_EQ(Show([](suite::frmLookup& window) { support::Click(window.cmdOk); }), 1);
   EXPECT_EQ(Show([](suite::frmLookup& window) { support::Click(window.cmdClose); }), 0);
