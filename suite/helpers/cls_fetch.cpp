@@ -1,6 +1,7 @@
 #include "suite/helpers/cls_fetch.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
@@ -69,7 +70,12 @@ const late::MemberTable<clsFetch>& clsFetch::Members() {
          return Value();
        },
        nullptr, 1, 1},
-      Setter("setFieldNames", [](clsFetch& self, const Value& value) { self.fieldNames_ = Texts(value); }),
+      Setter("setFieldNames",
+             [](clsFetch& self, const Value& value) {
+               std::vector<std::string> names = Texts(value);
+               if (names != self.fieldNames_) self.heldIdentifier_.reset();  // rows are kept as these fields
+               self.fieldNames_ = std::move(names);
+             }),
       Setter("setFieldCaptions", [](clsFetch& self, const Value& value) { self.fieldCaptions_ = Texts(value); }),
       Setter("setFieldWidths",
              [](clsFetch& self, const Value& value) {
@@ -99,7 +105,7 @@ void clsFetch::setRecordSet(Arguments& arguments) {
   }
   if (recordset_.Object() != *object) {
     recordset_ = ado::Recordset(*object);
-    heldIdentifier_.clear();
+    heldIdentifier_.reset();
   }
 }
 
@@ -108,18 +114,26 @@ bool clsFetch::CanReuseRows() {
 }
 
 void clsFetch::LoadRows() {
-  heldIdentifier_.clear();
+  heldIdentifier_.reset();
   recordset_.CloseIfOpen();
   recordset_.SetCursorLocation(ado::kUseClient);
   recordset_.Open(strQuery_, connection_, ado::kStatic, ado::kReadOnly);
-  rows_.Read(recordset_, fieldNames_);
+  rows_.Read(recordset_, FieldNames());
   heldIdentifier_ = dataIdentifier_;
 }
 
-std::vector<LookupColumn> clsFetch::Columns() const {
+std::vector<std::string> clsFetch::FieldNames() {
+  if (!fieldNames_.empty()) return fieldNames_;
+  std::vector<std::string> names;
+  for (int field = 0; field < recordset_.FieldCount(); ++field) names.push_back(recordset_.FieldName(field));
+  return names;
+}
+
+std::vector<LookupColumn> clsFetch::Columns() {
+  const std::vector<std::string> names = FieldNames();
   std::vector<LookupColumn> columns;
-  for (std::size_t field = 0; field < fieldNames_.size(); ++field) {
-    columns.push_back({field < fieldCaptions_.size() ? fieldCaptions_[field] : fieldNames_[field],
+  for (std::size_t field = 0; field < names.size(); ++field) {
+    columns.push_back({field < fieldCaptions_.size() ? fieldCaptions_[field] : names[field],
                        field < fieldWidths_.size() ? fieldWidths_[field] : 1440});
   }
   return columns;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,9 @@ class clsFetch : public late::TableObject<clsFetch> {
   void Show();
   bool CanReuseRows();
   void LoadRows();
-  std::vector<LookupColumn> Columns() const;
+  /// The fields told, or else all that the query has.
+  std::vector<std::string> FieldNames();
+  std::vector<LookupColumn> Columns();
 
   std::shared_ptr<Surroundings> surroundings_;
   ado::Connection connection_;
@@ -49,7 +52,7 @@ class clsFetch : public late::TableObject<clsFetch> {
 
   std::shared_ptr<frmLookup> window_;
   LookupRows rows_;
-  std::string heldIdentifier_;
+  std::optional<std::string> heldIdentifier_;  ///< of the rows kept
 };
 
 }  // namespace suite

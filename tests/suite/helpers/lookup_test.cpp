@@ -143,6 +143,29 @@ TEST_F(Lookup, ColumnsGivenAsTextsMayBeMoreThanTheQueryHas) {
             4);
 }
 
+TEST_F(Lookup, FieldsToldAnewOrNotAtAllAreReadAnew) {
+  const auto last = [](suite::frmLookup& window) {
+    return window.flexMaster.TextMatrix(0, window.flexMaster.Cols() - 1) + "=" +
+           window.flexMaster.TextMatrix(2, window.flexMaster.Cols() - 1);
+  };
+  fetch->Put("DataIdentifier", "");
+  fetch->Call("setFieldNames", {"ItemID,ItemCode"});
+  Show([&](suite::frmLookup& window) { EXPECT_EQ(last(window), "Item Code=KT1002"); });
+  fetch->Call("setFieldNames", {"ItemID,ItemCode,ItemDescription"});
+  EXPECT_EQ(Show([&](suite::frmLookup& window) {
+              EXPECT_EQ(last(window), "Item Description=Frying pan 24 cm");
+              support::Enter(window.txtsearch, "pan with lid 2");
+              support::Click(window.cmdOk);
+            }),
+            6);
+  const late::ObjectPtr untold = shop.Helper("Lookup.clsFetch");
+  untold->Put("strQuery", "select PackingTypeName from aPackingType where packingtypeid <= 2 order by packingtypeid");
+  shop.desktop.ExpectForm("frmLookup", [&](controls::Form& form) {
+    EXPECT_EQ(last(dynamic_cast<suite::frmLookup&>(form)), "PackingTypeName=Inner box");
+  });
+  untold->Call("Show");
+}
+
 TEST_F(Lookup, WhatWasTakenBeforeIsNotTakenAgainByCancellingOrByAnError) {
   EXPECT_EQ(Show([](suite::frmLookup& window) { support::Click(window.cmdOk); }), 1);
   EXPECT_EQ(Show([](suite::frmLookup& window) { support::Click(window.cmdClose); }), 0);
