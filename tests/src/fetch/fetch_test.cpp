@@ -204,6 +204,7 @@ TEST_F(Fetch, SortingFollowsTheListAndTheDirection) {
     EXPECT_EQ(dialog->flexMaster.Row(), 3);
     support::Click(dialog->optAscend);
     EXPECT_EQ(Column(FrmFetch::kItemCode), "KT1024;KT1021;KT1026;") << "the direction alone sorts nothing";
+    EXPECT_EQ(dialog->cboColNames.ListIndex(), -1);
 
     // This entry sorts on the brand alone.
     support::Click(dialog->optAscend);
@@ -337,6 +338,7 @@ TEST_F(Fetch, KeysLeadThroughTheDialog) {
     EXPECT_TRUE(dialog->flexMaster.HasFocus());
     EXPECT_EQ(dialog->flexMaster.Row(), 2);
     EXPECT_EQ(dialog->flexMaster.RowSel(), RowsShown());
+    EXPECT_EQ(dialog->flexMaster.ColSel(), FrmFetch::kPartCode);
     support::Press(dialog->txtsearch, "Ctrl+D");
     EXPECT_TRUE(dialog->flexMaster.HasFocus());
     for (const auto& [here, next] :

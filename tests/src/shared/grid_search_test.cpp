@@ -69,6 +69,11 @@ TEST_F(GridSearch, ATypedZeroDoesNotFindWords) {
   EXPECT_EQ("none", Find(2, "0"));
 }
 
+TEST_F(GridSearch, FindsACodeThatNumbersAroundItHideFromHalving) {
+  Fill({{"10a"}, {"9"}, {"10"}, {"10b"}});  // each stands above the next: 9 and 10 as numbers, the others as text
+  EXPECT_EQ("10b", Find(0, "10b"));
+}
+
 TEST_F(GridSearch, TheFoundLineIsSelectedFromSideToSideAndScrolledToTheTop) {
   Fill({{"1", "", "c"}, {"2", "", "b"}, {"3", "", "a"}});
   ASSERT_EQ("2", Find(2, "b"));
