@@ -94,7 +94,7 @@ const Value& Arguments::operator[](std::size_t index) const {
 }
 
 Value Arguments::Or(std::size_t index, Value otherwise) const {
-  return Has(index) ? values_[index].Deref() : otherwise;
+  return Has(index) ? values_[index].Deref() : std::move(otherwise);
 }
 
 void Arguments::Write(std::size_t index, Value value) {

@@ -183,7 +183,8 @@ void Cursor::Removed() {
 void Cursor::Added(Row row) {
   if (row.id != 0) addedIds_.insert(row.id);
   if (!keeps_) {
-    added_.assign(1, std::move(row));
+    added_.clear();
+    added_.push_back(std::move(row));
     onAdded_ = true;
     return;
   }

@@ -8,7 +8,7 @@
 
 namespace suite {
 
-RowWriter::RowWriter(std::shared_ptr<Session> session, std::string table)
+RowWriter::RowWriter(std::shared_ptr<Session> session, const std::string& table)
     : session_(std::move(session)), table_(session_->Names().RelationNamed(table)) {}
 
 RowWriter::ColumnSet& RowWriter::SetOf(const std::vector<int>& columns) {

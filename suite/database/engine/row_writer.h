@@ -18,7 +18,7 @@ class RowWriter {
     StatementHandle update;
   };
 
-  RowWriter(std::shared_ptr<Session> session, std::string table);
+  RowWriter(std::shared_ptr<Session> session, const std::string& table);
 
   const Relation& Table() const { return table_; }
   ColumnSet& SetOf(const std::vector<int>& columns);

@@ -97,7 +97,7 @@ class Translator {
   // Operators and conversions (translator_operator.cpp)
   Emitted Binary(const ast::Expr& expr, Scope& scope);
   Emitted Arithmetic(char op, Emitted left, Emitted right);
-  Emitted DateArithmetic(char op, Emitted left, Emitted right);
+  Emitted DateArithmetic(char op, const Emitted& left, const Emitted& right);
   Emitted Divide(char op, Emitted left, Emitted right);
   Emitted Coerce(Emitted value, const Type& target, int style = 0);
   Emitted CoerceAssigned(Emitted value, const Type& target);

@@ -86,7 +86,7 @@ Translator::Emitted Translator::Binary(const ast::Expr& expr, Scope& scope) {
   }
   if (left.type.kind == Kind::DateTime || right.type.kind == Kind::DateTime) {
     if (expr.op != '+' && expr.op != '-') Unknown(expr, "dates can only be added to and subtracted from");
-    return DateArithmetic(expr.op, std::move(left), std::move(right));
+    return DateArithmetic(expr.op, left, right);
   }
   if (left.type.IsText()) left = Coerce(std::move(left), right.type.IsNumber() ? right.type : Type::Of(Kind::Int));
   if (right.type.IsText()) right = Coerce(std::move(right), left.type.IsNumber() ? left.type : Type::Of(Kind::Int));
@@ -96,7 +96,7 @@ Translator::Emitted Translator::Binary(const ast::Expr& expr, Scope& scope) {
   return Arithmetic(expr.op, std::move(left), std::move(right));
 }
 
-Translator::Emitted Translator::DateArithmetic(char op, Emitted left, Emitted right) {
+Translator::Emitted Translator::DateArithmetic(char op, const Emitted& left, const Emitted& right) {
   const auto days = [&](const Emitted& number) {
     if (number.type.kind == Kind::Float) return "CAST(round(" + number.sql + " * " + kDayText + ") AS INTEGER)";
     const std::string units = "(" + number.sql + " * " + kDayText + ")";
