@@ -185,7 +185,7 @@ TEST(ShopDay, ARequestIsFilledWithoutTypingACode) {
   lookup.HasFocusBehind("Search:");
   lookup.Write("Search:", "Chef");
   lookup.HasRows(1);
-  lookup.Press("Enter");
+  lookup.DoubleClickRow(0);
   lookup.Goes();
   entry.Shows("Item:", "Chef's knife 20 cm");
   entry.HasFocusBehind("Quantity:");
