@@ -29,6 +29,11 @@ const std::string kNoText;
 
 }  // namespace
 
+void FlexGrid::ItemsChanged() {
+  inOrderBy_ = kUnknown;
+  Changed(Aspect::Items);
+}
+
 long FlexGrid::Rows() const {
   Touch();
   return static_cast<long>(rows_.size());
@@ -45,12 +50,13 @@ void FlexGrid::SetRows(long rows) {
   rows_.resize(At(rows));
   KeepCurrentInside();
   CurrentIntoData(hadNone);
-  Changed(Aspect::Items);
+  ItemsChanged();
 }
 
 void FlexGrid::SetCols(long cols) {
   if (cols < 0) RaiseCol();
   Touch();
+  inOrderBy_ = kUnknown;
   columns_.resize(At(cols));
   for (GridRow& row : rows_) {
     if (row.cells.size() > columns_.size()) row.cells.resize(columns_.size());
@@ -67,6 +73,7 @@ long FlexGrid::FixedRows() const {
 
 void FlexGrid::SetFixedRows(long rows) {
   if (rows < 0 || rows > Rows()) RaiseRow();
+  inOrderBy_ = kUnknown;
   fixedRows_ = rows;
   if (row_ < fixedRows_ && fixedRows_ < Rows()) MoveCurrent(fixedRows_, col_);
   topRow_ = std::max(topRow_, fixedRows_);
@@ -185,7 +192,7 @@ void FlexGrid::SetTextMatrix(long row, long col, std::string_view text) {
   std::vector<std::string>& cells = rows_[At(row)].cells;
   if (At(col) >= cells.size()) cells.resize(columns_.size());
   cells[At(col)] = text;
-  Changed(Aspect::Items);
+  ItemsChanged();
 }
 
 const std::string& FlexGrid::Text() const {
@@ -209,7 +216,7 @@ void FlexGrid::AddItem(std::string_view tabSeparated, long index) {
   GridRow row = RowOf(tabSeparated);
   rows_.insert(rows_.begin() + (index < 0 ? count : index), std::move(row));
   CurrentIntoData(count <= fixedRows_);
-  Changed(Aspect::Items);
+  ItemsChanged();
 }
 
 void FlexGrid::AppendRow(std::vector<std::string>&& cells) {
@@ -217,7 +224,7 @@ void FlexGrid::AppendRow(std::vector<std::string>&& cells) {
   if (cells.size() > columns_.size()) columns_.resize(cells.size());
   rows_.emplace_back().cells = std::move(cells);
   CurrentIntoData(hadNone);
-  Changed(Aspect::Items);
+  ItemsChanged();
 }
 
 void FlexGrid::ReserveRows(long rows) {
@@ -230,13 +237,13 @@ void FlexGrid::RemoveItem(long row) {
   if (row >= fixedRows_ && Rows() - fixedRows_ <= 1) vb::Raise(kLastDataRow, "Cannot remove last non-fixed row");
   rows_.erase(rows_.begin() + row);
   KeepCurrentInside();
-  Changed(Aspect::Items);
+  ItemsChanged();
 }
 
 void FlexGrid::Clear() {
   Touch();
   for (GridRow& row : rows_) row = GridRow();
-  Changed(Aspect::Items);
+  ItemsChanged();
 }
 
 std::string FlexGrid::Clip() const {
@@ -357,6 +364,7 @@ void FlexGrid::Reset() {
   fixedRows_ = fixedCols_ = 1;
   row_ = col_ = rowSel_ = colSel_ = topRow_ = 1;
   mouseRow_ = mouseCol_ = 0;
+  inOrderBy_ = kUnknown;
   formatString_.clear();
   backColorSel_ = kHighlight;
   foreColorSel_ = kHighlightText;

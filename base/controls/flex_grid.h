@@ -85,6 +85,9 @@ class FlexGrid : public Control {
   /// Sorts whole rows (with their colours) by the columns Col..ColSel from left to right: the rows Row..RowSel, or all but the
   /// fixed ones when those are equal. Stable. The current cell keeps its place (row number).
   void Sort(GridSort kind);
+  /// Whether the rows below the fixed ones stand in the generic ascending order of a column: two numbers by value, anything else
+  /// as text without regard to case. A list found in order is not looked at again before it changes.
+  bool IsInOrder(long col) const;
   /// The selected range as text, tabs between cells and CR between rows; setting it fills the range, extra cells stay, extra text
   /// is ignored.
   std::string Clip() const;
@@ -127,6 +130,8 @@ class FlexGrid : public Control {
   struct RowRange {
     long first = 0, last = 0;
   };
+  static constexpr long kUnknown = -1;
+  void ItemsChanged();
   const std::string& CellText(const GridRow& row, long col) const;
   void CheckCell(long row, long col) const;
   void MoveCurrent(long row, long col);
@@ -146,6 +151,7 @@ class FlexGrid : public Control {
   long row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
   long topRow_ = 1;
   long mouseRow_ = 0, mouseCol_ = 0;
+  mutable long inOrderBy_ = kUnknown;  // the column that the rows are known to be in order by
   std::string formatString_;
   Color backColorSel_ = kHighlight;
   Color foreColorSel_ = kHighlightText;

@@ -79,6 +79,13 @@ bool ReadGenericNumber(const std::string& text, double& number) {
   return true;
 }
 
+bool InGenericOrder(const std::string& above, const std::string& below) {
+  double first = 0;
+  double second = 0;
+  if (ReadGenericNumber(above, first) && ReadGenericNumber(below, second)) return first <= second;
+  return vb::CompareNoCase(above, below) <= 0;
+}
+
 using CellTexts = std::vector<const std::string*>;
 
 void FoldAll(KeyColumn& keys, const CellTexts& cells) {
@@ -216,6 +223,16 @@ FlexGrid::RowRange FlexGrid::SortedRows() const {
   return {std::max(top, fixedRows_), std::min(bottom, last)};
 }
 
+bool FlexGrid::IsInOrder(long col) const {
+  if (col < 0 || col >= Cols()) vb::Raise(vb::kInvalidPropertyIndex, "Subscript out of range");
+  if (inOrderBy_ == col) return true;
+  for (std::size_t row = static_cast<std::size_t>(fixedRows_) + 1; row < rows_.size(); ++row) {
+    if (!InGenericOrder(CellText(rows_[row - 1], col), CellText(rows_[row], col))) return false;
+  }
+  inOrderBy_ = col;
+  return true;
+}
+
 void FlexGrid::Sort(GridSort kind) {
   Touch();
   if (kind == GridSort::None) return;
@@ -238,7 +255,7 @@ void FlexGrid::Sort(GridSort kind) {
   SortOrder(order, columns, static_cast<int>(kind) % 2 == 0);
 
   MoveInto(order, begin);
-  Changed(Aspect::Items);
+  ItemsChanged();
 }
 
 }  // namespace controls

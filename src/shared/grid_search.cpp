@@ -1,6 +1,5 @@
 #include "src/shared/grid_search.h"
 
-#include <cctype>
 #include <string>
 #include <vector>
 
@@ -38,24 +37,6 @@ class TypedText {
   bool numeric_;
   double number_ = 0;
 };
-
-/// No number begins with a letter: spares most cells the runtime's number rules at every key.
-bool MayBeNumber(std::string_view text) {
-  return !text.empty() && std::isalpha(static_cast<unsigned char>(text.front())) == 0;
-}
-
-/// The grid's generic order: two numbers by value, anything else as text without regard to case.
-bool InGenericOrder(std::string_view above, std::string_view below) {
-  if (MayBeNumber(above) && vb::IsNumeric(above) && vb::IsNumeric(below)) return vb::CDbl(above) <= vb::CDbl(below);
-  return vb::CompareNoCase(above, below) <= 0;
-}
-
-bool IsSorted(const controls::FlexGrid& grid, long column) {
-  for (long row = grid.FixedRows() + 1; row < grid.Rows(); ++row) {
-    if (!InGenericOrder(grid.TextMatrix(row - 1, column), grid.TextMatrix(row, column))) return false;
-  }
-  return true;
-}
 
 long Bisect(const controls::FlexGrid& grid, long column, const TypedText& typed, long last) {
   long low = 1;
@@ -101,7 +82,7 @@ bool HasCells(const controls::FlexGrid& grid, long row, const std::vector<std::s
 
 /// Sorts the grid ascending on the column; the line that was current stays current, wherever it now stands.
 void SortKeepingCurrentLine(controls::FlexGrid& grid, long column) {
-  if (IsSorted(grid, column)) return;
+  if (grid.IsInOrder(column)) return;
   const long row = grid.Row();
   const long col = grid.Col();
   const long colSel = grid.ColSel();

@@ -207,6 +207,39 @@ TEST_P(GridStory, APersonMovesByMouseAndKeysWithinTheData) {
   });
 }
 
+TEST_P(GridStory, AListInOrderIsSoUntilItChanges) {
+  Grid().SetFixedCols(0);
+  Grid().SetCols(2);
+  const auto fill = [&] {
+    Grid().SetRows(1);
+    for (const char* line : {"9\tx", "10\tb", "a\tc", "B\ta"}) Grid().AddItem(line);
+    return Grid().IsInOrder(0);
+  };
+  ASSERT_TRUE(fill());
+  EXPECT_TRUE(Grid().IsInOrder(0)) << "asked again";
+  EXPECT_FALSE(Grid().IsInOrder(1)) << "another column";
+  EXPECT_TRUE(Grid().IsInOrder(0));
+
+  Grid().SetTextMatrix(1, 0, "11");
+  EXPECT_FALSE(Grid().IsInOrder(0)) << "a cell";
+  ASSERT_TRUE(fill());
+  Grid().AddItem("A");
+  EXPECT_FALSE(Grid().IsInOrder(0)) << "a line at the end";
+  ASSERT_TRUE(fill());
+  Grid().AppendRow({"8"});
+  EXPECT_FALSE(Grid().IsInOrder(0)) << "the same, taken over";
+  Grid().RemoveItem(5);
+  EXPECT_TRUE(Grid().IsInOrder(0)) << "without it";
+  Grid().SetCol(1);
+  Grid().Sort(GridSort::GenericAscending);
+  EXPECT_FALSE(Grid().IsInOrder(0)) << "sorted by another column";
+  EXPECT_TRUE(Grid().IsInOrder(1));
+  Grid().SetFixedRows(0);
+  Grid().SetTextMatrix(0, 1, "z");
+  EXPECT_FALSE(Grid().IsInOrder(1)) << "the heading is a line now";
+  EXPECT_THROW((void)Grid().IsInOrder(2), vb::RunTimeError);
+}
+
 TEST_P(GridStory, AHundredThousandRowsSortAsTheyShould) {
   Grid().SetCols(6);
   Grid().ReserveRows(100001);
