@@ -8,7 +8,6 @@ for part in "$@"; do
   case $part in
     native) packages+=(g++ cmake ninja-build libsqlite3-dev) ;;
     tests) packages+=(libgtest-dev googletest) ;;
-    bench) packages+=(libbenchmark-dev) ;;
     windows) packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev
                         xvfb xauth imagemagick xdotool fonts-wine npm googletest) ;;
     *) echo "install.sh: no such part: $part" >&2; exit 2 ;;
