@@ -58,7 +58,7 @@ const late::MemberTable<Form>& FormMembers() {
       ReadOnly<Form>("Name", &Form::Name),
       Property<Form>("Caption", &Form::Caption, &Form::SetCaption),
       Property<Form>("", &Form::Caption, &Form::SetCaption),
-      {"Controls", [](Form& self, late::Arguments&) -> late::Value { return std::make_shared<FormControls>(Shared(self)); }, {}},
+      late::Collection<Form>("Controls", [](Form& self) { return std::make_shared<FormControls>(Shared(self)); }),
       {"Count", [](Form& self, late::Arguments&) { return late::Value(static_cast<std::int32_t>(self.Controls().size())); }, {}},
       {"ActiveControl", ActiveControlOf, {}},
       Property<Form>("BackColor", &Form::BackColor, &Form::SetBackColor),

@@ -197,7 +197,13 @@ void SetCellOf(ListView& self, late::Arguments& arguments) {
   line.SetSubItem(column, arguments[2].ToText());
 }
 
-/// The selected line is a number here; a line of ListItems may be put as well.
+/// The selected line of ListItems, Nothing where there is none.
+late::Value SelectedLine(ListView& self, late::Arguments&) {
+  const int selected = self.SelectedItem();
+  return selected == 0 ? late::Value(late::ObjectPtr()) : LineOf(Shared(self), selected);
+}
+
+/// A line of ListItems, Nothing for none; the number of a line is taken as well.
 void SelectByName(ListView& self, late::Arguments& arguments) {
   if (!arguments[0].IsObject()) return self.Select(arguments[0].ToInt32());
   const late::ObjectPtr* line = arguments[0].If<late::ObjectPtr>();
@@ -211,7 +217,7 @@ const Control::LateMember* ListView::FindMember(std::string_view name) const {
   using V = ListView;
   static const members::MemberList<V, LateMember> list = {
       members::ReadOnly<V>("Count", &V::Count),
-      {"SelectedItem", [](V& self, Arguments&) { return members::Out(self.SelectedItem()); }, SelectByName},
+      {"SelectedItem", SelectedLine, SelectByName},
       {"Checked", [](V& self, Arguments& a) { return late::Value(self.Item(a[0].ToInt32()).Checked()); },
        [](V& self, Arguments& a) { self.Item(a[0].ToInt32()).SetChecked(a[1].ToBool()); }, 1, 1},
       {"SubItem", CellOf, SetCellOf, 2, 2},
@@ -222,8 +228,8 @@ const Control::LateMember* ListView::FindMember(std::string_view name) const {
       {"Alignment", [](V& self, Arguments& a) { return members::Out(self.Column(a[0].ToInt32()).alignment); },
        [](V& self, Arguments& a) { self.SetColumnAlignment(a[0].ToInt32(), static_cast<ColumnAlignment>(a[1].ToInt32())); }, 1,
        1},
-      {"ListItems", [](V& self, Arguments&) -> late::Value { return std::make_shared<LateLines>(Shared(self)); }, {}},
-      {"ColumnHeaders", [](V& self, Arguments&) -> late::Value { return std::make_shared<LateHeaders>(Shared(self)); }, {}},
+      late::Collection<V>("ListItems", [](V& self) { return std::make_shared<LateLines>(Shared(self)); }),
+      late::Collection<V>("ColumnHeaders", [](V& self) { return std::make_shared<LateHeaders>(Shared(self)); }),
       {"ColumnCount", [](V& self, Arguments&) { return members::Out(self.ColumnCount()); }, {}},
       members::Property<V>("CheckBoxes", &V::CheckBoxes, &V::SetCheckBoxes),
       members::Method<V>("Clear", &V::Clear),

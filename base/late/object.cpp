@@ -123,6 +123,16 @@ void RaiseUnknownMember(std::string_view type, std::string_view member) {
   throw MemberError(vb::kMemberNotFound, type, member);
 }
 
+Value GetThrough(ObjectPtr held, Arguments& index) {
+  return index.Has(0) ? held->Invoke("", Access::Get, index.All()) : Value(std::move(held));
+}
+
+void PutThrough(ObjectPtr held, Arguments& indexAndValue) {
+  const std::span<Value> all = indexAndValue.All();
+  if (all.size() < 2) vb::Raise(vb::kMemberNotFound);
+  held->Invoke("", Access::Get, all.first(all.size() - 1)).ToObject()->Put("", all.back().Deref());
+}
+
 void CheckArgumentCount(std::string_view type, std::string_view member, std::size_t given, int least, int most) {
   if (given < static_cast<std::size_t>(least)) throw MemberError(vb::kArgumentNotOptional, type, member);
   if (given > static_cast<std::size_t>(most)) throw MemberError(vb::kWrongArgumentCount, type, member);

@@ -101,6 +101,8 @@ class NameIndex {
   std::vector<Entry> entries_;  // sorted by hash
 };
 [[noreturn]] void RaiseUnknownMember(std::string_view type, std::string_view member);
+Value GetThrough(ObjectPtr held, Arguments& index);
+void PutThrough(ObjectPtr held, Arguments& indexAndValue);
 void CheckArgumentCount(std::string_view type, std::string_view member, std::size_t given, int least, int most);
 }  // namespace detail
 
@@ -130,6 +132,14 @@ class MemberTable {
   std::vector<Member<T>> members_;
   detail::NameIndex index_;
 };
+
+/// A property that holds a collection. With an index it is the collection's item, as late-bound callers write it:
+/// list.ListItems(1), and list.ListItems(1) = "text" for the item's default member.
+template <class T>
+Member<T> Collection(std::string_view name, std::function<ObjectPtr(T&)> held) {
+  return {name, [held](T& self, Arguments& arguments) { return detail::GetThrough(held(self), arguments); },
+          [held](T& self, Arguments& arguments) { detail::PutThrough(held(self), arguments); }, 0, 1};
+}
 
 /// A class written in C++ with its members in a table `static const MemberTable<T>& T::Members()`.
 template <class T>

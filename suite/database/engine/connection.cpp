@@ -80,7 +80,7 @@ const late::MemberTable<Connection>& Connection::Members() {
       {"Open", [](Self& self, Arguments& arguments) -> Value { return self.Open(arguments), Value(); }, nullptr, 0, 4},
       {"Close", [](Self& self, Arguments&) -> Value { return self.Close(), Value(); }, nullptr},
       {"Execute", [](Self& self, Arguments& arguments) { return self.Execute(arguments); }, nullptr, 1, 3},
-      {"Errors", [](Self& self, Arguments&) -> Value { return self.errors_; }, nullptr},
+      late::Collection<Self>("Errors", [](Self& self) { return self.errors_; }),
       {"BeginTrans", [](Self& self, Arguments&) { return self.BeginTrans(); }, nullptr},
       {"CommitTrans", [](Self& self, Arguments&) -> Value { return self.Required().Commit(), Value(); }, nullptr},
       {"RollbackTrans", [](Self& self, Arguments&) -> Value { return self.Required().Rollback(), Value(); }, nullptr},

@@ -9,9 +9,12 @@ const late::MemberTable<Fields>& Fields::Members() {
   const auto item = [](Fields& self, Arguments& arguments) -> late::Value {
     return std::make_shared<Field>(self.recordset_, self.recordset_->ColumnAt(arguments[0]));
   };
+  const auto put = [](Fields& self, Arguments& arguments) {
+    self.recordset_->SetField(self.recordset_->ColumnAt(arguments[0]), arguments[1].Deref());
+  };
   static const late::MemberTable<Fields> table = {
-      {"", item, nullptr, 1, 1},
-      {"Item", item, nullptr, 1, 1},
+      {"", item, put, 1, 1},
+      {"Item", item, put, 1, 1},
       {"Count", [](Fields& self, Arguments&) -> late::Value { return static_cast<std::int32_t>(self.recordset_->FieldCount()); },
        nullptr},
   };

@@ -57,13 +57,11 @@ const late::MemberTable<Recordset>& Recordset::Members() {
       {"", M::Item, M::PutItem, 1, 1},
       {"Collect", [](Self& self, Arguments& arguments) { return self.FieldValue(self.ColumnAt(arguments[0])); }, M::PutItem, 1,
        1},
-      {"Fields",
-       [](Self& self, Arguments& arguments) -> Value {
-         self.Rows();
-         if (arguments.Has(0)) return M::Item(self, arguments);
-         return std::make_shared<Fields>(M::Shared(self));
-       },
-       nullptr, 0, 1},
+      late::Collection<Self>("Fields",
+                             [](Self& self) {
+                               self.Rows();
+                               return std::make_shared<Fields>(M::Shared(self));
+                             }),
       {"Open", [](Self& self, Arguments& arguments) -> Value { return self.Open(arguments), Value(); }, nullptr, 0, 5},
       M::Method("Close", &Recordset::Close),
       M::Method("Requery", &Recordset::Requery, 1),

@@ -133,9 +133,17 @@ TEST_F(LateMembers, AListIsFilledAndReadThroughItsCollections) {
   lines->Get("", {Value(1)}).ToObject()->Put("Checked", Value(true));
   EXPECT_TRUE(list->Get("checked", {Value(1)}).ToBool());
   lines->Get("Item", {Value(1)}).ToObject()->Put("Selected", Value(true));
-  EXPECT_EQ(list->Get("SelectedItem").ToInt32(), 1);
+  EXPECT_EQ(list->Get("SelectedItem").ToObject()->Get("Index").ToInt32(), 1);
   list->PutRef("SelectedItem", second);
   EXPECT_TRUE(second->Get("Selected").ToBool());
+  // The short forms: the index goes to the collection, a value to its item.
+  EXPECT_EQ(list->Get("ListItems", {Value("k2")}).ToObject()->Get("SubItems", {Value(1)}).ToText(), "Soap");
+  list->Put("ListItems", {Value(1)}, Value("A2"));
+  EXPECT_EQ(list->Get("SubItem", {Value(1), Value(0)}).ToText(), "A2");
+  EXPECT_EQ(list->Get("ColumnHeaders", {Value(2)}).ToObject()->Get("Index").ToInt32(), 2);
+  EXPECT_EQ(late->Get("Controls", {Value("lvwLines")}).ToObject(), list);
+  EXPECT_EQ(ErrorOf([&] { list->Get("ListItems", {Value(3)}); }), 35600);
+  EXPECT_EQ(ErrorOf([&] { list->Put("ListItems", Value("all of them")); }), vb::kMemberNotFound);
 
   const late::ObjectPtr headers = list->Get("ColumnHeaders").ToObject();
   headers->Get("Item", {Value(2)}).ToObject()->Put("Width", Value(2500.4));
@@ -152,6 +160,7 @@ TEST_F(LateMembers, AListIsFilledAndReadThroughItsCollections) {
   EXPECT_EQ(lines->Get("Count").ToInt32(), 1);
   lines->Call("Clear");
   EXPECT_EQ(list->Get("Count").ToInt32(), 0);
+  EXPECT_EQ(ErrorOf([&] { list->Get("SelectedItem").ToObject(); }), vb::kObjectNotSet);
 }
 
 TEST_F(LateMembers, AGridIsSetUpSortedAndColouredByName) {

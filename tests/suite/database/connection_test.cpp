@@ -89,6 +89,7 @@ TEST_F(Connections, WhatTheServerSaidIsKept) {
   const late::ObjectPtr error = errors->Get("Item", {std::int32_t{0}}).ToObject();
   EXPECT_EQ(error->Get("NativeError").ToInt32(), 207);
   EXPECT_EQ(error->Get("Description").ToText(), "Invalid column name 'nothing'.");
+  EXPECT_EQ(connection_->Get("Errors", {std::int32_t{0}}).ToObject()->Get("NativeError").ToInt32(), 207);
 }
 
 /// The work that the store's machine has done for the connection's selects and for its inserts.
