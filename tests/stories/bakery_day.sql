@@ -1,0 +1,2 @@
+update aPackageSettings set alias = 1
+go
