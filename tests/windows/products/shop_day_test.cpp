@@ -227,6 +227,29 @@ TEST(ShopDay, ARequestIsFilledWithoutTypingACode) {
   EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
 }
 
+TEST(ShopDay, ARequestIsFoundByTyping) {
+  const ShopFolder folder;
+  Program host(Host(folder, kLoggedOn));
+  FormOnScreen requests = Person(host).Meets("Goods Request to HQ");
+  requests.HasRow(0, {"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"});
+
+  // The search sorts the list by the column it looks in.
+  requests.Choose("Search On:", "Remarks");
+  requests.Press("Tab");
+  requests.Type("to");
+  requests.HasRow(0, {"25", "GR24/17", "12/03/2024", "", "No", "No"});
+  requests.HasSelectedRow({"15", "GR24/7", "29/01/2024", "Towels for the hotel", "No", "No"});
+  requests.Type("y");
+  requests.HasSelectedRow({"20", "GR24/12", "20/02/2024", "Toys for the fair", "No", "No"});
+
+  // Nothing begins so, and nothing moves.
+  requests.Type("zzz");
+  requests.HasSelectedRow({"20", "GR24/12", "20/02/2024", "Toys for the fair", "No", "No"});
+  requests.Press("Alt+C");
+  requests.Goes();
+  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+}
+
 TEST(ShopDay, TheListsGrowWithTheirWindows) {
   const ShopFolder folder;
   Program host(Host(folder, kLoggedOn));

@@ -282,6 +282,17 @@ void FormOnScreen::HasSelected(int row) {
   Wait([&] { return ListOnScreen(List()).SelectedRow() == row; }, "row " + std::to_string(row) + " selected");
 }
 
+void FormOnScreen::HasSelectedRow(const Texts& cells) {
+  Texts seen;
+  WaitUntil(
+      [&] {
+        const ListOnScreen list(List());
+        const int row = list.SelectedRow();
+        return row >= 0 && (seen = list.Row(row)) == cells;
+      },
+      [&] { return "the selected row is\n  " + Joined(seen) + "\nand not\n  " + Joined(cells); });
+}
+
 void FormOnScreen::HasTicked(int row, bool ticked) {
   Wait([&] { return ListOnScreen(List()).IsTicked(row) == ticked; },
        "row " + std::to_string(row) + (ticked ? " ticked" : " not ticked"));

@@ -43,6 +43,7 @@ class FormOnScreen {
   void HasRows(int count);
   void HasRow(int row, const Texts& cells);
   void HasSelected(int row);
+  void HasSelectedRow(const Texts& cells);
   void HasTicked(int row, bool ticked);
   /// The list's size in pixels.
   void HasListOf(SIZE size);
