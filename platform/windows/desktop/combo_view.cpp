@@ -55,6 +55,12 @@ void ComboView::OnCommand(int code) {
     const auto index = static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0));
     SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
     if (index >= 0) combo_.Pick(index);
+  } else if (code == CBN_SELCHANGE) {
+    // Arrows in the open list choose as they do in the closed one, so that whatever key or click leaves it, what is shown is so.
+    const auto index = static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0));
+    if (index >= 0 && index != combo_.ListIndex()) combo_.Pick(index);
+  } else if (code == CBN_CLOSEUP) {
+    ShowText();
   } else if (code == CBN_EDITCHANGE) {
     Pull();
   }

@@ -86,12 +86,18 @@ std::optional<LRESULT> ControlView::Handle(UINT message, WPARAM wParam, LPARAM l
       return 0;
     case WM_RBUTTONUP:
       if (!OwnsRightButton()) break;
+      window_.OpenNextMenuAt(std::nullopt);
       RightClick(ShiftState(wParam));
       return 0;
     case WM_CONTEXTMENU:
       // The menu key and Shift+F10 do what the right button does; the box of a text keeps its own menu.
       if (!OwnsRightButton()) break;
-      if (lParam == -1) RightClick(0);
+      if (lParam == -1) {
+        POINT place = MenuPlace();
+        ClientToScreen(handle_, &place);
+        window_.OpenNextMenuAt(place);
+        RightClick(0);
+      }
       return 0;
     default:
       break;

@@ -64,6 +64,8 @@ class ControlView {
   virtual bool OwnsRightButton() const { return true; }
   /// The right button went down: lists select the line below it.
   virtual void RightButtonAt(POINT point) { (void)point; }
+  /// Where a menu opens that was asked for by key, in the window's coordinates.
+  virtual POINT MenuPlace() const { return {}; }
   FormWindow& Window() const { return window_; }
 
  private:

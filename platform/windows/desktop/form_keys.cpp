@@ -101,6 +101,10 @@ bool FormWindow::HandleKey(const MSG& message) {
       key.character = static_cast<char32_t>(message.wParam);
       break;
     case WM_KEYUP:  // the model's keyboard has told of it
+      // The system's own handling of the menu key would need the key to come down to the window, too.
+      if (message.wParam == VK_APPS) {
+        SendMessageW(message.hwnd, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(message.hwnd), -1);
+      }
       return true;
     default:
       return false;

@@ -4,8 +4,10 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/controls/form.h"
@@ -47,6 +49,9 @@ class FormWindow {
   /// Runs work that came from a window procedure: no exception passes through the system, it waits for the message loop.
   void Guarded(const std::function<void()>& work);
   ControlView* ViewOf(const controls::Control* control) const;
+  /// Where on the screen the form's next menu opens: at the line that a key was pressed on, else at the mouse.
+  void OpenNextMenuAt(std::optional<POINT> place) { menuPlace_ = place; }
+  std::optional<POINT> TakeMenuPlace() { return std::exchange(menuPlace_, std::nullopt); }
 
  private:
   struct Dirty {
@@ -87,6 +92,7 @@ class FormWindow {
   bool retired_ = false;
   SIZE designSize_{};
   std::wstring toolTipText_;
+  std::optional<POINT> menuPlace_;
 };
 
 }  // namespace windows

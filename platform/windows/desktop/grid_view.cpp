@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/windows/desktop/form_window.h"
-#include "platform/windows/desktop/lines_view.h"
+#include "platform/windows/desktop/list_columns.h"
 #include "platform/windows/wide_text.h"
 
 namespace windows {
@@ -22,24 +22,16 @@ void GridView::Create(HWND parent, int id) {
 }
 
 void GridView::ShowColumns() {
-  const auto count =
-      static_cast<int>(SendMessageW(reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0)), HDM_GETITEMCOUNT, 0, 0));
-  for (int surplus = count - 1; surplus >= grid_.Cols(); --surplus) {
-    SendMessageW(Handle(), LVM_DELETECOLUMN, static_cast<WPARAM>(surplus), 0);
-  }
-  for (int index = 0; index < grid_.Cols(); ++index) {
-    std::wstring text = grid_.FixedRows() > 0 ? Wide(grid_.TextMatrix(0, index)) : std::wstring();
-    LVCOLUMNW column{};
-    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
+  showingColumns_ = true;
+  windows::ShowColumns(Handle(), grid_.Cols(), [this](int index) {
     const GridAlignment alignment = grid_.ColAlignment(index);
-    column.fmt = alignment == GridAlignment::Right    ? LVCFMT_RIGHT
-                 : alignment == GridAlignment::Center ? LVCFMT_CENTER
-                                                      : LVCFMT_LEFT;
-    column.cx = Window().Measures().Pixels(grid_.ColWidth(index));
-    column.pszText = text.data();
-    SendMessageW(Handle(), index < count ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, static_cast<WPARAM>(index),
-                 reinterpret_cast<LPARAM>(&column));
-  }
+    const int format = alignment == GridAlignment::Right    ? LVCFMT_RIGHT
+                       : alignment == GridAlignment::Center ? LVCFMT_CENTER
+                                                            : LVCFMT_LEFT;
+    return ColumnLook{grid_.FixedRows() > 0 ? grid_.TextMatrix(0, index) : std::string(),
+                      Window().Measures().Pixels(grid_.ColWidth(index)), format};
+  });
+  showingColumns_ = false;
 }
 
 void GridView::ShowColors() {
@@ -219,6 +211,18 @@ std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
     default:
       return std::nullopt;
   }
+}
+
+std::optional<LRESULT> GridView::Intercept(UINT message, WPARAM, LPARAM lParam) {
+  if (message != WM_NOTIFY || showingColumns_) return std::nullopt;
+  const auto [column, newWidth] = ColumnPullOf(*reinterpret_cast<const NMHDR*>(lParam));
+  if (column < 0 || column >= grid_.Cols()) return std::nullopt;
+  if (newWidth) {
+    grid_.SetColWidth(column, Window().Measures().Twips(*newWidth));
+  } else if (grid_.ColWidth(column) == 0) {
+    return TRUE;  // a hidden column stays hidden
+  }
+  return std::nullopt;
 }
 
 void GridView::MouseMoved(POINT point) {

@@ -2,6 +2,7 @@
 
 #include "base/controls/flex_grid.h"
 #include "platform/windows/desktop/control_view.h"
+#include "platform/windows/desktop/lines_view.h"
 
 namespace windows {
 
@@ -15,6 +16,10 @@ class GridView : public ControlView {
   void Update(controls::Aspect aspect) override;
   std::optional<LRESULT> OnNotify(NMHDR& header) override;
   void MouseMoved(POINT point) override;
+
+ protected:
+  POINT MenuPlace() const override { return BelowFocusedLine(Handle()); }
+  std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
   void ShowColumns();
@@ -32,6 +37,7 @@ class GridView : public ControlView {
 
   controls::FlexGrid& grid_;
   bool updating_ = false;
+  bool showingColumns_ = false;
   // What the window shows, so that it is told of changes only. Items count from 0, without the heading.
   long shownTop_ = -1;
   long shownCount_ = -1;

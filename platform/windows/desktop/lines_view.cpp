@@ -1,6 +1,9 @@
 #include "platform/windows/desktop/lines_view.h"
 
+#include <algorithm>
+
 #include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/list_columns.h"
 #include "platform/windows/wide_text.h"
 
 namespace windows {
@@ -16,6 +19,18 @@ void CopyText(const std::string& text, LVITEMW& item) {
   item.pszText[length] = L'\0';
 }
 
+POINT BelowFocusedLine(HWND list) {
+  const LRESULT line = SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
+  RECT place{};
+  place.left = LVIR_LABEL;
+  RECT inside{};
+  GetClientRect(list, &inside);
+  const bool known =
+      line >= 0 && SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(&place)) != 0;
+  if (!known || place.bottom <= 0 || place.bottom > inside.bottom) return {};
+  return {std::max(0L, place.left), place.bottom};
+}
+
 void LinesView::Create(HWND parent, int id) {
   CreateChild(parent, id, WC_LISTVIEWW, "",
               WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_OWNERDATA | LVS_NOSORTHEADER, WS_EX_CLIENTEDGE);
@@ -29,20 +44,15 @@ void LinesView::Create(HWND parent, int id) {
 
 void LinesView::ShowColumns() {
   SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, list_.CheckBoxes() ? LVS_EX_CHECKBOXES : 0);
-  while (SendMessageW(Handle(), LVM_DELETECOLUMN, 0, 0) != 0) {
-  }
-  for (int index = 1; index <= list_.ColumnCount(); ++index) {
-    const controls::ColumnHeader& header = list_.Column(index);
-    std::wstring text = Wide(header.text);
-    LVCOLUMNW column{};
-    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
-    column.fmt = header.alignment == ColumnAlignment::Right    ? LVCFMT_RIGHT
-                 : header.alignment == ColumnAlignment::Center ? LVCFMT_CENTER
-                                                               : LVCFMT_LEFT;
-    column.cx = Window().Measures().Pixels(header.width);
-    column.pszText = text.data();
-    SendMessageW(Handle(), LVM_INSERTCOLUMNW, static_cast<WPARAM>(index - 1), reinterpret_cast<LPARAM>(&column));
-  }
+  showingColumns_ = true;
+  windows::ShowColumns(Handle(), list_.ColumnCount(), [this](int index) {
+    const controls::ColumnHeader& header = list_.Column(index + 1);
+    const int format = header.alignment == ColumnAlignment::Right    ? LVCFMT_RIGHT
+                       : header.alignment == ColumnAlignment::Center ? LVCFMT_CENTER
+                                                                     : LVCFMT_LEFT;
+    return ColumnLook{header.text, Window().Measures().Pixels(header.width), format};
+  });
+  showingColumns_ = false;
 }
 
 void LinesView::ShowLines() {
@@ -90,6 +100,7 @@ void LinesView::Clicked(const NMITEMACTIVATE& click) {
   hit.pt = click.ptAction;
   SendMessageW(Handle(), LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
   if (hit.iItem < 0 || hit.iItem >= list_.Count()) {
+    ShowLines();  // the window has let go of its line, the model has not
     list_.Click.Fire();
   } else if (list_.CheckBoxes() && (hit.flags & LVHT_ONITEMSTATEICON) != 0) {
     list_.CheckItem(hit.iItem + 1, !list_.Item(hit.iItem + 1).Checked());
@@ -132,6 +143,18 @@ std::optional<LRESULT> LinesView::OnNotify(NMHDR& header) {
     default:
       return std::nullopt;
   }
+}
+
+std::optional<LRESULT> LinesView::Intercept(UINT message, WPARAM, LPARAM lParam) {
+  if (message != WM_NOTIFY || showingColumns_) return std::nullopt;
+  const auto [column, newWidth] = ColumnPullOf(*reinterpret_cast<const NMHDR*>(lParam));
+  if (column < 0 || column >= list_.ColumnCount()) return std::nullopt;
+  if (newWidth) {
+    list_.SetColumnWidth(column + 1, Window().Measures().Twips(*newWidth));
+  } else if (list_.Column(column + 1).width == 0) {
+    return TRUE;  // a hidden column stays hidden
+  }
+  return std::nullopt;
 }
 
 std::string LinesView::ToolTipAt(POINT point) const {

@@ -5,6 +5,11 @@
 
 namespace windows {
 
+/// Copies a text into the buffer that the window offers, cut to its size.
+void CopyText(const std::string& text, LVITEMW& item);
+/// The lower left corner of the line that the keys are on; the list's own corner when that line is not in view.
+POINT BelowFocusedLine(HWND list);
+
 /// A list view model as a virtual list: the window asks for the lines it shows.
 class LinesView : public ControlView {
  public:
@@ -17,6 +22,8 @@ class LinesView : public ControlView {
 
  protected:
   void RightButtonAt(POINT point) override;
+  POINT MenuPlace() const override { return BelowFocusedLine(Handle()); }
+  std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
   void ShowColumns();
@@ -26,9 +33,7 @@ class LinesView : public ControlView {
 
   controls::ListView& list_;
   bool updating_ = false;
+  bool showingColumns_ = false;
 };
-
-/// Copies a text into the buffer that the window offers, cut to its size.
-void CopyText(const std::string& text, LVITEMW& item);
 
 }  // namespace windows

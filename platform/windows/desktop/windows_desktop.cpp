@@ -156,10 +156,11 @@ controls::Menu* WindowsDesktop::PopupMenu(controls::Form& form, controls::Menu& 
       AppendMenuW(popup, entries[i]->Enabled() ? MF_STRING : MF_STRING | MF_GRAYED, i + 1, Wide(entries[i]->Caption()).c_str());
     }
   }
-  POINT mouse{};
-  GetCursorPos(&mouse);
+  POINT place{};
+  GetCursorPos(&place);
+  if (FormWindow* window = WindowOf(form)) place = window->TakeMenuPlace().value_or(place);
   const auto chosen = static_cast<std::size_t>(
-      TrackPopupMenuEx(popup, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, mouse.x, mouse.y, OwnerFor(&form), nullptr));
+      TrackPopupMenuEx(popup, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, place.x, place.y, OwnerFor(&form), nullptr));
   DestroyMenu(popup);
   return chosen == 0 ? nullptr : entries[chosen - 1];
 }

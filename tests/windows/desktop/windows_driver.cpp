@@ -84,10 +84,12 @@ void DrivenDesktop::Opened(controls::Form& form) {
 LRESULT CALLBACK DrivenDesktop::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* desktop = reinterpret_cast<DrivenDesktop*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (desktop == nullptr || (message != kWork && message != WM_TIMER)) return DefWindowProcW(handle, message, wParam, lParam);
-  if (message == kWork)
+  if (message == kWork) {
     desktop->Guarded([&] { desktop->Work(); });
-  else
+  } else {
     desktop->AnswerMessageBox();
+    desktop->LeaveMenu();
+  }
   return 0;
 }
 
@@ -116,6 +118,15 @@ void DrivenDesktop::AnswerMessageBox() {
   const auto answer = static_cast<int>(answers.front());
   answers.pop_front();
   SendMessageW(box, WM_COMMAND, static_cast<WPARAM>(answer), reinterpret_cast<LPARAM>(GetDlgItem(box, answer)));
+}
+
+void DrivenDesktop::LeaveMenu() {
+  const HWND menu = FindWindowW(L"#32768", nullptr);
+  if (menu == nullptr || !IsWindowVisible(menu) || GetWindowThreadProcessId(menu, nullptr) != GetCurrentThreadId()) return;
+  RECT place{};
+  GetWindowRect(menu, &place);
+  menus.push_back(place);
+  EndMenu();
 }
 
 void WindowsDriver::Work(controls::Form& form, std::function<void()> hands) {

@@ -19,6 +19,7 @@ class DrivenDesktop : public windows::WindowsDesktop {
   std::deque<controls::Answer> answers;
   std::vector<std::string> messages;
   std::vector<HWND> messageOwners;
+  std::vector<RECT> menus;  ///< where pop-up menus opened; they are let go of at once
 
  protected:
   void Opened(controls::Form& form) override;
@@ -27,6 +28,7 @@ class DrivenDesktop : public windows::WindowsDesktop {
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
   void Work();
   void AnswerMessageBox();
+  void LeaveMenu();
 
   HWND window_ = nullptr;
 };

@@ -1,0 +1,123 @@
+// What people do with windows that a model knows nothing of: lists left open, columns pulled, menus by key.
+
+#include <gtest/gtest.h>
+
+#include "tests/base/controls/counter_form.h"
+#include "tests/windows/desktop/windows_driver.h"
+
+namespace counter {
+namespace {
+
+class WindowHabits : public testing::Test {
+ protected:
+  WindowsDriver person;
+  DrivenDesktop& desktop = person.Desktop();
+  std::shared_ptr<frmCounter> form = std::make_shared<frmCounter>(desktop);
+
+  HWND Window(controls::Control& control) { return desktop.HandleOf(control); }
+  static LRESULT SelectedLine(HWND list) { return SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED); }
+  static HWND HeaderOf(HWND list) { return reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0)); }
+  static LRESULT WidthOf(HWND list, int column) { return SendMessageW(list, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column), 0); }
+
+  /// The mouse gives a column another width, in pixels.
+  void Pull(HWND list, int column, int width) {
+    HDITEMW item{};
+    item.mask = HDI_WIDTH;
+    item.cxy = width;
+    SendMessageW(HeaderOf(list), HDM_SETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    desktop.DoEvents();
+  }
+  /// Whether the list lets the mouse take hold of a column's edge.
+  static bool LetsPull(HWND list, int column) {
+    NMHEADERW start{};
+    start.hdr = {HeaderOf(list), 0, HDN_BEGINTRACKW};
+    start.iItem = column;
+    return SendMessageW(list, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&start)) == 0;
+  }
+  void FillLines(int count) {
+    for (int line = 1; line <= count; ++line) form->lvwLines.Add("L" + std::to_string(line));
+    desktop.DoEvents();
+  }
+};
+
+TEST_F(WindowHabits, AnOpenListIsAsItIsShownWhateverLeavesIt) {
+  person.Work(*form, [&] {
+    for (const char* unit : {"Piece", "Box", "Carton"}) form->cboUnit.AddItem(unit);
+    form->cboUnit.SetListIndex(0);
+    form->cboUnit.SetFocus();
+    desktop.DoEvents();
+    SendMessageW(Window(form->cboUnit), CB_SHOWDROPDOWN, TRUE, 0);
+    person.Press("Down");
+    form->Tell(form->cboUnit.Click, "picked");
+    person.Press("Down");
+    person.Press("Tab");
+    EXPECT_NE(person.Focus(*form), "cboUnit");
+    EXPECT_EQ(person.Read(form->cboUnit, "ListIndex"), "2");
+    EXPECT_EQ(form->Told(), "picked") << "once for the entry, not again for leaving";
+  });
+}
+
+TEST_F(WindowHabits, APulledColumnKeepsItsWidthWhenTheListIsFilledAnew) {
+  person.Work(*form, [&] {
+    const HWND lines = Window(form->lvwLines);
+    Pull(lines, 1, 137);
+    form->lvwLines.SetColumnText(1, "Item");
+    FillLines(3);
+    EXPECT_EQ(WidthOf(lines, 1), 137);
+
+    form->tabPages.SetTab(1);
+    form->flexStock.SetFormatString("Id|Code|Quantity");
+    form->flexStock.SetColWidth(0, 0);
+    desktop.DoEvents();
+    const HWND stock = Window(form->flexStock);
+    Pull(stock, 2, 151);
+    form->flexStock.AddItem("7\tKT1003\t12");
+    form->flexStock.SetTextMatrix(0, 2, "Qty.");
+    desktop.DoEvents();
+    EXPECT_EQ(WidthOf(stock, 2), 151);
+    EXPECT_TRUE(LetsPull(stock, 2));
+    EXPECT_FALSE(LetsPull(stock, 0)) << "what is hidden stays hidden";
+  });
+}
+
+TEST_F(WindowHabits, AClickBelowTheLastLineLeavesTheLineSelected) {
+  person.Work(*form, [&] {
+    FillLines(2);
+    const HWND lines = Window(form->lvwLines);
+    RECT inside{};
+    GetClientRect(lines, &inside);
+    const LPARAM below = MAKELPARAM(20, inside.bottom - 20);
+    PostMessageW(lines, WM_LBUTTONDOWN, MK_LBUTTON, below);
+    PostMessageW(lines, WM_LBUTTONUP, 0, below);
+    desktop.DoEvents();
+    EXPECT_EQ(form->lvwLines.SelectedItem(), 1);
+    EXPECT_EQ(SelectedLine(lines), 0);
+  });
+}
+
+TEST_F(WindowHabits, TheMenuKeyOpensTheMenuAtTheLine) {
+  form->On(form->lvwLines.MouseUp, "lvwLines_MouseUp", [&](int button, int) {
+    if (button == controls::kRightButton) form->PopupMenu(form->mnuPopup);
+  });
+  person.Work(*form, [&] {
+    FillLines(3);
+    form->lvwLines.SetFocus();
+    person.Press("Down");
+    const HWND lines = Window(form->lvwLines);
+    SetCursorPos(0, 0);
+    PostMessageW(lines, WM_KEYDOWN, VK_APPS, 1);
+    PostMessageW(lines, WM_KEYUP, VK_APPS, 1);
+    desktop.DoEvents();
+    ASSERT_EQ(desktop.menus.size(), 1u);
+    RECT line{};
+    line.left = LVIR_BOUNDS;
+    SendMessageW(lines, LVM_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&line));
+    MapWindowPoints(lines, nullptr, reinterpret_cast<POINT*>(&line), 2);
+    EXPECT_NEAR(desktop.menus[0].top, line.bottom, 4);
+    EXPECT_GE(desktop.menus[0].left, line.left - 4);
+    EXPECT_LT(desktop.menus[0].left, line.right);
+  });
+}
+
+}  // namespace
+}  // namespace counter
