@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <charconv>
 #include <cstdint>
 #include <deque>
 #include <numeric>
@@ -56,26 +55,17 @@ std::string Folded(const std::string& text) {
   return folded;
 }
 
-/// Plain figures ("-12.5"), nearly all there is in a column of numbers, read without the runtime's whole number rules.
-bool ReadPlainNumber(const std::string& text, double& number) {
-  constexpr std::size_t kExactDigits = 15;
-  if (text.empty() || text.size() > kExactDigits || text.find_first_not_of("0123456789.-") != std::string::npos) return false;
-  const char* end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
-  return result.ec == std::errc() && result.ptr == end;
-}
-
 double NumberOf(const std::string& text) {
-  double number = 0;
-  return ReadPlainNumber(text, number) ? number : vb::Val(text);
+  const auto plain = vb::PlainNumber(text);
+  return plain ? *plain : vb::Val(text);
 }
 
 /// Whether the cell counts as a number in a generic sort.
 bool ReadGenericNumber(const std::string& text, double& number) {
   if (text.empty() || std::isalpha(static_cast<unsigned char>(text.front()))) return false;
-  if (ReadPlainNumber(text, number)) return true;
-  if (!vb::IsNumeric(text)) return false;
-  number = vb::CDbl(text);
+  const auto plain = vb::PlainNumber(text);
+  if (!plain && !vb::IsNumeric(text)) return false;
+  number = plain ? *plain : vb::CDbl(text);
   return true;
 }
 

@@ -168,6 +168,16 @@ bool IsNumeric(std::string_view text) {
   }
 }
 
+std::optional<double> PlainNumber(std::string_view text) {
+  constexpr std::size_t kExactDigits = 15;
+  if (text.empty() || text.size() > kExactDigits || text.find_first_not_of("0123456789.-") != std::string_view::npos) return {};
+  double number = 0;
+  const char* end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
+  if (result.ec != std::errc() || result.ptr != end) return {};
+  return number;
+}
+
 double CDbl(std::string_view text) {
   const auto value = ReadWhole(text);
   if (!value) Raise(kTypeMismatch);

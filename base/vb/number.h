@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,10 @@ double Val(std::string_view text);
 
 /// Whether the whole text reads as a number.
 bool IsNumeric(std::string_view text);
+
+/// Plain figures of up to fifteen characters ("-12.5"), nearly all there is in a list's numbers, read without the runtime's whole
+/// rules; nothing for any other text, which may be a number all the same.
+std::optional<double> PlainNumber(std::string_view text);
 
 /// The number that the whole text reads as; error 13 when IsNumeric is false.
 double CDbl(std::string_view text);

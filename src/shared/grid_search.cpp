@@ -1,5 +1,6 @@
 #include "src/shared/grid_search.h"
 
+#include <cctype>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,10 @@ class TypedText {
 
   /// Whether the cell begins with the typed text. A blank typed last counts: it asks for the end of a word.
   bool Matches(std::string_view cell) const {
-    const std::string start = vb::Left(vb::Trim(cell), length_);
-    if (numeric_) return vb::IsNumeric(start) && vb::CDbl(start) == number_;
+    cell = vb::Trim(cell);
+    if (!MayMatch(cell)) return false;
+    const std::string start = vb::Left(cell, length_);
+    if (numeric_) return IsTheNumber(start);
     return vb::EqualNoCase(vb::Trim(start), text_);
   }
 
@@ -32,6 +35,22 @@ class TypedText {
   bool IsAfter(std::string_view cell) const { return vb::CompareNoCase(vb::Trim(vb::Left(vb::Trim(cell), length_)), text_) < 0; }
 
  private:
+  /// A look at the first characters, which tells most cells apart: equal numbers that begin with a figure from 1 to 9 begin with
+  /// the same one, and none begins with a letter.
+  bool MayMatch(std::string_view trimmed) const {
+    if (trimmed.empty() || text_.empty()) return true;
+    const auto first = static_cast<unsigned char>(trimmed.front());
+    const auto wanted = static_cast<unsigned char>(text_.front());
+    const auto isFigure = [](unsigned char c) { return c >= '1' && c <= '9'; };
+    if (numeric_) return std::isalpha(first) == 0 && (first == wanted || !isFigure(first) || !isFigure(wanted));
+    return first > 0x7F || wanted > 0x7F || std::tolower(first) == std::tolower(wanted);
+  }
+
+  bool IsTheNumber(std::string_view start) const {
+    if (const auto plain = vb::PlainNumber(start)) return *plain == number_;
+    return vb::IsNumeric(start) && vb::CDbl(start) == number_;
+  }
+
   std::string text_;
   long length_;
   bool numeric_;

@@ -62,6 +62,13 @@ TEST_F(GridSearch, ComparesNumbersByValueAndFindsTheFirstOfThemWhateverTheirLeng
   EXPECT_EQ("none", Find(0, "7"));
 }
 
+TEST_F(GridSearch, ANumberIsFoundHoweverItIsWritten) {
+  Fill({{"1", "", "8 boxes"}, {"2", "", "-7.5"}, {"3", "", "7 boxes"}, {"5", "", "Seven"}});
+  EXPECT_EQ("3", Find(2, "07"));
+  EXPECT_EQ("2", Find(2, "-7.5"));
+  EXPECT_EQ("5", Find(2, "seven"));
+}
+
 TEST_F(GridSearch, ATypedZeroDoesNotFindWords) {
   Fill({{"1", "", "urgent"}, {"2", "", "0 left on shelf"}});
   EXPECT_EQ("2", Find(2, "0"));
