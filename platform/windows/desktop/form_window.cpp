@@ -28,6 +28,14 @@ DWORD FrameStyle(const controls::Form& form) {
   return form.IsResizable() ? frame | WS_THICKFRAME | WS_MAXIMIZEBOX : frame;
 }
 
+/// The part of a window's screen that windows may cover; of the first screen where there is no window.
+RECT ScreenAround(HWND window) {
+  MONITORINFO screen{};
+  screen.cbSize = sizeof(screen);
+  GetMonitorInfoW(MonitorFromWindow(window, window != nullptr ? MONITOR_DEFAULTTONEAREST : MONITOR_DEFAULTTOPRIMARY), &screen);
+  return screen.rcWork;
+}
+
 /// Frames and tabs are drawn below what stands on them.
 bool IsBackdrop(const controls::Control& control) {
   return control.Kind() == ControlKind::Frame || control.Kind() == ControlKind::TabControl;
@@ -72,6 +80,11 @@ FormWindow::FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner
   RECT frame{0, 0, metrics_.Pixels(form.Width()), metrics_.Pixels(form.Height())};
   AdjustWindowRectEx(&frame, FrameStyle(form), FALSE, WS_EX_DLGMODALFRAME);
   designSize_ = {frame.right - frame.left, frame.bottom - frame.top};
+  if (form.IsResizable()) {
+    // On a small screen the lists are shorter, so that the buttons below them can be reached.
+    const RECT screen = ScreenAround(owner);
+    designSize_ = {std::min(designSize_.cx, screen.right - screen.left), std::min(designSize_.cy, screen.bottom - screen.top)};
+  }
   handle_ = CreateWindowExW(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, FormClassName(&FormWindow::Procedure),
                             Wide(form.Caption()).c_str(), FrameStyle(form), 0, 0, designSize_.cx, designSize_.cy, owner, nullptr,
                             ThisModule(), this);
@@ -120,13 +133,16 @@ void FormWindow::CreateToolTips() {
 }
 
 void FormWindow::Show() {
-  RECT around{};
   const HWND owner = GetWindow(handle_, GW_OWNER);
-  if (owner == nullptr || !IsWindowVisible(owner) || !GetWindowRect(owner, &around)) {
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &around, 0);
-  }
-  const int left = std::max(0L, around.left + (around.right - around.left - designSize_.cx) / 2);
-  const int top = std::max(0L, around.top + (around.bottom - around.top - designSize_.cy) / 2);
+  const RECT screen = ScreenAround(owner);
+  RECT around = screen;
+  if (owner != nullptr && IsWindowVisible(owner)) GetWindowRect(owner, &around);
+  // Over the middle of its owner, but never beyond an edge of the screen; the title stays in reach in any case.
+  const auto place = [](LONG from, LONG to, LONG size, LONG first, LONG last) {
+    return std::max(first, std::min(from + (to - from - size) / 2, last - size));
+  };
+  const int left = place(around.left, around.right, designSize_.cx, screen.left, screen.right);
+  const int top = place(around.top, around.bottom, designSize_.cy, screen.top, screen.bottom);
   SetWindowPos(handle_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
   ShowWindow(handle_, SW_SHOW);
   UpdateWindow(handle_);

@@ -8,6 +8,28 @@
 namespace counter {
 namespace {
 
+/// A resizable form made for a larger screen than this one.
+class frmLarge : public controls::Form {
+ public:
+  explicit frmLarge(controls::Desktop& desktop) : Form(desktop, "frmLarge") {}
+
+  controls::ListView lvwLines{*this, "lvwLines"};
+  controls::CommandButton cmdClose{*this, "cmdClose"};
+
+ protected:
+  void Design() override {
+    SetSize(40000, 30000);
+    SetResizable(true);
+    lvwLines.Move(120, 120, 39760, 29000);
+    lvwLines.SetAnchors(controls::kAnchorLeft | controls::kAnchorTop | controls::kAnchorRight | controls::kAnchorBottom);
+    cmdClose.Move(38000, 29400, 1800, 420);
+    cmdClose.SetAnchors(controls::kAnchorRight | controls::kAnchorBottom);
+  }
+  void ReportError(std::string_view routine, const vb::RunTimeError& error) override {
+    FAIL() << routine << ": " << error.Description();
+  }
+};
+
 class WindowHabits : public testing::Test {
  protected:
   WindowsDriver person;
@@ -116,6 +138,33 @@ TEST_F(WindowHabits, TheMenuKeyOpensTheMenuAtTheLine) {
     EXPECT_NEAR(desktop.menus[0].top, line.bottom, 4);
     EXPECT_GE(desktop.menus[0].left, line.left - 4);
     EXPECT_LT(desktop.menus[0].left, line.right);
+  });
+}
+
+TEST_F(WindowHabits, AFormStaysOnTheScreen) {
+  RECT screen{};
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+  const auto isOnScreen = [&](controls::Form& shown) {
+    RECT window{};
+    GetWindowRect(desktop.HandleOf(shown), &window);
+    RECT both{};
+    return IntersectRect(&both, &screen, &window) && EqualRect(&both, &window);
+  };
+  const auto large = std::make_shared<frmLarge>(desktop);
+  form->On(form->cmdOk.Click, "cmdOk_Click", [&] { large->Show(form.get()); });
+  person.Work(*form, [&] {
+    // Its owner was pushed over the corner of the screen.
+    SetWindowPos(desktop.HandleOf(*form), nullptr, screen.right - 60, screen.bottom - 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    person.WorkInNext([&](controls::Form& top) {
+      EXPECT_TRUE(isOnScreen(top));
+      RECT list{};
+      GetWindowRect(Window(large->lvwLines), &list);
+      RECT button{};
+      GetWindowRect(Window(large->cmdClose), &button);
+      EXPECT_LE(list.bottom, button.top) << "the list gives way";
+      EXPECT_LE(button.bottom, screen.bottom);
+    });
+    person.Press("Alt+O");
   });
 }
 
