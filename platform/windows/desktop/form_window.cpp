@@ -193,22 +193,25 @@ RECT FormWindow::PlaceOf(const controls::Control& control) const {
     left += container->Place().left;
     top += container->Place().top;
   }
-  RECT rect{metrics_.Pixels(left), metrics_.Pixels(top), metrics_.Pixels(left + place.width),
-            metrics_.Pixels(top + place.height)};
-  RECT client{};
-  GetClientRect(handle_, &client);
-  const LONG wider = client.right - metrics_.Pixels(form_.Width());
-  const LONG higher = client.bottom - metrics_.Pixels(form_.Height());
-  const int anchors = control.Anchors();
-  if ((anchors & controls::kAnchorRight) != 0) {
-    rect.right += wider;
-    if ((anchors & controls::kAnchorLeft) == 0) rect.left += wider;
+  const RECT moved = EdgesMoved(&control);
+  return {metrics_.Pixels(left) + moved.left, metrics_.Pixels(top) + moved.top, metrics_.Pixels(left + place.width) + moved.right,
+          metrics_.Pixels(top + place.height) + moved.bottom};
+}
+
+RECT FormWindow::EdgesMoved(const controls::Control* control) const {
+  if (control == nullptr) {
+    RECT client{};
+    GetClientRect(handle_, &client);
+    return {0, 0, client.right - metrics_.Pixels(form_.Width()), client.bottom - metrics_.Pixels(form_.Height())};
   }
-  if ((anchors & controls::kAnchorBottom) != 0) {
-    rect.bottom += higher;
-    if ((anchors & controls::kAnchorTop) == 0) rect.top += higher;
-  }
-  return rect;
+  const RECT around = EdgesMoved(control->Container());
+  const int anchors = control->Anchors();
+  const bool right = (anchors & controls::kAnchorRight) != 0;
+  const bool bottom = (anchors & controls::kAnchorBottom) != 0;
+  const bool left = !right || (anchors & controls::kAnchorLeft) != 0;
+  const bool top = !bottom || (anchors & controls::kAnchorTop) != 0;
+  return {left ? around.left : around.right, top ? around.top : around.bottom, right ? around.right : around.left,
+          bottom ? around.bottom : around.top};
 }
 
 void FormWindow::Place() {

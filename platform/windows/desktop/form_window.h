@@ -70,6 +70,9 @@ class FormWindow {
   void Flush();
   void Place();
   RECT PlaceOf(const controls::Control& control) const;
+  /// How far each edge of a control, or of the form for null, lies from where it was designed, in pixels: an edge follows the
+  /// edge of the container that it is anchored to.
+  RECT EdgesMoved(const controls::Control* control) const;
   ControlView* ViewOf(HWND child) const;
   bool RunClipboardKey(ControlView& view, WPARAM key, bool control, bool shift);
   void RunNatively(ControlView& view, const MSG& message);

@@ -141,6 +141,32 @@ TEST_F(WindowHabits, TheMenuKeyOpensTheMenuAtTheLine) {
   });
 }
 
+TEST_F(WindowHabits, WhatStandsInAFrameMovesAndGrowsWithIt) {
+  person.Work(*form, [&] {
+    form->fraSort.SetAnchors(controls::kAnchorLeft | controls::kAnchorBottom | controls::kAnchorRight);
+    form->optDown.SetAnchors(controls::kAnchorRight | controls::kAnchorTop);
+    form->tabPages.SetAnchors(controls::kAnchorTop | controls::kAnchorRight);
+    const auto place = [&](controls::Control& control) {
+      RECT rect{};
+      GetWindowRect(Window(control), &rect);
+      return rect;
+    };
+    const RECT frame = place(form->fraSort), up = place(form->optUp), down = place(form->optDown), list = place(form->lvwLines);
+    RECT whole{};
+    GetWindowRect(desktop.HandleOf(*form), &whole);
+    SetWindowPos(desktop.HandleOf(*form), nullptr, 0, 0, whole.right - whole.left + 90, whole.bottom - whole.top + 60,
+                 SWP_NOMOVE | SWP_NOZORDER);
+    desktop.DoEvents();
+    EXPECT_EQ(place(form->fraSort).top - frame.top, 60);
+    EXPECT_EQ(place(form->fraSort).right - frame.right, 90);
+    EXPECT_EQ(place(form->optUp).top - up.top, 60) << "not left behind";
+    EXPECT_EQ(place(form->optUp).right - up.right, 0);
+    EXPECT_EQ(place(form->optDown).left - down.left, 90);
+    EXPECT_EQ(place(form->lvwLines).left - list.left, 90);
+    EXPECT_EQ(place(form->lvwLines).bottom - list.bottom, 0);
+  });
+}
+
 TEST_F(WindowHabits, AFormStaysOnTheScreen) {
   RECT screen{};
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
