@@ -77,9 +77,16 @@ std::optional<LRESULT> ControlView::Handle(UINT message, WPARAM wParam, LPARAM l
     case WM_SETFOCUS:
       window_.FocusArrived(*this);
       break;
-    case WM_MOUSEMOVE:
-      MouseMoved({static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
+    case WM_MOUSEMOVE: {
+      const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+      MouseMoved(point);
+      // By itself the tip of one window stays as it is, whichever cell the mouse goes on to.
+      if (std::string tip = ToolTipAt(point); tip != toolTip_) {
+        toolTip_ = std::move(tip);
+        window_.PopToolTip();
+      }
       break;
+    }
     case WM_RBUTTONDOWN:
       if (!OwnsRightButton()) break;
       RightButtonAt({static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});

@@ -76,6 +76,7 @@ class ControlView {
   FormWindow& window_;
   controls::Control& model_;
   HWND handle_ = nullptr;
+  std::string toolTip_;  ///< of the place the mouse was at last
 };
 
 /// The view for a model of any kind; null for kinds without a window of their own (menus, picture boxes).

@@ -49,6 +49,8 @@ class FormWindow {
   /// Runs work that came from a window procedure: no exception passes through the system, it waits for the message loop.
   void Guarded(const std::function<void()>& work);
   ControlView* ViewOf(const controls::Control* control) const;
+  /// Takes the tool tip away until the mouse rests again.
+  void PopToolTip() const { SendMessageW(toolTips_, TTM_POP, 0, 0); }
   /// Where on the screen the form's next menu opens: at the line that a key was pressed on, else at the mouse.
   void OpenNextMenuAt(std::optional<POINT> place) { menuPlace_ = place; }
   std::optional<POINT> TakeMenuPlace() { return std::exchange(menuPlace_, std::nullopt); }

@@ -164,10 +164,8 @@ LRESULT GridView::Paint(NMLVCUSTOMDRAW& draw) const {
 }
 
 void GridView::Clicked(const NMITEMACTIVATE& click) {
-  LVHITTESTINFO hit{};
-  hit.pt = click.ptAction;
-  SendMessageW(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
-  if (hit.iItem < 0 || RowOf(hit.iItem) >= grid_.Rows()) return;
+  const LVHITTESTINFO hit = CellAt(click.ptAction);
+  if (hit.iItem < 0) return;
   if ((click.uKeyFlags & LVKF_SHIFT) != 0) {
     grid_.SelectRange(grid_.Row(), RowOf(hit.iItem));
   } else {
@@ -225,12 +223,22 @@ std::optional<LRESULT> GridView::Intercept(UINT message, WPARAM, LPARAM lParam) 
   return std::nullopt;
 }
 
-void GridView::MouseMoved(POINT point) {
+LVHITTESTINFO GridView::CellAt(POINT point) const {
   LVHITTESTINFO hit{};
   hit.pt = point;
   SendMessageW(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
-  if (hit.iItem < 0 || RowOf(hit.iItem) >= grid_.Rows() || hit.iSubItem >= grid_.Cols()) return;
-  grid_.MoveMouse(RowOf(hit.iItem), hit.iSubItem);
+  if (hit.iItem >= 0 && RowOf(hit.iItem) >= grid_.Rows()) hit.iItem = -1;
+  return hit;
+}
+
+void GridView::MouseMoved(POINT point) {
+  const LVHITTESTINFO hit = CellAt(point);
+  if (hit.iItem >= 0 && hit.iSubItem < grid_.Cols()) grid_.MoveMouse(RowOf(hit.iItem), hit.iSubItem);
+}
+
+std::string GridView::ToolTipAt(POINT point) const {
+  // The text is that of the cell the mouse was over last: it says nothing of the room below the rows.
+  return CellAt(point).iItem < 0 ? std::string() : grid_.ToolTipText();
 }
 
 }  // namespace windows

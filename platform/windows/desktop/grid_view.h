@@ -16,6 +16,7 @@ class GridView : public ControlView {
   void Update(controls::Aspect aspect) override;
   std::optional<LRESULT> OnNotify(NMHDR& header) override;
   void MouseMoved(POINT point) override;
+  std::string ToolTipAt(POINT point) const override;
 
  protected:
   POINT MenuPlace() const override { return BelowFocusedLine(Handle()); }
@@ -32,6 +33,8 @@ class GridView : public ControlView {
   LRESULT Paint(NMLVCUSTOMDRAW& draw) const;
   void PaintCell(NMLVCUSTOMDRAW& draw) const;
   void Clicked(const NMITEMACTIVATE& click);
+  /// The cell under a point, as item and subitem of the window; an item below 0 where there is none.
+  LVHITTESTINFO CellAt(POINT point) const;
   long RowOf(int item) const { return item + grid_.FixedRows(); }
   bool IsSelected(long row) const;
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/windows/desktop/control_view.h"
+#include "platform/windows/wide_text.h"
 #include "tests/base/controls/counter_form.h"
 #include "tests/windows/desktop/windows_driver.h"
 
@@ -138,6 +140,41 @@ TEST_F(WindowHabits, TheMenuKeyOpensTheMenuAtTheLine) {
     EXPECT_NEAR(desktop.menus[0].top, line.bottom, 4);
     EXPECT_GE(desktop.menus[0].left, line.left - 4);
     EXPECT_LT(desktop.menus[0].left, line.right);
+  });
+}
+
+TEST_F(WindowHabits, TheToolTipFollowsTheMouseFromCellToCell) {
+  controls::FlexGrid& grid = form->flexStock;
+  form->On(grid.MouseMove, "flexStock_MouseMove",
+           [&] { grid.SetToolTipText(grid.TextMatrix(grid.MouseRow(), grid.MouseCol())); });
+  person.Work(*form, [&] {
+    form->tabPages.SetTab(1);
+    for (const char* row : {"KT1003\tFrying pan", "KT1001\tSoup bowl"}) grid.AddItem(row);
+    desktop.DoEvents();
+    const HWND window = Window(grid);
+    // The mouse rests on a row of the list, the room below its rows included, until a tip shows.
+    const auto tipOver = [&](int item) {
+      RECT row{};
+      row.left = LVIR_BOUNDS;
+      SendMessageW(window, LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+      POINT mouse{row.left + 10, row.top + 4 + item * (row.bottom - row.top)};
+      const auto place = static_cast<LPARAM>(MAKELONG(mouse.x, mouse.y));
+      ClientToScreen(window, &mouse);
+      SetCursorPos(mouse.x, mouse.y);
+      // The first move takes the old tip away, the second one starts to wait for the new.
+      for (int move = 0; move < 2; ++move) PostMessageW(window, WM_MOUSEMOVE, 0, place);
+      std::string shown;
+      for (int patience = 0; patience < 60 && shown.empty(); ++patience) {
+        desktop.DoEvents();
+        Sleep(50);
+        const HWND tip = FindWindowW(TOOLTIPS_CLASSW, nullptr);
+        if (tip != nullptr && IsWindowVisible(tip)) shown = windows::Utf8(windows::WindowText(tip));
+      }
+      return shown;
+    };
+    EXPECT_EQ(tipOver(grid.Rows() - 2), "KT1001");
+    EXPECT_EQ(tipOver(grid.Rows() - 3), "KT1003");
+    EXPECT_EQ(tipOver(grid.Rows() + 2), "") << "nothing is below the last row";
   });
 }
 
