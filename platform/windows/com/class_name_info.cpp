@@ -16,7 +16,7 @@ HRESULT ClassNameInfo::GetTypeAttr(TYPEATTR** attributes) {
   return Guard("", IID_ITypeInfo, [&] {
     auto made = std::make_unique<TYPEATTR>();
     *made = {};
-    made->typekind = TKIND_COCLASS;
+    made->typekind = kind_;
     made->memidConstructor = MEMBERID_NIL;
     made->memidDestructor = MEMBERID_NIL;
     *attributes = made.release();

@@ -6,10 +6,11 @@
 
 namespace windows {
 
-/// Type information of a class of which only the name is known; it lists no members.
+/// Type information of a class, or of its interface, of which only the name is known; it lists no members.
 class ClassNameInfo final : public ComObject<ClassNameInfo, ITypeInfo> {
  public:
-  explicit ClassNameInfo(std::string name) : name_(std::move(name)) {}
+  /// `kind` is TKIND_COCLASS or TKIND_DISPATCH.
+  ClassNameInfo(std::string name, TYPEKIND kind) : name_(std::move(name)), kind_(kind) {}
 
   void* Find(REFIID id);
 
@@ -37,6 +38,7 @@ class ClassNameInfo final : public ComObject<ClassNameInfo, ITypeInfo> {
 
  private:
   std::string name_;
+  TYPEKIND kind_;
 };
 
 }  // namespace windows

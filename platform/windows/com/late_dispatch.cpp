@@ -54,13 +54,12 @@ void* LateDispatch::Find(REFIID id) {
 
 HRESULT LateDispatch::GetTypeInfoCount(UINT* count) {
   if (!count) return E_POINTER;
-  *count = 0;
+  *count = 1;
   return S_OK;
 }
 
-HRESULT LateDispatch::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
-  if (info) *info = nullptr;
-  return DISP_E_BADINDEX;
+HRESULT LateDispatch::GetTypeInfo(UINT index, LCID, ITypeInfo** info) {
+  return index == 0 ? GiveName(info, TKIND_DISPATCH) : DISP_E_BADINDEX;
 }
 
 HRESULT LateDispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
@@ -76,10 +75,14 @@ HRESULT LateDispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* pa
 }
 
 HRESULT LateDispatch::GetClassInfo(ITypeInfo** info) {
+  return GiveName(info, TKIND_COCLASS);
+}
+
+HRESULT LateDispatch::GiveName(ITypeInfo** info, TYPEKIND kind) {
   if (!info) return E_POINTER;
   *info = nullptr;
   if (!object_) return RPC_E_DISCONNECTED;
-  return Guard("", IID_IProvideClassInfo, [&] { *info = MakeCom<ClassNameInfo>(object_->TypeName()).Detach(); });
+  return Guard("", IID_IProvideClassInfo, [&] { *info = MakeCom<ClassNameInfo>(object_->TypeName(), kind).Detach(); });
 }
 
 ComPtr<IDispatch> DispatchOf(const late::ObjectPtr& object) {

@@ -20,7 +20,6 @@ class LateDispatch final : public ComObject<LateDispatch, IDispatch, IProvideCla
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override;
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                                    EXCEPINFO* info, UINT* wrongArgument) override;
-  /// Type information that knows the class's name and nothing more; who asks for the type's name is answered.
   HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) override;
 
   const void* STDMETHODCALLTYPE Module() override { return ModuleMark(); }
@@ -31,6 +30,9 @@ class LateDispatch final : public ComObject<LateDispatch, IDispatch, IProvideCla
 
  private:
   ~LateDispatch() override;
+
+  /// Type information that knows the class's name and nothing more; who asks for the type's name is answered.
+  HRESULT GiveName(ITypeInfo** info, TYPEKIND kind);
 
   late::ObjectPtr object_;
 };

@@ -170,11 +170,16 @@ TEST_F(OwnObject, HasOneFaceAndComesBackAsItself) {
   EXPECT_EQ(DispatchOf(shelf).Get(), dispatch.Get());
   EXPECT_EQ(windows::ObjectOf(dispatch.Get()), shelf);
   const auto named = dispatch.As<IProvideClassInfo>(IID_IProvideClassInfo);
+  // Some callers ask the class for its name, others its interface.
   ComPtr<ITypeInfo> type;
   ASSERT_EQ(named->GetClassInfo(type.Receive()), S_OK);
-  BSTR name = nullptr;
-  type->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
-  EXPECT_EQ(Bstr(name).Text(), "Shelf");
+  ComPtr<ITypeInfo> interfaceType;
+  ASSERT_EQ(dispatch->GetTypeInfo(0, LOCALE_USER_DEFAULT, interfaceType.Receive()), S_OK);
+  for (ITypeInfo* asked : {type.Get(), interfaceType.Get()}) {
+    BSTR name = nullptr;
+    asked->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
+    EXPECT_EQ(Bstr(name).Text(), "Shelf");
+  }
 }
 
 TEST_F(OwnObject, MayBePartOfALargerOneThatItKeepsAlive) {
