@@ -91,10 +91,13 @@ bool FormWindow::HandleKey(const MSG& message) {
       if (message.wParam == VK_SHIFT || message.wParam == VK_CONTROL || message.wParam == VK_MENU) return false;
       if (view != nullptr) {
         view->Pull();
-        if (RunClipboardKey(*view, message.wParam, (key.shift & kCtrl) != 0, (key.shift & kShift) != 0)) return true;
+        const bool control = (key.shift & (kCtrl | kAlt)) == kCtrl;
+        if (RunClipboardKey(*view, message.wParam, control, (key.shift & kShift) != 0)) return true;
       }
       key.keyCode = static_cast<int>(message.wParam);
       key.character = TakeCharacter(message);
+      // The key for further characters is Ctrl and Alt at once to the system; what it gives is typed like any other.
+      if ((key.shift & (kCtrl | kAlt)) == (kCtrl | kAlt) && key.character >= U' ') key.shift &= ~(kCtrl | kAlt);
       break;
     case WM_CHAR:  // a character without a key of its own: input methods, other programs
       if (view != nullptr) view->Pull();

@@ -143,6 +143,21 @@ TEST_F(WindowHabits, TheMenuKeyOpensTheMenuAtTheLine) {
   });
 }
 
+TEST_F(WindowHabits, CharactersOfEveryKeyboardAreTypedAndPressNoButton) {
+  form->Tell(form->cmdOk.Click, "ok");
+  form->Tell(form->cmdClose.Click, "close");
+  person.Work(*form, [&] {
+    form->txtItem.SetFocus();
+    // Of a Polish keyboard: their letters are access keys, copy, cut and select the whole text elsewhere.
+    for (const auto& [key, character] : {std::pair{'O', L'\u00F3'}, {'C', L'\u0107'}, {'A', L'\u0105'}, {'X', L'\u017A'}}) {
+      person.PressFurther(key, character);
+    }
+    EXPECT_EQ(person.Read(form->txtItem, "Text"), "\u00F3\u0107\u0105\u017A");
+    EXPECT_EQ(form->Told(), "");
+    EXPECT_EQ(person.Focus(*form), "txtItem");
+  });
+}
+
 TEST_F(WindowHabits, TheToolTipFollowsTheMouseFromCellToCell) {
   controls::FlexGrid& grid = form->flexStock;
   form->On(grid.MouseMove, "flexStock_MouseMove",

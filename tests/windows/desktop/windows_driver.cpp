@@ -150,6 +150,14 @@ void WindowsDriver::Press(std::string_view name) {
   desktop_.DoEvents();
 }
 
+void WindowsDriver::PressFurther(char key, wchar_t character) {
+  const Held held(controls::kCtrl | controls::kAlt);
+  const HWND focus = GetFocus();
+  PostMessageW(focus, WM_KEYDOWN, static_cast<WPARAM>(key), 1);
+  PostMessageW(focus, WM_CHAR, character, 1);
+  desktop_.DoEvents();
+}
+
 void WindowsDriver::Type(controls::Control& control, std::string_view text) {
   controls::Form& form = control.Owner();
   const HWND window = desktop_.HandleOf(control);

@@ -44,6 +44,8 @@ class WindowsDriver : public ControlDriver {
   void Type(controls::Control& control, std::string_view text) override;
   void Paste(controls::Control& control, std::string_view text) override;
   void Press(std::string_view key) override;
+  /// A key that gives this character together with the key for further characters (AltGr) on somebody's keyboard.
+  void PressFurther(char key, wchar_t character);
   void Click(controls::Control& control) override;
   void Pick(controls::ComboBox& combo, int entry) override;
   void ClickLine(controls::ListView& list, int line) override;
