@@ -135,15 +135,20 @@ HWND FormOnScreen::Behind(const std::string& label) const {
 
 HWND FormOnScreen::List() const {
   HWND widest = nullptr;
-  LONG width = 0;
-  for (HWND child : ChildrenOf(form_)) {
-    RECT place{};
-    GetWindowRect(child, &place);
-    if (KindOf(child) != "SysListView32" || place.right - place.left <= width) continue;
-    widest = child;
-    width = place.right - place.left;
-  }
-  if (widest == nullptr) throw std::runtime_error("no list on " + Quoted(TextOf(form_)));
+  // While a page is turned there is none for a moment.
+  Wait(
+      [&] {
+        LONG width = 0;
+        for (HWND child : ChildrenOf(form_)) {
+          RECT place{};
+          GetWindowRect(child, &place);
+          if (KindOf(child) != "SysListView32" || place.right - place.left <= width) continue;
+          widest = child;
+          width = place.right - place.left;
+        }
+        return widest != nullptr;
+      },
+      "a list");
   return widest;
 }
 
