@@ -17,18 +17,25 @@ int ShiftState() {
   return (IsDown(VK_SHIFT) ? kShift : 0) | (IsDown(VK_CONTROL) ? kCtrl : 0) | (IsDown(VK_MENU) ? kAlt : 0);
 }
 
-/// The character that a key-down gives, taken out of the queue; 0 for keys without one. A pair of surrogates is one character.
+/// The character, or the half of one, that a key-down gives, taken out of the queue; 0 for keys without one.
 char32_t TakeCharacter(const MSG& keyDown) {
   TranslateMessage(&keyDown);
   MSG character{};
   if (!PeekMessageW(&character, keyDown.hwnd, WM_CHAR, WM_CHAR, PM_REMOVE)) return 0;
-  const auto unit = static_cast<char32_t>(character.wParam);
-  if (unit < 0xD800 || unit > 0xDBFF) return unit;
-  if (!PeekMessageW(&character, keyDown.hwnd, WM_CHAR, WM_CHAR, PM_REMOVE)) return 0xFFFD;
-  return 0x10000 + ((unit - 0xD800) << 10) + (static_cast<char32_t>(character.wParam) - 0xDC00);
+  return static_cast<char32_t>(character.wParam);
 }
 
 }  // namespace
+
+char32_t FormWindow::Whole(char32_t unit) {
+  const char32_t first = std::exchange(firstHalf_, U'\0');
+  if (unit < 0xD800 || unit > 0xDFFF) return unit;
+  if (unit < 0xDC00) {
+    firstHalf_ = unit;
+    return 0;
+  }
+  return first == 0 ? U'\xFFFD' : 0x10000 + ((first - 0xD800) << 10) + (unit - 0xDC00);
+}
 
 bool FormWindow::RunClipboardKey(ControlView& view, WPARAM key, bool control, bool shift) {
   if (control && !shift) {
@@ -95,13 +102,14 @@ bool FormWindow::HandleKey(const MSG& message) {
         if (RunClipboardKey(*view, message.wParam, control, (key.shift & kShift) != 0)) return true;
       }
       key.keyCode = static_cast<int>(message.wParam);
-      key.character = TakeCharacter(message);
+      key.character = Whole(TakeCharacter(message));
       // The key for further characters is Ctrl and Alt at once to the system; what it gives is typed like any other.
       if ((key.shift & (kCtrl | kAlt)) == (kCtrl | kAlt) && key.character >= U' ') key.shift &= ~(kCtrl | kAlt);
       break;
     case WM_CHAR:  // a character without a key of its own: input methods, other programs
       if (view != nullptr) view->Pull();
-      key.character = static_cast<char32_t>(message.wParam);
+      key.character = Whole(static_cast<char32_t>(message.wParam));
+      if (key.character == 0) return true;
       break;
     case WM_KEYUP:  // the model's keyboard has told of it
       // The system's own handling of the menu key would need the key to come down to the window, too.

@@ -76,6 +76,8 @@ class FormWindow {
   /// edge of the container that it is anchored to.
   RECT EdgesMoved(const controls::Control* control) const;
   ControlView* ViewOf(HWND child) const;
+  /// Joins the two halves in which the system may hand over a character; 0 for the first of them.
+  char32_t Whole(char32_t unit);
   bool RunClipboardKey(ControlView& view, WPARAM key, bool control, bool shift);
   void RunNatively(ControlView& view, const MSG& message);
   HBRUSH BrushFor(controls::Color color);
@@ -96,6 +98,7 @@ class FormWindow {
   bool movingFocus_ = false;
   bool retired_ = false;
   SIZE designSize_{};
+  char32_t firstHalf_ = 0;
   std::wstring toolTipText_;
   std::optional<POINT> menuPlace_;
 };

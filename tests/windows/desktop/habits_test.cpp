@@ -155,6 +155,13 @@ TEST_F(WindowHabits, CharactersOfEveryKeyboardAreTypedAndPressNoButton) {
     EXPECT_EQ(person.Read(form->txtItem, "Text"), "\u00F3\u0107\u0105\u017A");
     EXPECT_EQ(form->Told(), "");
     EXPECT_EQ(person.Focus(*form), "txtItem");
+    // An apple from the panel of pictures comes in two halves.
+    form->txtItem.SetText("");
+    for (const WPARAM half : {0xD83C, 0xDF4E}) {
+      PostMessageW(Window(form->txtItem), WM_CHAR, half, 1);
+      desktop.DoEvents();
+    }
+    EXPECT_EQ(person.Read(form->txtItem, "Text"), "\U0001F34E");
   });
 }
 
