@@ -109,6 +109,7 @@ TEST_F(FormLife, AFormUnloadedWhileItIsActivatedIsNotRun) {
   bool ran = false;
   driver.Work(*form, [&] { ran = true; });
   EXPECT_FALSE(ran);
+  driver.Desktop().hands.clear();  // nobody could work in it
   EXPECT_TRUE(driver.Desktop().Stack().empty());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <gtest/gtest.h>
 
 #include "tests/base/controls/control_driver.h"
 
@@ -31,6 +32,7 @@ class ModelDesktop : public controls::Desktop {
 /// The person as far as the models know one.
 class ModelDriver : public ControlDriver {
  public:
+  ~ModelDriver() override { EXPECT_TRUE(desktop_.hands.empty()) << "a form that somebody waited for never opened"; }
   ModelDesktop& Desktop() override { return desktop_; }
   void Work(controls::Form& form, std::function<void()> hands) override;
   void WorkInNext(std::function<void(controls::Form&)> hands) override { desktop_.hands.push_back(std::move(hands)); }

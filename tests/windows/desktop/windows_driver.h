@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <gtest/gtest.h>
 
 #include "platform/windows/desktop/common_controls.h"
 #include "platform/windows/desktop/windows_desktop.h"
@@ -36,6 +37,7 @@ class DrivenDesktop : public windows::WindowsDesktop {
 /// A person at the windows: posts keys and mouse buttons as the system does, and reads what the windows say.
 class WindowsDriver : public ControlDriver {
  public:
+  ~WindowsDriver() override { EXPECT_TRUE(desktop_.hands.empty()) << "a form that somebody waited for never opened"; }
   DrivenDesktop& Desktop() override { return desktop_; }
   void Work(controls::Form& form, std::function<void()> hands) override;
   void WorkInNext(std::function<void(controls::Form&)> hands) override { desktop_.hands.push_back(std::move(hands)); }
