@@ -231,11 +231,11 @@ TEST_F(Fetch, SortingFollowsTheListAndTheDirection) {
   });
 }
 
-/// Rows of code, description and brand that no two columns order alike.
 TEST_F(Fetch, SortCodesNameRangesOfColumns) {
   Open(ItemListMode::AllInShop, [&] {
     controls::FlexGrid& grid = dialog->flexMaster;
     grid.SetRows(1);
+    // No two columns order these alike.
     for (const auto* row : {"1\tA\tpot\tZeta", "2\tA\tcup\tZeta", "3\tB\tcup\tAlfa", "4\tA\tcup\tAlfa"}) grid.AddItem(row);
     const auto sorted = [&](std::int32_t code) {
       dialog->cboColNames.AddItem(std::to_string(code), code);

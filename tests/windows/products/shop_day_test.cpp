@@ -36,6 +36,13 @@ std::string Host(const ShopFolder& folder, const std::string& switches) {
   return std::string("\"") + HOST_PROGRAM + "\" --database \"" + folder.Database() + "\" " + switches;
 }
 
+/// The editor of a new request. `stockOut`: what is said to the proposal of the items that have run out.
+FormOnScreen NewRequest(Person& person, FormOnScreen& requests, const std::string& stockOut = "No") {
+  requests.Click("New");
+  EXPECT_EQ(person.Answers(stockOut), "Do you want to add stock out items?");
+  return person.Meets("Goods Request");
+}
+
 constexpr const char* kLoggedOn = "--unattended --company 1 --shop 1 --user 1 --date 15/03/2024";
 
 TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
@@ -51,9 +58,7 @@ TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
   requests.HasRow(15, {"28", "GR24/20", "15/03/2024", "Opened by mistake", "Yes", "No"});
 
   // A new request, without the stock-out items.
-  requests.Click("New");
-  EXPECT_EQ(nora.Answers("No"), "Do you want to add stock out items?");
-  FormOnScreen editor = nora.Meets("Goods Request");
+  FormOnScreen editor = NewRequest(nora, requests);
   editor.HasRows(0);
   editor.Shows("Request Date:", "15/03/2024");
   editor.Write("Remarks:", "For the new shelf");
@@ -154,17 +159,13 @@ TEST(ShopDay, ARequestIsFilledWithoutTypingACode) {
   FormOnScreen requests = nora.Meets("Goods Request to HQ");
 
   // What is out of stock would make a request of its own; not today.
-  requests.Click("New");
-  EXPECT_EQ(nora.Answers("Yes"), "Do you want to add stock out items?");
-  FormOnScreen editor = nora.Meets("Goods Request");
+  FormOnScreen editor = NewRequest(nora, requests, "Yes");
   editor.HasRows(27);
   editor.Press("Esc");
   editor.Goes();
 
   // Two customers are waiting; the first has come and gone.
-  requests.Click("New");
-  EXPECT_EQ(nora.Answers("No"), "Do you want to add stock out items?");
-  editor = nora.Meets("Goods Request");
+  editor = NewRequest(nora, requests);
   editor.Click("Customer Request");
   editor.TurnTo("Customer Requests");
   editor.HasRow(0, {"1", "CR24/101", ""});
@@ -263,9 +264,7 @@ TEST(ShopDay, TheListsGrowWithTheirWindows) {
   };
   FormOnScreen requests = nora.Meets("Goods Request to HQ");
   grows(requests);
-  requests.Click("New");
-  nora.Answers("No");
-  FormOnScreen editor = nora.Meets("Goods Request");
+  FormOnScreen editor = NewRequest(nora, requests);
   grows(editor);
   editor.Press("Esc");
   editor.Goes();
@@ -306,9 +305,7 @@ TEST(LogOn, TheChoiceIsCheckedTakenAndRemembered) {
     // That shop's requests, on that day.
     FormOnScreen requests = person.Meets("Goods Request to HQ");
     requests.HasRow(0, {"3", "2", "04/03/2024", "Dough for the week", "No", "No"});
-    requests.Click("New");
-    EXPECT_EQ(person.Answers("No"), "Do you want to add stock out items?");
-    FormOnScreen editor = person.Meets("Goods Request");
+    FormOnScreen editor = NewRequest(person, requests);
     editor.Shows("Request Date:", "14/03/2024");
     editor.Press("Esc");
     editor.Goes();
