@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/controls/form.h"
 #include "base/controls/keys.h"
 #include "base/vb/error.h"
 #include "base/vb/text.h"
@@ -62,6 +63,7 @@ void FlexGrid::SetCols(long cols) {
     if (row.cells.size() > columns_.size()) row.cells.resize(columns_.size());
     if (row.colors) row.colors->resize(columns_.size());
   }
+  if (sortedCol_ >= cols) sortedCol_ = -1;
   KeepCurrentInside();
   Changed(Aspect::Layout);
 }
@@ -243,6 +245,7 @@ void FlexGrid::RemoveItem(long row) {
 void FlexGrid::Clear() {
   Touch();
   for (GridRow& row : rows_) row = GridRow();
+  sortedCol_ = -1;
   ItemsChanged();
 }
 
@@ -285,6 +288,14 @@ void FlexGrid::ClickCell(long row, long col) {
   mouseCol_ = col;
   MoveCurrent(row, col);
   Click.Fire();
+}
+
+void FlexGrid::ClickHeading(long col) {
+  CheckCell(0, col);
+  mouseRow_ = 0;
+  mouseCol_ = col;
+  Click.Fire();
+  if (Owner().IsLoaded()) HeadingClick.Fire(col);
 }
 
 void FlexGrid::SelectRange(long firstRow, long lastRow) {
@@ -365,6 +376,8 @@ void FlexGrid::Reset() {
   row_ = col_ = rowSel_ = colSel_ = topRow_ = 1;
   mouseRow_ = mouseCol_ = 0;
   inOrderBy_ = kUnknown;
+  sortedCol_ = -1;
+  sortedAscending_ = true;
   formatString_.clear();
   backColorSel_ = kHighlight;
   foreColorSel_ = kHighlightText;

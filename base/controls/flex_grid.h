@@ -93,12 +93,20 @@ class FlexGrid : public Control {
   std::string Clip() const;
   void SetClip(std::string_view text);
 
+  /// The column whose heading shows by an arrow that the rows are sorted by it; -1 for none. A sort by itself shows none.
+  long SortedCol() const { return sortedCol_; }
+  bool SortedAscending() const { return sortedAscending_; }
+  /// The arrow points up for an ascending order. -1 takes it away, and so does Clear.
+  void ShowSortedBy(long col, bool ascending);
+
   /// The cell under the mouse.
   long MouseRow() const { return mouseRow_; }
   long MouseCol() const { return mouseCol_; }
 
   // What a person does.
   void ClickCell(long row, long col);
+  /// A click on the heading of a column: the current cell stays. Fires Click with the mouse on row 0, then HeadingClick.
+  void ClickHeading(long col);
   void SelectRange(long firstRow, long lastRow);
   void MoveMouse(long row, long col);  ///< fires MouseMove
   /// Arrow, page, home and end keys; whether the key was one of them.
@@ -106,6 +114,7 @@ class FlexGrid : public Control {
 
   Event<> RowColChange;
   Event<> SelChange;
+  Event<long> HeadingClick;  ///< the column
 
   void Reset() override;
   std::string TypeName() const override { return "MSHFlexGrid"; }
@@ -151,6 +160,8 @@ class FlexGrid : public Control {
   long row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
   long topRow_ = 1;
   long mouseRow_ = 0, mouseCol_ = 0;
+  long sortedCol_ = -1;
+  bool sortedAscending_ = true;
   mutable long inOrderBy_ = kUnknown;  // the column that the rows are known to be in order by
   std::string formatString_;
   Color backColorSel_ = kHighlight;

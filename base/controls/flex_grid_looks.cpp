@@ -70,6 +70,14 @@ void FlexGrid::SetColAlignment(long col, GridAlignment alignment) {
   Changed(Aspect::Layout);
 }
 
+void FlexGrid::ShowSortedBy(long col, bool ascending) {
+  if (col != -1) CheckColumn(*this, col);
+  if (col == sortedCol_ && ascending == sortedAscending_) return;
+  sortedCol_ = col;
+  sortedAscending_ = ascending;
+  Changed(Aspect::Layout);
+}
+
 Color FlexGrid::CellForeColor(long row, long col) const {
   CheckCell(row, col);
   const GridRow& cells = rows_[At(row)];

@@ -138,6 +138,7 @@ void frmLookup::SortBy(std::size_t column) {
   sortColumn_ = column;
   const Hourglass wait(*this);
   rows_->SortBy(column, ascending_);
+  flexMaster.ShowSortedBy(static_cast<long>(column), ascending_);
   FilterRows();
 }
 

@@ -192,7 +192,7 @@ std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
       grid_.DblClick.Fire();
       return 0;
     case LVN_COLUMNCLICK:
-      if (grid_.FixedRows() > 0) grid_.ClickCell(0, reinterpret_cast<NMLISTVIEW&>(header).iSubItem);
+      if (grid_.FixedRows() > 0) grid_.ClickHeading(reinterpret_cast<NMLISTVIEW&>(header).iSubItem);
       return 0;
     case LVN_ITEMCHANGED:
       // The mouse button went down on another row: it becomes current before the click that follows.

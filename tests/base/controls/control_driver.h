@@ -38,6 +38,7 @@ class ControlDriver {
   virtual void ClickLine(controls::ListView& list, int line) = 0;
   virtual void CheckLine(controls::ListView& list, int line, bool checked) = 0;
   virtual void ClickCell(controls::FlexGrid& grid, long row, long col) = 0;
+  virtual void ClickHeading(controls::FlexGrid& grid, long col) = 0;
 
   /// A property as the person sees it.
   virtual std::string Read(controls::Control& control, std::string_view property) = 0;

@@ -207,6 +207,30 @@ TEST_P(GridStory, APersonMovesByMouseAndKeysWithinTheData) {
   });
 }
 
+TEST_P(GridStory, AClickOnAHeadingIsReportedAndLeavesTheCurrentCell) {
+  form->On(Grid().HeadingClick, "HeadingClick", [&](long col) {
+    EXPECT_EQ(Grid().MouseRow(), 0);
+    EXPECT_EQ(Grid().MouseCol(), col);
+    Grid().ShowSortedBy(col, Grid().SortedCol() != col || !Grid().SortedAscending());
+  });
+  Work([&] {
+    form->tabPages.SetTab(1);
+    Grid().SetCols(3);
+    Grid().SetRows(30);
+    person->ClickCell(Grid(), 5, 1);
+    const auto arrow = [&](long col) {
+      person->ClickHeading(Grid(), col);
+      return std::to_string(Grid().SortedCol()) + (Grid().SortedAscending() ? " up" : " down");
+    };
+    EXPECT_EQ(arrow(2), "2 up");
+    EXPECT_EQ(arrow(2), "2 down");
+    EXPECT_EQ(arrow(1), "1 up");
+    EXPECT_EQ(Selection(), "5,1 to 5,1");
+    Grid().SetCols(1);
+    EXPECT_EQ(Grid().SortedCol(), -1) << "the column is gone";
+  });
+}
+
 TEST_P(GridStory, AListInOrderIsSoUntilItChanges) {
   Grid().SetFixedCols(0);
   Grid().SetCols(2);

@@ -87,6 +87,10 @@ void ModelDriver::ClickCell(controls::FlexGrid& grid, long row, long col) {
   if (grid.Owner().MoveFocus(&grid)) grid.ClickCell(row, col);
 }
 
+void ModelDriver::ClickHeading(controls::FlexGrid& grid, long col) {
+  grid.ClickHeading(col);
+}
+
 std::string ModelDriver::Read(controls::Control& control, std::string_view property) {
   return control.Get(property).TextOrEmpty();
 }

@@ -46,6 +46,7 @@ class ModelDriver : public ControlDriver {
   void ClickLine(controls::ListView& list, int line) override;
   void CheckLine(controls::ListView& list, int line, bool checked) override;
   void ClickCell(controls::FlexGrid& grid, long row, long col) override;
+  void ClickHeading(controls::FlexGrid& grid, long col) override;
   std::string Read(controls::Control& control, std::string_view property) override;
   std::string Focus(const controls::Form& form) const override;
 

@@ -237,6 +237,14 @@ void WindowsDriver::ClickCell(controls::FlexGrid& grid, long row, long col) {
   ClickAt(window, place.left + 4, (place.top + place.bottom) / 2);
 }
 
+void WindowsDriver::ClickHeading(controls::FlexGrid& grid, long col) {
+  desktop_.DoEvents();
+  const auto header = reinterpret_cast<HWND>(SendMessageW(desktop_.HandleOf(grid), LVM_GETHEADER, 0, 0));
+  RECT place{};
+  SendMessageW(header, HDM_GETITEMRECT, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&place));
+  ClickAt(header, (place.left + place.right) / 2, (place.top + place.bottom) / 2);
+}
+
 std::string WindowsDriver::Read(controls::Control& control, std::string_view property) {
   const std::string model = control.Get(property).TextOrEmpty();
   const HWND window = desktop_.HandleOf(control);
