@@ -26,9 +26,11 @@ void Desktop::ShowModal(Form& form, Form* owner) {
       RunModal(form);
     }
   } catch (...) {
+    if (form.IsLoaded()) form.Abandon();
     Drop(form);
     throw;
   }
+  if (form.IsShown()) form.Abandon();
   Drop(form);
   if (!stack_.empty()) stack_.back()->BecomeActive();
 }

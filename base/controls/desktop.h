@@ -32,6 +32,8 @@ class Desktop {
   virtual Menu* PopupMenu(Form& form, Menu& menu) = 0;
   /// Lets pending events run.
   virtual void DoEvents() {}
+  /// Whether the person has asked the system for colours of high contrast; nothing should be coloured over them then.
+  virtual bool IsHighContrast() const { return false; }
 
   // Notes about what the model did; the default desktop ignores them.
   virtual void Changed(Control&, Aspect) {}

@@ -72,6 +72,7 @@ void Form::Show(Form* owner) {
     vb::Raise(kAlreadyShown, "Form already displayed; can't show modally");
   }
   const auto keep = weak_from_this().lock();
+  if (abandoned_) BecomeUnloaded();
   Load();
   if (IsLoaded()) desktop_.ShowModal(*this, owner);
 }
@@ -95,14 +96,19 @@ bool Form::CloseWith(int mode) {
     if (stay) return false;
     Unloading.Fire();
   }
+  BecomeUnloaded();
+  desktop_.Unloaded(*this);
+  shown_ = false;
+  return true;
+}
+
+void Form::BecomeUnloaded() {
   state_ = State::Unloaded;
+  abandoned_ = false;
   activeControl_ = nullptr;
   requestedFocus_ = nullptr;
   pendingTab_ = false;
   ++focusMoves_;
-  desktop_.Unloaded(*this);
-  shown_ = false;
-  return true;
 }
 
 const std::string& Form::Caption() const {

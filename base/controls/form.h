@@ -102,6 +102,9 @@ class Form : public late::Object {
   // Called by the desktop.
   void BecomeActive();  ///< fires Activated, then gives the first control the focus if none has it
   void SetShown(bool shown) { shown_ = shown; }
+  /// The showing ended although the form is not unloaded: its window is gone, an error broke it off, it refused too often. The
+  /// next Show loads it afresh; until then what it holds can still be read.
+  void Abandon() { abandoned_ = true; }
 
   // Late-bound face: classic members, then controls and published fields by name.
   late::Value Invoke(std::string_view member, late::Access access, std::span<late::Value> arguments) override;
@@ -147,12 +150,14 @@ class Form : public late::Object {
   bool Leave(Control& left, Control* entered, unsigned move);
   void Enter(Control* control);
   bool CloseWith(int mode);
+  void BecomeUnloaded();
 
   controls::Desktop& desktop_;
   std::string name_;
   State state_ = State::Unloaded;
   bool shown_ = false;
   bool closing_ = false;
+  bool abandoned_ = false;
   std::string caption_;
   int width_ = 0, height_ = 0;
   bool resizable_ = false;

@@ -6,8 +6,11 @@ namespace goods {
 namespace {
 
 constexpr int kMaximisedWithFocus = 3;
-constexpr std::string_view kSlipArgument = "  c:\\Reqtohq.txt";
 constexpr std::string_view kUsualFile = "c:\\Reqtohq.txt";
+
+std::string Quoted(std::string_view path) {
+  return '"' + std::string(path) + '"';
+}
 
 }  // namespace
 
@@ -20,9 +23,14 @@ std::string TextViewer(basGoodsRequest& session) {
 void ShowTextFile(basGoodsRequest& session, std::string_view viewer, std::string_view file) {
   controls::Workstation& workstation = session.services.workstation;
   const bool usualFile = file.empty() || vb::EqualNoCase(file, kUsualFile);
-  const std::string argument = usualFile ? std::string(kSlipArgument) : "  " + std::string(file);
-  const bool present = workstation.FileExists(vb::RTrim(viewer));
-  workstation.StartProgram((present ? std::string(viewer) : std::string("notepad.exe ")) + argument, kMaximisedWithFocus);
+  std::string command;
+  if (workstation.FileExists(vb::RTrim(viewer))) {
+    command = std::string(viewer) + "  " + std::string(usualFile ? kUsualFile : file);
+  } else {
+    // By its bare name the system would look for it in the current folder and the host's first.
+    command = Quoted(workstation.WindowsDirectory() + "\\notepad.exe") + " " + Quoted(usualFile ? kUsualFile : file);
+  }
+  workstation.StartProgram(command, kMaximisedWithFocus);
 }
 
 }  // namespace goods

@@ -11,8 +11,9 @@ namespace goods {
 /// it.
 std::string TextViewer(basGoodsRequest& session);
 
-/// Starts the viewer, maximised, on the slip; does not wait. Where the viewer does not exist, the system's notepad takes its
-/// place. Error 53 when neither can be started. `file` empty (the slip could not be written) shows the usual file all the same.
+/// Starts the viewer, maximised, on the slip; does not wait. Where the viewer does not exist, the Windows directory's
+/// notepad takes its place. Error 53 when neither can be started. `file` empty (the slip could not be written) shows the usual
+/// file all the same.
 void ShowTextFile(basGoodsRequest& session, std::string_view viewer, std::string_view file);
 
 }  // namespace goods

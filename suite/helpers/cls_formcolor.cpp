@@ -18,6 +18,7 @@ constexpr std::int32_t Rgb(int red, int green, int blue) {
 
 constexpr std::int32_t kFace = Rgb(234, 240, 246);   // forms, frames, labels, options
 constexpr std::int32_t kField = Rgb(255, 255, 250);  // what is typed into
+constexpr std::int32_t kText = Rgb(16, 24, 32);      // what is typed and listed
 constexpr std::int32_t kCaption = Rgb(26, 54, 93);   // captions
 constexpr std::array<std::string_view, 5> kFields = {"TextBox", "ComboBox", "ListView", "MSHFlexGrid", "ListBox"};
 constexpr std::array<std::string_view, 6> kFaces = {"Label", "Frame", "OptionButton", "CheckBox", "PictureBox", "SSTab"};
@@ -26,12 +27,16 @@ bool IsOneOf(const auto& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
+void ColorBoth(late::Object& object, std::int32_t back, std::int32_t fore) {
+  object.Put("BackColor", back);
+  object.Put("ForeColor", fore);
+}
+
 void ColorControl(late::Object& control) {
   const std::string kind = control.TypeName();
-  if (IsOneOf(kFields, kind)) control.Put("BackColor", kField);
-  if (!IsOneOf(kFaces, kind)) return;
-  control.Put("BackColor", kFace);
-  control.Put("ForeColor", kCaption);
+  // A background never goes without its text: the system's own may be light.
+  if (IsOneOf(kFields, kind)) ColorBoth(control, kField, kText);
+  if (IsOneOf(kFaces, kind)) ColorBoth(control, kFace, kCaption);
 }
 
 }  // namespace
@@ -39,14 +44,14 @@ void ColorControl(late::Object& control) {
 const late::MemberTable<clsFormcolor>& clsFormcolor::Members() {
   static const late::MemberTable<clsFormcolor> table{
       {"Applyformcolor",
-       [](clsFormcolor&, Arguments& arguments) {
-         Applyformcolor(*arguments[0].ToObject());
+       [](clsFormcolor& self, Arguments& arguments) {
+         Applyformcolor(*arguments[0].ToObject(), self.surroundings_->desktop);
          return Value();
        },
        nullptr, 1, 1},
       {"Applytabcolor",
-       [](clsFormcolor&, Arguments& arguments) {
-         Applytabcolor(*arguments[0].ToObject());
+       [](clsFormcolor& self, Arguments& arguments) {
+         Applytabcolor(*arguments[0].ToObject(), self.surroundings_->desktop);
          return Value();
        },
        nullptr, 1, 1},
@@ -54,16 +59,16 @@ const late::MemberTable<clsFormcolor>& clsFormcolor::Members() {
   return table;
 }
 
-void clsFormcolor::Applyformcolor(late::Object& form) {
+void clsFormcolor::Applyformcolor(late::Object& form, const controls::Desktop& desktop) {
+  if (desktop.IsHighContrast()) return;
   form.Put("BackColor", kFace);
   const late::ObjectPtr controls = form.Get("Controls").ToObject();
   const std::int32_t count = controls->Get("Count").ToInt32();
   for (std::int32_t index = 0; index < count; ++index) ColorControl(*controls->Get("Item", {index}).ToObject());
 }
 
-void clsFormcolor::Applytabcolor(late::Object& tab) {
-  tab.Put("BackColor", kFace);
-  tab.Put("ForeColor", kCaption);
+void clsFormcolor::Applytabcolor(late::Object& tab, const controls::Desktop& desktop) {
+  if (!desktop.IsHighContrast()) ColorBoth(tab, kFace, kCaption);
 }
 
 }  // namespace suite

@@ -1,19 +1,27 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <utility>
 
 #include "base/late/object.h"
+#include "suite/helpers/surroundings.h"
 
 namespace suite {
 
-/// Stand-in of the suite's form colouring: one calm scheme for all forms. Reaches forms and controls by member name.
+/// Stand-in of the suite's form colouring: one calm scheme for all forms, which steps back while the person has asked the
+/// system for high contrast. Reaches forms and controls by member name.
 class clsFormcolor : public late::TableObject<clsFormcolor> {
  public:
+  explicit clsFormcolor(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
   static const late::MemberTable<clsFormcolor>& Members();
   std::string TypeName() const override { return "clsFormcolor"; }
 
-  static void Applyformcolor(late::Object& form);
-  static void Applytabcolor(late::Object& tab);
+  static void Applyformcolor(late::Object& form, const controls::Desktop& desktop);
+  static void Applytabcolor(late::Object& tab, const controls::Desktop& desktop);
+
+ private:
+  std::shared_ptr<Surroundings> surroundings_;
 };
 
 }  // namespace suite

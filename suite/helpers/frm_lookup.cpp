@@ -65,7 +65,7 @@ void frmLookup::Design() {
 
 void frmLookup::Form_Load() {
   SetCaption(caption_);
-  clsFormcolor::Applyformcolor(*this);
+  clsFormcolor::Applyformcolor(*this, Desktop());
   flexMaster.SetFixedCols(0);
   flexMaster.SetCols(static_cast<long>(columns_.size()));
   int searched = 0;  // the first column shown, where the one to search first is none of them

@@ -14,7 +14,7 @@ void RegisterHelpers(late::ClassRegistry& registry, std::shared_ptr<Surroundings
   registry.Register("ShopCommon.clsCommonDB", [surroundings] { return std::make_shared<clsCommonDB>(surroundings); });
   registry.Register("ShopCommon.clsCommonGen", [] { return std::make_shared<clsCommonGen>(); });
   registry.Register("Lookup.clsFetch", [surroundings] { return std::make_shared<clsFetch>(surroundings); });
-  registry.Register("Theme.clsFormcolor", [] { return std::make_shared<clsFormcolor>(); });
+  registry.Register("Theme.clsFormcolor", [surroundings] { return std::make_shared<clsFormcolor>(surroundings); });
   registry.Register("Audit.clsUserAuditing", [surroundings] { return std::make_shared<clsUserAuditing>(surroundings); });
   registry.Register("GridPrefs.clsMasterGridSetting",
                     [surroundings] { return std::make_shared<clsMasterGridSetting>(surroundings); });

@@ -1,7 +1,10 @@
 #include "platform/windows/desktop/control_view.h"
 
+#include <utility>
+
 #include "base/controls/keys.h"
 #include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/window_class.h"
 #include "platform/windows/wide_text.h"
 
 namespace windows {
@@ -21,14 +24,17 @@ std::wstring WindowText(HWND handle) {
 
 ControlView::~ControlView() {
   if (handle_ == nullptr) return;
-  RemoveWindowSubclass(handle_, &ControlView::Subclass, 1);
-  DestroyWindow(handle_);
+  const HWND handle = std::exchange(handle_, nullptr);
+  RemoveWindowSubclass(handle, &ControlView::Subclass, 1);
+  DestroyWindow(handle);
 }
 
 HWND ControlView::CreateChild(HWND parent, int id, const wchar_t* windowClass, const std::string& text, DWORD style,
                               DWORD extendedStyle) {
+  SetLastError(ERROR_SUCCESS);
   handle_ = CreateWindowExW(extendedStyle, windowClass, Wide(text).c_str(), style | WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 10, 10,
                             parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ThisModule(), nullptr);
+  if (handle_ == nullptr) RaiseNoWindow(model_.Name());
   SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(window_.Measures().Font()), FALSE);
   SetWindowSubclass(handle_, &ControlView::Subclass, 1, reinterpret_cast<DWORD_PTR>(this));
   return handle_;
@@ -66,6 +72,12 @@ void ControlView::RightClick(int shift) {
 
 LRESULT CALLBACK ControlView::Subclass(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
   auto* view = reinterpret_cast<ControlView*>(data);
+  if (message == WM_NCDESTROY) {
+    // Whoever destroyed it: the handle may soon be another window's.
+    RemoveWindowSubclass(handle, &ControlView::Subclass, 1);
+    view->handle_ = nullptr;
+    return DefSubclassProc(handle, message, wParam, lParam);
+  }
   std::optional<LRESULT> answer;
   if (view->window_.IsRetired()) return DefSubclassProc(handle, message, wParam, lParam);
   view->window_.Guarded([&] { answer = view->Handle(message, wParam, lParam); });

@@ -85,20 +85,35 @@ FormWindow::FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner
     const RECT screen = ScreenAround(owner);
     designSize_ = {std::min(designSize_.cx, screen.right - screen.left), std::min(designSize_.cy, screen.bottom - screen.top)};
   }
+  SetLastError(ERROR_SUCCESS);
   handle_ = CreateWindowExW(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, FormClassName(&FormWindow::Procedure),
                             Wide(form.Caption()).c_str(), FrameStyle(form), 0, 0, designSize_.cx, designSize_.cy, owner, nullptr,
                             ThisModule(), this);
-  CreateViews();
-  CreateToolTips();
-  Place();
+  if (handle_ == nullptr) RaiseNoWindow(form.Name());
+  for (const WPARAM size : {ICON_SMALL, ICON_BIG})
+    SendMessageW(handle_, WM_SETICON, size, reinterpret_cast<LPARAM>(FormIcon(size)));
+  try {
+    CreateViews();
+    CreateToolTips();
+    Place();
+  } catch (...) {
+    Destroy();
+    throw;
+  }
 }
 
 FormWindow::~FormWindow() {
+  Destroy();
+}
+
+void FormWindow::Destroy() {
   retired_ = true;
   views_.clear();
-  if (toolTips_ != nullptr) DestroyWindow(toolTips_);
-  SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
-  DestroyWindow(handle_);
+  if (!gone_) {
+    if (toolTips_ != nullptr) DestroyWindow(toolTips_);
+    SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+    DestroyWindow(handle_);
+  }
   for (const auto& [color, brush] : brushes_) DeleteObject(brush);
 }
 
@@ -151,6 +166,16 @@ void FormWindow::Show() {
 void FormWindow::Retire() {
   retired_ = true;
   ShowWindow(handle_, SW_HIDE);
+}
+
+void FormWindow::BecomeGone() {
+  gone_ = true;
+  retired_ = true;
+  // A menu of the form's would wait for its owner. The message wakes a loop that waits while another thread's call destroys.
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof(thread);
+  if (GetGUIThreadInfo(GetCurrentThreadId(), &thread) && thread.hwndMenuOwner == handle_) EndMenu();
+  PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
 void FormWindow::UpdateFrame() {
@@ -252,6 +277,9 @@ ControlView* FormWindow::ViewOf(HWND child) const {
 
 void FormWindow::FocusMoved(controls::Control* control) {
   if (arrange_ || !dirty_.empty()) Flush();  // the control may just have been shown or enabled
+  // With another window in front (a preview), the focus waits until the form is active again.
+  const HWND active = GetActiveWindow();
+  if (active != nullptr && active != handle_) return;
   ControlView* view = ViewOf(control);
   movingFocus_ = true;
   SetFocus(view != nullptr ? view->Handle() : handle_);
@@ -282,6 +310,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND handle, UINT message, WPARAM wParam,
   auto* window = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   LRESULT answer = 0;
   bool handled = false;
+  if (message == WM_DESTROY && window != nullptr && window->handle_ != nullptr && !window->retired_) window->BecomeGone();
   if (window != nullptr && window->handle_ != nullptr && !window->retired_) {
     window->Guarded([&] { handled = window->Handle(message, wParam, lParam, answer); });
   }
@@ -332,7 +361,8 @@ void FormWindow::ShowToolTip(NMTTDISPINFOW& info) {
 bool FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) {
   switch (message) {
     case WM_CLOSE:
-      form_.CloseByUser();
+      // The task list closes a form below an open one, too; only the one on top can be closed.
+      if (IsWindowEnabled(handle_)) form_.CloseByUser();
       return true;
     case WM_SIZE:
       Place();

@@ -22,6 +22,7 @@ class WindowsDesktop;
 /// showing to its closing.
 class FormWindow {
  public:
+  /// Raises error 7 when the system, or a hook of the host's, refuses the window or one inside it.
   FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner);
   ~FormWindow();
   FormWindow(const FormWindow&) = delete;
@@ -35,6 +36,8 @@ class FormWindow {
   /// The form has left the screen: the window may wait for its destruction, but no message of it reaches the model any more.
   void Retire();
   bool IsRetired() const { return retired_; }
+  /// Whether somebody else has destroyed the window: whoever destroys its owner, as a rule.
+  bool IsGone() const { return gone_; }
   /// Caption, size and colour from the model.
   void UpdateFrame();
   void UpdateControl(controls::Control& control, controls::Aspect aspect);
@@ -66,6 +69,9 @@ class FormWindow {
   bool Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer);
   LRESULT Paint(UINT message, WPARAM wParam, LPARAM lParam);
   bool Notify(NMHDR& header, LRESULT& answer);
+  void Destroy();
+  /// Somebody else destroys the window: the form is closed once the messages at hand are done.
+  void BecomeGone();
   void CreateViews();
   void CreateToolTips();
   void ShowToolTip(NMTTDISPINFOW& info);
@@ -97,6 +103,7 @@ class FormWindow {
   bool arrange_ = false;
   bool movingFocus_ = false;
   bool retired_ = false;
+  bool gone_ = false;
   SIZE designSize_{};
   char32_t firstHalf_ = 0;
   std::wstring toolTipText_;

@@ -1,5 +1,8 @@
 #include "platform/windows/desktop/windows_desktop.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "base/controls/form.h"
 #include "base/controls/menu.h"
 #include "platform/windows/desktop/form_window.h"
@@ -7,6 +10,8 @@
 
 namespace windows {
 namespace {
+
+constexpr int kMostRefusals = 3;  // of a form that must close because its window is gone
 
 struct WindowSearch {
   HWND except;
@@ -18,6 +23,23 @@ BOOL CALLBACK NoteEnabledWindow(HWND window, LPARAM data) {
   auto& search = *reinterpret_cast<WindowSearch*>(data);
   if (window != search.except && IsWindowVisible(window) && IsWindowEnabled(window)) search.found.push_back(window);
   return TRUE;
+}
+
+BOOL CALLBACK NoteUnownedWindow(HWND window, LPARAM data) {
+  if (!IsWindowVisible(window) || GetWindow(window, GW_OWNER) != nullptr) return TRUE;
+  *reinterpret_cast<HWND*>(data) = window;
+  return FALSE;
+}
+
+/// What a window of this thread is put over while none is active, because the person has switched to another program: the first
+/// visible window without an owner, or what was opened over it last. Null when there is none.
+HWND MainWindowOfThread() {
+  HWND found = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), NoteUnownedWindow, reinterpret_cast<LPARAM>(&found));
+  if (found == nullptr) return nullptr;
+  const HWND last = GetLastActivePopup(found);
+  const bool isHere = last != nullptr && IsWindowVisible(last) && GetWindowThreadProcessId(last, nullptr) == GetCurrentThreadId();
+  return isHere ? last : found;
 }
 
 /// The visible, enabled top-level windows of this thread but `except`.
@@ -34,7 +56,7 @@ WindowsDesktop::~WindowsDesktop() = default;
 
 FormWindow* WindowsDesktop::WindowOf(const controls::Form& form) const {
   const auto found = showings_.find(&form);
-  return found == showings_.end() ? nullptr : found->second.window.get();
+  return found == showings_.end() || found->second.window->IsGone() ? nullptr : found->second.window.get();
 }
 
 HWND WindowsDesktop::HandleOf(const controls::Form& form) const {
@@ -50,14 +72,25 @@ HWND WindowsDesktop::HandleOf(const controls::Control& control) const {
 
 HWND WindowsDesktop::OwnerFor(const controls::Form* form) const {
   const HWND window = form != nullptr ? HandleOf(*form) : nullptr;
-  return window != nullptr ? window : GetActiveWindow();
+  if (window != nullptr) return window;
+  const HWND active = GetActiveWindow();
+  return active != nullptr ? active : MainWindowOfThread();
+}
+
+bool WindowsDesktop::IsCutOff() const {
+  return std::ranges::any_of(Stack(), [this](const controls::Form* form) {
+    const auto found = showings_.find(form);
+    return found != showings_.end() && found->second.window->IsGone();
+  });
 }
 
 void WindowsDesktop::Opening(controls::Form& form, controls::Form* owner) {
-  Showing& showing = showings_[&form];
-  showing.owner = OwnerFor(owner);
-  showing.depth = depth_;
-  showing.window = std::make_unique<FormWindow>(*this, form, showing.owner);
+  if (IsCutOff()) return;  // closed again unseen
+  Showing opened;
+  opened.owner = OwnerFor(owner);
+  opened.depth = depth_;
+  opened.window = std::make_unique<FormWindow>(*this, form, opened.owner);
+  Showing& showing = showings_[&form] = std::move(opened);
   for (HWND window : EnabledWindowsOfThread(showing.window->Handle())) {
     EnableWindow(window, FALSE);
     showing.disabled.push_back(window);
@@ -72,7 +105,9 @@ void WindowsDesktop::Closed(controls::Form& form) {
   showings_.erase(found);
   // The owner is enabled before the window goes: otherwise the system would activate some other program's window.
   for (HWND window : showing.disabled) EnableWindow(window, TRUE);
-  if (showing.owner != nullptr) SetActiveWindow(showing.owner);
+  // What was opened over the form, a preview, stays in front.
+  const bool isInFront = !showing.window->IsGone() && GetActiveWindow() == showing.window->Handle();
+  if (isInFront && showing.owner != nullptr) SetActiveWindow(showing.owner);
   if (showing.depth == depth_) return;
   showing.window->Retire();
   leaving_.push_back(std::move(showing));
@@ -110,8 +145,13 @@ void WindowsDesktop::Dispatch(MSG& message) {
   DispatchMessageW(&message);
 }
 
+void WindowsDesktop::CloseUnasked(controls::Form& form) {
+  for (int refusals = 0; form.IsShown() && refusals < kMostRefusals; ++refusals) form.CloseByUser();
+}
+
 void WindowsDesktop::RunModal(controls::Form& form) {
-  while (form.IsShown() && WindowOf(form) != nullptr) {
+  while (form.IsShown()) {
+    if (IsCutOff()) return CloseUnasked(form);
     MSG message{};
     const BOOL got = GetMessageW(&message, nullptr, 0, 0);
     if (got <= 0) {
@@ -123,6 +163,13 @@ void WindowsDesktop::RunModal(controls::Form& form) {
     DestroyLeaving();
     RaisePending();
   }
+}
+
+bool WindowsDesktop::IsHighContrast() const {
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof(contrast);
+  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) &&
+         (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
 void WindowsDesktop::DoEvents() {
@@ -137,6 +184,7 @@ void WindowsDesktop::DoEvents() {
 }
 
 controls::Answer WindowsDesktop::MsgBox(controls::Form* owner, const controls::Message& message) {
+  if (IsCutOff()) return message.AnswerOf(message.DefaultButton());
   const HWND window = OwnerFor(owner != nullptr ? owner : ActiveForm());
   // The style numbers are the system's own.
   UINT style = static_cast<UINT>(message.style);

@@ -22,6 +22,7 @@ class WindowsDesktop : public controls::Desktop {
   controls::Answer MsgBox(controls::Form* owner, const controls::Message& message) override;
   controls::Menu* PopupMenu(controls::Form& form, controls::Menu& menu) override;
   void DoEvents() override;
+  bool IsHighContrast() const override;
 
   void Changed(controls::Control& control, controls::Aspect aspect) override;
   void FormChanged(controls::Form& form) override;
@@ -49,8 +50,13 @@ class WindowsDesktop : public controls::Desktop {
     std::vector<HWND> disabled;  ///< the thread's windows that this form disabled, to be enabled again
   };
   FormWindow* WindowOf(const controls::Form& form) const;
-  /// What a window on top of this form belongs to: the form's window, the host's active one when it has none.
+  /// What a window on top of this form belongs to: the form's window, the host's active one when it has none, the host's main
+  /// window when none is active.
   HWND OwnerFor(const controls::Form* form) const;
+  /// Whether an open form's window was destroyed by somebody else. It is closed as soon as the forms above it are; until then
+  /// nothing more is shown and messages answer themselves by their default button.
+  bool IsCutOff() const;
+  void CloseUnasked(controls::Form& form);
   /// Hands a message to the form on top or to the system.
   void Dispatch(MSG& message);
   void RaisePending();

@@ -53,7 +53,7 @@ TEST(PrintDialog, ToScreenWritesTheSlipAndStartsTheEditorMaximised) {
   for (const Case& machine :
        {Case{"C:\\WINDOWS", "C:\\WINDOWS\\command\\edit.com", "C:\\WINDOWS\\command\\edit.com   c:\\Reqtohq.txt"},
         Case{"C:\\WinNT", "C:\\WinNT\\system32\\edit.com", "C:\\WinNT\\system32\\edit.com   c:\\Reqtohq.txt"},
-        Case{"C:\\Windows", "", "notepad.exe   c:\\Reqtohq.txt"}}) {
+        Case{"C:\\Windows", "", "\"C:\\Windows\\notepad.exe\" \"c:\\Reqtohq.txt\""}}) {
     PrintDay day;
     day.workstation.windowsDirectory = machine.windows;
     if (*machine.editorFile != '\0') day.workstation.files[machine.editorFile] = "program";
@@ -73,7 +73,7 @@ TEST(PrintDialog, AGuardedRootOfDriveCSendsTheSlipToTheTemporaryFolder) {
   day.Print([](goods::frmPrint& dialog) { support::Click(dialog.cmdOK); });
   EXPECT_TRUE(day.workstation.files.contains("C:\\temp\\Reqtohq.txt"));
   ASSERT_EQ(day.workstation.started.size(), 1u);
-  EXPECT_EQ(day.workstation.started[0].first, "notepad.exe   C:\\temp\\Reqtohq.txt");
+  EXPECT_EQ(day.workstation.started[0].first, "\"C:\\WINDOWS\\notepad.exe\" \"C:\\temp\\Reqtohq.txt\"");
 }
 
 TEST(PrintDialog, ToPrinterWritesToThePortOnly) {

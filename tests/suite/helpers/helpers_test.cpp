@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "suite/helpers/register_helpers.h"
 #include "tests/suite/helpers/helper_form.h"
 
 namespace {
@@ -89,6 +90,29 @@ TEST(FormColours, ReallyColourTheForm) {
   EXPECT_NE(shop.form->BackColor(), plain);
   EXPECT_EQ(shop.form->lblName.BackColor(), shop.form->BackColor());
   EXPECT_NE(shop.form->txtQuantity.BackColor(), shop.form->BackColor());
+  // A fixed background with the system's text could not be read where that is light.
+  const auto isTheSystems = [](controls::Color color) { return (color & 0x80000000u) != 0; };
+  for (const controls::Control* control : shop.form->Controls()) {
+    EXPECT_EQ(isTheSystems(control->BackColor()), isTheSystems(control->ForeColor())) << control->Name();
+  }
+}
+
+TEST(FormColours, StepBackWhereThePersonWantsHighContrast) {
+  struct Contrasted : support::ScriptedDesktop {
+    bool IsHighContrast() const override { return true; }
+  };
+  Contrasted desktop;
+  support::TestWorkstation workstation;
+  late::ClassRegistry registry;
+  suite::RegisterHelpers(registry,
+                         std::make_shared<suite::Surroundings>(suite::Surroundings{desktop, workstation, registry, {}}));
+  const auto form = std::make_shared<HelperForm>(desktop);
+  form->Load();
+  const controls::Color plain = form->BackColor();
+  registry.Create("Theme.clsFormcolor")->Call("Applyformcolor", {form->shared_from_this()});
+  EXPECT_EQ(form->BackColor(), plain);
+  EXPECT_EQ(form->txtQuantity.BackColor(), controls::kWindowBackground);
+  EXPECT_EQ(form->txtQuantity.ForeColor(), controls::kWindowText);
 }
 
 TEST(Auditing, OneRecordAnActionWithWhatChangedInTheForm) {

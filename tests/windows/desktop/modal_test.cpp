@@ -1,8 +1,11 @@
 // Forms over forms in real windows: owners, refusals, quitting, and what is left behind.
 
+#include <array>
 #include <gtest/gtest.h>
 
+#include "base/vb/error.h"
 #include "platform/windows/desktop/metrics.h"
+#include "platform/windows/wide_text.h"
 #include "tests/base/controls/counter_form.h"
 #include "tests/windows/desktop/leftovers.h"
 #include "tests/windows/desktop/windows_driver.h"
@@ -20,6 +23,35 @@ class ModalForms : public testing::Test {
   void SetUp() override {
     form->On(form->cmdOk.Click, "cmdOk_Click", [this] { above->Show(form.get()); });
   }
+  /// A visible window of the host's, in front of its others.
+  static HWND HostsWindow(const wchar_t* title) {
+    const HWND window = CreateWindowExW(0, L"STATIC", title, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr,
+                                        windows::ThisModule(), nullptr);
+    SetActiveWindow(window);
+    return window;
+  }
+};
+
+/// While it lives, no window of this class can be made on this thread.
+class WindowsRefused {
+ public:
+  explicit WindowsRefused(std::wstring windowClass) : hook_(SetWindowsHookExW(WH_CBT, Refuse, nullptr, GetCurrentThreadId())) {
+    refused_ = std::move(windowClass);
+  }
+  WindowsRefused(const WindowsRefused&) = delete;
+  WindowsRefused& operator=(const WindowsRefused&) = delete;
+  ~WindowsRefused() { UnhookWindowsHookEx(hook_); }
+
+ private:
+  static LRESULT CALLBACK Refuse(int code, WPARAM window, LPARAM data) {
+    std::array<wchar_t, 64> name{};
+    if (code != HCBT_CREATEWND) return CallNextHookEx(nullptr, code, window, data);
+    GetClassNameW(reinterpret_cast<HWND>(window), name.data(), static_cast<int>(name.size()));
+    return refused_ == name.data() ? 1 : 0;
+  }
+
+  static inline std::wstring refused_;
+  HHOOK hook_;
 };
 
 TEST_F(ModalForms, OnlyTheFormOnTopCanBeUsed) {
@@ -39,10 +71,9 @@ TEST_F(ModalForms, OnlyTheFormOnTopCanBeUsed) {
 }
 
 TEST_F(ModalForms, TheHostsWindowIsDisabledWhileTheRegisterIsOpenAndNotAMomentLonger) {
-  const HWND host = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr,
-                                    windows::ThisModule(), nullptr);
-  const HWND asleep = CreateWindowExW(0, L"STATIC", L"Asleep", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_DISABLED, 0, 0, 300, 200,
-                                      nullptr, nullptr, windows::ThisModule(), nullptr);
+  const HWND host = HostsWindow(L"Host");
+  const HWND asleep = HostsWindow(L"Asleep");
+  EnableWindow(asleep, FALSE);
   SetActiveWindow(host);
   person.Work(*form, [&] {
     EXPECT_EQ(GetWindow(desktop.HandleOf(*form), GW_OWNER), host);
@@ -105,6 +136,122 @@ TEST_F(ModalForms, AHostThatQuitsEndsEveryLoopAndStillHearsOfIt) {
   while (!quits && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) quits = message.message == WM_QUIT;
   ASSERT_TRUE(quits);
   EXPECT_EQ(message.wParam, 7u);
+}
+
+TEST_F(ModalForms, AnOwnerThatIsDestroyedTakesTheFormsWithItAndWhatWasTypedIsAnsweredFor) {
+  const HWND host = HostsWindow(L"Host");
+  const HWND splash = HostsWindow(L"Splash");
+  above->On(above->QueryUnload, "Form_QueryUnload", [&](bool& stay, int) {
+    above->story.push_back(above->txtItem.Text() + (stay ? "" : " asked"));
+    stay = above->MsgBox("Keep it open?", controls::kYesNo + controls::kDefaultButton2, "Shop") == controls::Answer::Yes;
+  });
+  person.Work(*form, [&] {
+    person.WorkInNext([&](controls::Form&) {
+      person.Type(above->txtItem, "typed");
+      DestroyWindow(splash);
+      EXPECT_EQ(above->txtItem.Text(), "typed");
+    });
+    person.Click(form->cmdOk);
+    EXPECT_FALSE(above->IsShown());
+    EXPECT_EQ(above->Told(), "typed asked");
+    form->MsgBox("Nobody sees this", controls::kYesNo, "Shop");
+  });
+  EXPECT_FALSE(form->IsShown());
+  EXPECT_TRUE(desktop.messages.empty());
+  EXPECT_TRUE(IsWindowEnabled(host));
+  EXPECT_EQ(FindWindowW(L"ShopForm", nullptr), nullptr);
+  DestroyWindow(host);
+}
+
+TEST_F(ModalForms, AFormThatNeverAgreesIsAbandonedWithItsWindowAndLoadedAfreshNextTime) {
+  const HWND splash = HostsWindow(L"Splash");
+  int asked = 0;
+  form->On(form->QueryUnload, "Form_QueryUnload", [&](bool& stay, int) { stay = ++asked <= 3; });
+  person.Work(*form, [&] {
+    person.Type(form->txtItem, "typed");
+    DestroyWindow(splash);
+  });
+  EXPECT_EQ(asked, 3);
+  EXPECT_FALSE(form->IsShown());
+  person.Work(*form, [&] { EXPECT_EQ(person.Read(form->txtItem, "Text"), ""); });
+}
+
+TEST_F(ModalForms, OnlyTheFormWhoseWindowIsDestroyedCloses) {
+  person.Work(*form, [&] {
+    person.WorkInNext([&](controls::Form& top) { DestroyWindow(desktop.HandleOf(top)); });
+    person.Click(form->cmdOk);
+    EXPECT_FALSE(above->IsShown());
+    ASSERT_TRUE(form->IsShown());
+    EXPECT_TRUE(IsWindowEnabled(desktop.HandleOf(*form)));
+    person.Type(form->txtItem, "goes on");
+    EXPECT_EQ(person.Read(form->txtItem, "Text"), "goes on");
+  });
+}
+
+TEST_F(ModalForms, ARefusedWindowIsAnErrorAndTheHostCanBeUsed) {
+  const HWND host = HostsWindow(L"Host");
+  for (const wchar_t* refused : {L"ShopForm", WC_EDITW, WC_LISTVIEWW, WC_COMBOBOXW}) {
+    const WindowsRefused hook(refused);
+    try {
+      form->Show();
+      ADD_FAILURE() << "shown without its windows";
+    } catch (const vb::RunTimeError& error) {
+      EXPECT_EQ(error.Number(), 7);
+      EXPECT_TRUE(error.Description().starts_with("The window of ")) << error.Description();
+    }
+    EXPECT_FALSE(form->IsShown());
+    EXPECT_TRUE(IsWindowEnabled(host));
+    EXPECT_EQ(FindWindowW(L"ShopForm", nullptr), nullptr) << "left behind, refused " << windows::Utf8(refused);
+  }
+  person.Work(*form, [&] {
+    {
+      const WindowsRefused hook(L"ShopForm");
+      person.Click(form->cmdOk);
+    }
+    EXPECT_EQ(form->errors, std::vector<std::string>{"cmdOk_Click 7"});
+    EXPECT_TRUE(IsWindowEnabled(desktop.HandleOf(*form)));
+  });
+  DestroyWindow(host);
+}
+
+TEST_F(ModalForms, TheTaskListClosesOnlyTheFormOnTop) {
+  person.Work(*form, [&] {
+    person.WorkInNext([&](controls::Form&) {
+      SendMessageW(desktop.HandleOf(*form), WM_CLOSE, 0, 0);
+      desktop.DoEvents();
+      EXPECT_TRUE(form->IsLoaded());
+      EXPECT_TRUE(above->IsShown());
+    });
+    person.Click(form->cmdOk);
+    EXPECT_TRUE(form->IsShown());
+  });
+}
+
+TEST_F(ModalForms, AWindowThatAFormOpenedStaysInFrontOfWhatIsBelow) {
+  HWND preview = nullptr;
+  person.Work(*form, [&] {
+    person.WorkInNext([&](controls::Form& top) {
+      preview = HostsWindow(L"Preview");
+      top.Unload();
+    });
+    person.Click(form->cmdOk);
+    EXPECT_EQ(GetActiveWindow(), preview);
+    form->txtItem.SetFocus();
+    EXPECT_EQ(GetActiveWindow(), preview);
+    SetActiveWindow(desktop.HandleOf(*form));
+    desktop.DoEvents();
+    EXPECT_EQ(person.Focus(*form), "txtItem");
+  });
+  DestroyWindow(preview);
+}
+
+TEST_F(ModalForms, WithoutAnActiveWindowTheFormBelongsToTheHostsMainWindow) {
+  const HWND host = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr, nullptr,
+                                    windows::ThisModule(), nullptr);
+  ShowWindow(host, SW_SHOWNOACTIVATE);
+  ASSERT_EQ(GetActiveWindow(), nullptr);
+  person.Work(*form, [&] { EXPECT_EQ(GetWindow(desktop.HandleOf(*form), GW_OWNER), host); });
+  DestroyWindow(host);
 }
 
 TEST_F(ModalForms, AnErrorInsideAWindowsOwnWorkReachesTheCaller) {
