@@ -16,6 +16,27 @@ Recordset Connection::Execute(std::string_view statement) {
   return Recordset(Target(object_).Call("Execute", {statement}).ToObject());
 }
 
+void Connection::ExecuteNoRecords(std::string_view statement) {
+  Target(object_).Call("Execute",
+                       {statement, late::Missing{}, late::Value(static_cast<std::int32_t>(kCommandText | kExecuteNoRecords))});
+}
+
+std::optional<ErrorDetail> Connection::DetailOf(const vb::RunTimeError& error) const {
+  try {
+    const late::ObjectPtr errors = Target(object_).Get("Errors").ToObject();
+    const std::int32_t count = errors->Get("Count").ToInt32();
+    for (std::int32_t index = 0; index < count; ++index) {
+      const late::ObjectPtr entry = errors->Get("Item", {index}).ToObject();
+      // The collection keeps what an earlier statement left, too.
+      if (entry->Get("Number").ToInt32() != error.Number() || entry->Get("Description").ToText() != error.Description()) continue;
+      return ErrorDetail{entry->Get("NativeError").ToInt32(), entry->Get("SQLState").ToText()};
+    }
+  } catch (const vb::RunTimeError&) {
+    // A connection without such a collection has nothing to add.
+  }
+  return std::nullopt;
+}
+
 void Connection::BeginTrans() {
   Target(object_).Call("BeginTrans");
 }

@@ -1,11 +1,21 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "base/ado/recordset.h"
 #include "base/late/object.h"
+#include "base/vb/error.h"
 
 namespace ado {
+
+/// What the server says of an error beside number and text.
+struct ErrorDetail {
+  std::int32_t nativeError = 0;
+  std::string sqlState;  ///< five characters, of the standard
+};
 
 /// Face over the host's late-bound ADO Connection. A default-made face has no object: every member raises error 91.
 class Connection {
@@ -16,8 +26,12 @@ class Connection {
   const late::ObjectPtr& Object() const { return object_; }
   explicit operator bool() const { return object_ != nullptr; }
 
-  /// Runs a statement and gives its rows (forward-only, read-only); a statement without rows gives a closed recordset.
+  /// Runs a statement and returns its rows (forward-only, read-only; closed when the first result is a count). Read them to the
+  /// end and close them before the next statement: until then the connection is busy.
   Recordset Execute(std::string_view statement);
+  /// Runs a statement that returns no rows. The provider then reads the server's whole answer, so that an error after a first
+  /// count (in a trigger, in a procedure) is raised here and not lost.
+  void ExecuteNoRecords(std::string_view statement);
   void BeginTrans();
   void CommitTrans();
   void RollbackTrans();
@@ -25,6 +39,9 @@ class Connection {
   void SetCommandTimeout(int seconds);
   int CommandTimeout();
   int State();
+  /// The entry of the Errors collection for this error; nothing when there is none. Raises nothing. Ask before the next statement
+  /// or rollback: their errors take its place.
+  std::optional<ErrorDetail> DetailOf(const vb::RunTimeError& error) const;
 
  private:
   late::ObjectPtr object_;

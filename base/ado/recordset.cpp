@@ -34,6 +34,12 @@ void Recordset::Close() {
   Target().Call("Close");
 }
 
+Recordset Recordset::NextRecordset() {
+  const late::Value next = Target().Call("NextRecordset");
+  const late::ObjectPtr* object = next.If<late::ObjectPtr>();
+  return Recordset(object ? *object : nullptr);
+}
+
 void Recordset::CloseIfOpen() {
   if (object_ && IsOpen()) Close();
 }

@@ -25,6 +25,9 @@ class Recordset {
 
   void Open(std::string_view source, const Connection& connection, CursorType cursor = kForwardOnly, LockType lock = kReadOnly);
   void Close();
+  /// The next result of the statement, this one being given up; a face without an object after the last. The result is closed
+  /// where it is a count. Raises the error that ended the statement.
+  Recordset NextRecordset();
   /// Closes if it is open; for clean-up paths.
   void CloseIfOpen();
   bool IsOpen();

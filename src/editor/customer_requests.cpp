@@ -9,8 +9,8 @@
 #include "base/vb/format.h"
 #include "base/vb/text.h"
 #include "src/editor/customer_documents.h"
-#include "src/editor/query_rows.h"
 #include "src/editor/renumbering.h"
+#include "src/shared/query_rows.h"
 #include "src/shared/request_lines.h"
 
 namespace goods {

@@ -5,9 +5,9 @@
 #include "base/vb/date.h"
 #include "base/vb/number.h"
 #include "base/vb/text.h"
-#include "src/editor/query_rows.h"
 #include "src/editor/request_numbering.h"
 #include "src/shared/list_views.h"
+#include "src/shared/query_rows.h"
 #include "src/shared/register_row.h"
 #include "src/shared/request_lines.h"
 #include "src/shared/user_auditing.h"
@@ -48,13 +48,13 @@ std::string DeleteLinksStatement(std::int32_t requestId, std::int32_t companyId,
          " and reqcompanyid=" + std::to_string(companyId) + " and reqinvdshopid=" + std::to_string(shopId);
 }
 
-/// A recordset for adding rows. The rows that its query names are of no interest and may be millions: a dynamic cursor on the
-/// server with a limit of one row fetches none of them at opening.
+/// A recordset for adding rows, which a batch can only collect on the client. The rows that its query names are of no interest
+/// and may be millions: with a limit of one row no more is fetched at opening.
 ado::Recordset OpenForAdding(basGoodsRequest& session, std::string_view query, ado::LockType lock) {
   ado::Recordset rows = ado::Recordset::Create(session.services.factory);
-  rows.SetCursorLocation(ado::kUseServer);
+  rows.SetCursorLocation(ado::kUseClient);
   rows.SetMaxRecords(1);
-  rows.Open(query, session.gAdoCon, ado::kDynamic, lock);
+  rows.Open(query, session.gAdoCon, ado::kStatic, lock);
   return rows;
 }
 
@@ -100,9 +100,23 @@ class ProvisionalIdentity {
 }  // namespace
 
 bool RequestSaving::Save() {
-  if (!IsDateReadable() || !IsProjectRuleKept()) return false;
+  SaveStep step = SaveStep::Writing;
+  const auto inUsersWords = [&](auto work) {
+    try {
+      return work();
+    } catch (const vb::RunTimeError& error) {
+      throw InUsersWords(session_.gAdoCon, error, step);
+    }
+  };
+  if (!inUsersWords([&] { return IsDateReadable() && IsProjectRuleKept(); })) return false;
   const controls::Hourglass hourglass(editor_);
-  ado::Transaction transaction(session_.gAdoCon);
+  ado::Transaction transaction = inUsersWords([&] { return ado::Transaction(session_.gAdoCon); });
+  if (!inUsersWords([&] { return Write(transaction, step); })) return false;
+  UpdateEditedRow(session_, view_, " GRHrequestID=" + std::to_string(session_.gLngRequestID), session_.gLngRequestID);
+  return true;
+}
+
+bool RequestSaving::Write(ado::Transaction& transaction, SaveStep& step) {
   if (!editor_.HasLineWithQuantity()) {
     Tell("Atleast one detail needed");
     transaction.Rollback();
@@ -126,9 +140,9 @@ bool RequestSaving::Save() {
     WriteNewRequest();
   }
   WriteCustomerLinks();
+  step = SaveStep::Committing;
   transaction.Commit();
   identity.Keep();
-  UpdateEditedRow(session_, view_, " GRHrequestID=" + std::to_string(session_.gLngRequestID), session_.gLngRequestID);
   return true;
 }
 
@@ -185,13 +199,14 @@ void RequestSaving::AddHeader(const std::string& userName) {
 void RequestSaving::UpdateRequest(std::int32_t requestId) {
   UpdateHeader(requestId,
                UserName("ShopID=" + std::to_string(session_.gIntShopID) + " and Userid=" + std::to_string(session_.gIntUserID)));
-  session_.gAdoCon.Execute(UpdateTimeStatement(requestId, session_.gIntShopID));
-  session_.gAdoCon.Execute(DeleteDetailsStatement(requestId, session_.gIntShopID));
+  session_.gAdoCon.ExecuteNoRecords(UpdateTimeStatement(requestId, session_.gIntShopID));
+  session_.gAdoCon.ExecuteNoRecords(DeleteDetailsStatement(requestId, session_.gIntShopID));
   AddDetails(RequestDetailsQuery(requestId, session_.gIntShopID));
 }
 
 void RequestSaving::UpdateHeader(std::int32_t requestId, const std::string& userName) {
   ado::Recordset header = ado::Recordset::Create(session_.services.factory);
+  header.SetCursorLocation(ado::kUseServer);  // a host's client-side cursors miss the row when a trigger counts others
   header.Open(HeaderQuery(requestId, session_.gIntShopID), session_.gAdoCon, ado::kKeyset, ado::kOptimistic);
   header.SetField("grhremarks", vb::Trim(editor_.txtRemarks.Text()));
   header.SetField("grhrecmoduser", userName);
@@ -240,7 +255,7 @@ void RequestSaving::SetOrdeRaisedStatus(std::int16_t flag, std::int32_t requestI
 
 void RequestSaving::WriteCustomerLinks() {
   if (session_.gStrEntryMode == "E") {
-    session_.gAdoCon.Execute(DeleteLinksStatement(session_.gLngRequestID, session_.gIntCompanyID, session_.gIntShopID));
+    session_.gAdoCon.ExecuteNoRecords(DeleteLinksStatement(session_.gLngRequestID, session_.gIntCompanyID, session_.gIntShopID));
   }
   ado::Recordset links = OpenForAdding(session_, "select * from mosRequestInvDetail", ado::kOptimistic);
   const late::ArrayPtr invoiceNames =

@@ -5,6 +5,7 @@
 
 #include "src/editor/customer_requests.h"
 #include "src/editor/frm_request.h"
+#include "src/editor/save_errors.h"
 #include "src/entry/session.h"
 #include "src/shared/common_db.h"
 #include "src/shared/register_view.h"
@@ -26,6 +27,8 @@ class RequestSaving {
 
  private:
   bool IsNew() const { return session_.gStrEntryMode == "N"; }
+  /// What happens between begin and commit, in its order. False is a refusal; the transaction is then rolled back.
+  bool Write(ado::Transaction& transaction, SaveStep& step);
   controls::Answer Tell(std::string_view text, int style = controls::kInformation);
 
   bool IsDateReadable();

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "base/vb/error.h"
-#include "src/editor/query_rows.h"
 #include "src/shared/item_lookups.h"
+#include "src/shared/query_rows.h"
 #include "src/shared/request_lines.h"
 
 namespace goods {

@@ -68,6 +68,12 @@ SortRange SortRangeOf(std::int32_t itemData) {
 
 using Rows = std::vector<std::vector<std::string>>;
 
+/// The rows that a procedure gives: it may count others first.
+ado::Recordset FirstRows(ado::Recordset result) {
+  while (result && !result.IsOpen()) result = result.NextRecordset();
+  return result;
+}
+
 /// The rest of the recordset, block by block; the blocks' texts are taken over, not copied.
 Rows ReadRows(ado::Recordset& recordset) {
   constexpr int kBlockRows = 1024;
@@ -171,7 +177,7 @@ bool FrmFetch::GridPopulate(std::string_view query) {
     basGoodsRequest& session = Session();
     ado::Recordset recordset;
     if (IsGodownList()) {
-      recordset = session.gAdoCon.Execute(GodownItemsCall(session.gIntShopID, query));
+      recordset = FirstRows(session.gAdoCon.Execute(GodownItemsCall(session.gIntShopID, query)));
     } else {
       recordset = ado::Recordset::Create(session.services.factory);
       recordset.Open(query, session.gAdoCon);

@@ -98,6 +98,23 @@ std::int32_t DefaultFetchField(CommonDb& db, std::int32_t shopId) {
   return kDescription;
 }
 
+/// A recordset for the item list. On the client: one on the server ends with the next save.
+ado::Recordset NewItemRecordset(basGoodsRequest& session) {
+  ado::Recordset recordset = ado::Recordset::Create(session.services.factory);
+  recordset.SetCursorLocation(ado::kUseClient);
+  return recordset;
+}
+
+/// Closes the list. Where that fails, a lookup put a recordset on the server here and a save has ended it: a fresh one takes its
+/// place.
+void CloseItemList(basGoodsRequest& session) {
+  try {
+    session.gRsFetchItems.CloseIfOpen();
+  } catch (const vb::RunTimeError&) {
+    session.gRsFetchItems = NewItemRecordset(session);
+  }
+}
+
 }  // namespace
 
 std::string_view FetchModeOf(ItemListMode list) {
@@ -116,11 +133,11 @@ bool ShowItemList(basGoodsRequest& session, CommonDb& db, ItemFetch& fetch, Item
   const std::string query = ItemListQuery(session, db, list);
   const std::int32_t defaultField = DefaultFetchField(db, session.gIntShopID);
 
-  if (!session.gRsFetchItems) session.gRsFetchItems = ado::Recordset::Create(session.services.factory);
+  if (!session.gRsFetchItems) session.gRsFetchItems = NewItemRecordset(session);
   const bool modeChanged = session.gStrFetchMode != face.fetchMode;
   if (modeChanged) {
     session.gStrFetchMode = face.fetchMode;
-    session.gRsFetchItems.CloseIfOpen();
+    CloseItemList(session);
   }
 
   // The lookup may put a recordset of its own here, when it is handed over or while it shows.

@@ -7,6 +7,7 @@
 #include "src/shared/common_db.h"
 #include "src/shared/error_routine.h"
 #include "src/shared/item_lookups.h"
+#include "src/shared/query_rows.h"
 
 namespace goods {
 namespace {
@@ -70,16 +71,16 @@ std::string RequestSlip::PrintBill(std::int32_t requestId, SlipDestination desti
 void RequestSlip::Write(std::int32_t requestId, SlipDestination destination, std::string& path) {
   const SlipSettings settings = SlipSettings::Read(session_);
   const SlipColumns columns(settings);
-  // Asked before anything is opened: what cannot be read leaves the last slip, and the paper, alone.
-  ado::Recordset rows = ado::Recordset::Create(session_.services.factory);
-  rows.Open(SlipLinesQuery(requestId, session_.gIntShopID, settings.printinsavedorder), session_.gAdoCon);
+  // Read before anything is opened: what cannot be read leaves the last slip, and the paper, alone. And read to the end: header,
+  // footer and prices ask the same connection.
+  const late::ArrayPtr lines = ReadRows(session_, SlipLinesQuery(requestId, session_.gIntShopID, settings.printinsavedorder));
   OpenedOutput opened = OpenOutput(session_.services.workstation, destination, settings.port);
   path = opened.path;
   SlipOutput output(std::move(opened.file));
   // The screen file starts with the headings; only paper gets the header.
   if (destination == SlipDestination::Printer) HeaderPrint(output, settings.pagewidth, requestId);
   WriteHeadings(output, settings, columns);
-  const Totals totals = WriteLines(output, settings, columns, rows, destination);
+  const Totals totals = WriteLines(output, settings, columns, *lines, destination);
   WriteTotals(output, settings, columns, totals);
   FooterPrint(output, settings.pagewidth);
   output.Close();
@@ -93,38 +94,37 @@ void RequestSlip::WriteHeadings(SlipOutput& output, const SlipSettings& settings
 }
 
 RequestSlip::Totals RequestSlip::WriteLines(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns,
-                                            ado::Recordset& rows, SlipDestination destination) {
+                                            const late::Array& lines, SlipDestination destination) {
   const double costFactor = settings.showcostintrans ? CostFactor(session_) : 1;
   Totals totals;
   long number = 0;
   enum Field : std::size_t { kUnitCode, kRequestNo, kItemId, kQuantity, kDescription, kItemCode, kRate };
-  ado::ForEachRow(rows, [&](const late::Array& block, std::size_t record) {
+  for (std::size_t record = 0; record < lines.columns; ++record) {
     if (settings.internalprintnoofrecords > 0 && number > 0 && number % settings.internalprintnoofrecords == 0) {
       if (settings.printfooterineachpage) FooterPrint(output, settings.pagewidth);
       if (destination == SlipDestination::Printer) output.BreakPage();
       WriteHeadings(output, settings, columns);
     }
-    const double quantity = NumberOrZero(block.At(kQuantity, record));
-    const double costPrice = NumberOrZero(block.At(kRate, record)) * costFactor;
+    const double quantity = NumberOrZero(lines.At(kQuantity, record));
+    const double costPrice = NumberOrZero(lines.At(kRate, record)) * costFactor;
     SlipLine line;
-    line.itemCode = block.At(kItemCode, record).TextOrEmpty();
-    line.description = block.At(kDescription, record).TextOrEmpty();
-    line.unit = block.At(kUnitCode, record).TextOrEmpty();
+    line.itemCode = lines.At(kItemCode, record).TextOrEmpty();
+    line.description = lines.At(kDescription, record).TextOrEmpty();
+    line.unit = lines.At(kUnitCode, record).TextOrEmpty();
     line.quantity = vb::Format(quantity, "0.00");
     if (settings.showcostintrans) {
       line.costPrice = vb::Format(costPrice, "0.00");
       line.totalCost = vb::Format(costPrice * quantity, "0.00");
     }
     if (settings.showspintransrep) {
-      const std::int32_t itemId = block.At(kItemId, record).ToInt32();
+      const std::int32_t itemId = lines.At(kItemId, record).ToInt32();
       line.sellingPrice =
           vb::Format(GetItemSellingPrice(session_, itemId, vb::CInt(static_cast<double>(session_.gIntShopID))), "0.00");
     }
     totals.quantity += quantity;
     totals.cost += costPrice * quantity;
     output.Line(columns.Line(++number, line));
-  });
-  rows.CloseIfOpen();
+  }
   return totals;
 }
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "base/ado/recordset.h"
+#include "base/late/value.h"
 #include "src/entry/session.h"
 #include "src/printing/slip_columns.h"
 #include "src/printing/slip_output.h"
@@ -29,7 +29,7 @@ class RequestSlip {
   };
   void Write(std::int32_t requestId, SlipDestination destination, std::string& path);
   void WriteHeadings(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns) const;
-  Totals WriteLines(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns, ado::Recordset& rows,
+  Totals WriteLines(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns, const late::Array& lines,
                     SlipDestination destination);
   void WriteTotals(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns, const Totals& totals) const;
   void HeaderPrint(SlipOutput& output, std::int16_t pageWidth, std::int32_t requestId);

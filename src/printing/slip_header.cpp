@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/ado/recordset.h"
 #include "base/vb/error.h"
@@ -35,23 +36,26 @@ std::string OneLine(const std::string& text) {
   return vb::Replace(vb::Replace(vb::Replace(text, "\r\n", " "), "\r", " "), "\n", " ");
 }
 
-ado::Recordset Open(basGoodsRequest& session, const std::string& query) {
+/// The texts of the query's first row; `fields` empty ones when there is none.
+std::vector<std::string> FirstRow(basGoodsRequest& session, const std::string& query, std::size_t fields) {
   ado::Recordset row = ado::Recordset::Create(session.services.factory);
   row.Open(query, session.gAdoCon);
-  return row;
+  std::vector<std::string> texts(fields);
+  if (!row.Eof()) {
+    for (std::size_t field = 0; field < fields; ++field) texts[field] = row.Field(static_cast<int>(field)).TextOrEmpty();
+  }
+  row.Close();
+  return texts;
 }
 
 Request ReadRequest(basGoodsRequest& session, std::int32_t requestId) {
-  ado::Recordset row = Open(session, RequestQuery(session.gIntShopID, requestId));
-  if (row.Eof()) return {};
-  return {row.Field(0).TextOrEmpty(), row.Field(1).TextOrEmpty(), OneLine(row.Field(2).TextOrEmpty())};
+  const std::vector<std::string> row = FirstRow(session, RequestQuery(session.gIntShopID, requestId), 3);
+  return {row[0], row[1], OneLine(row[2])};
 }
 
 Shop ReadShop(basGoodsRequest& session) {
-  ado::Recordset row = Open(session, ShopQuery(session.gIntShopID));
-  if (row.Eof()) return {};
-  return {row.Field(0).TextOrEmpty(), OneLine(row.Field(1).TextOrEmpty()), row.Field(2).TextOrEmpty(),
-          row.Field(3).TextOrEmpty(), row.Field(4).TextOrEmpty(),          row.Field(5).TextOrEmpty()};
+  const std::vector<std::string> row = FirstRow(session, ShopQuery(session.gIntShopID), 6);
+  return {row[0], OneLine(row[1]), row[2], row[3], row[4], row[5]};
 }
 
 /// Writes the header's lines and counts them.

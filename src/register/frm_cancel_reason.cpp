@@ -27,6 +27,7 @@ void frmcancelreason::Design() {
   Label1.SetCaption("&Reason :");
   Label1.Move(120, 225, 840, 240);
   txtcanreason.Move(1020, 180, 4260, 330);
+  txtcanreason.SetMaxLength(kReasonLength);
   cmdok.SetCaption("&OK");
   cmdok.Move(3960, 720, 1320, 420);
 }

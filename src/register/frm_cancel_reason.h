@@ -6,6 +6,9 @@
 
 namespace goods {
 
+/// Characters of a reason that a cancellation remark keeps.
+inline constexpr int kReasonLength = 230;
+
 /// Asks for the reason of a cancellation and leaves it in the session's gStrCancelReason. Cannot be closed without one.
 class frmcancelreason : public ModuleForm {
  public:

@@ -11,8 +11,7 @@
 namespace goods {
 namespace {
 
-constexpr long kUserNameLength = 20;  // characters of a name and of a reason that a cancellation remark keeps
-constexpr long kReasonLength = 230;
+constexpr long kUserNameLength = 20;  // characters of a name that a cancellation remark keeps
 constexpr int kConfirmDelete = controls::kYesNo | controls::kCritical | controls::kDefaultButton2;
 
 std::string HeaderQuery(std::int32_t requestId, std::int32_t shopId) {
@@ -108,6 +107,7 @@ void frmMaster::CmdDelete_Click() {
 // Header and item marks are two steps without a transaction: once the header says cancelled, the request is.
 void frmMaster::MarkRequestCancelled(std::string_view remark) {
   ado::Recordset header = ado::Recordset::Create(Session().services.factory);
+  header.SetCursorLocation(ado::kUseServer);  // a host's client-side cursors miss the row when a trigger counts others
   header.Open(HeaderQuery(Session().gLngRequestID, Session().gIntShopID), Session().gAdoCon, ado::kKeyset, ado::kOptimistic);
   const bool found = !header.Eof();
   if (found) {
@@ -135,8 +135,8 @@ void frmMaster::RemoveRequestRaisedFromShopItemDetail() {
 void frmMaster::mnurefresh_Click() {
   if (!IsOnRequest()) return;
   const std::string requestId = CurrentCell(kRegisterId);
-  Session().gAdoCon.Execute(RefreshHeaderStatement(requestId, Session().gIntShopID));
-  Session().gAdoCon.Execute(RefreshLinesStatement(requestId, Session().gIntShopID));
+  Session().gAdoCon.ExecuteNoRecords(RefreshHeaderStatement(requestId, Session().gIntShopID));
+  Session().gAdoCon.ExecuteNoRecords(RefreshLinesStatement(requestId, Session().gIntShopID));
 }
 
 }  // namespace goods

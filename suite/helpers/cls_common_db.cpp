@@ -53,12 +53,15 @@ Value clsCommonDB::fnReturnField(std::string_view field, std::string_view condit
   std::string statement = "select " + std::string(field) + " from " + strTableName_;
   if (!vb::Trim(condition).empty()) statement += " where " + std::string(condition);
   ado::Recordset row = connection_.Execute(statement);
-  return row.Eof() ? Value(late::Null{}) : row.Field(0);
+  Value value = row.Eof() ? Value(late::Null{}) : row.Field(0);
+  row.Close();
+  return value;
 }
 
 std::int32_t clsCommonDB::fnGetNextMaxNo(std::string_view column) {
   ado::Recordset row = connection_.Execute("select max(" + std::string(column) + ") from " + strTableName_);
   const Value greatest = row.Eof() ? Value(late::Null{}) : row.Field(0);
+  row.Close();
   return greatest.IsNull() ? 1 : vb::CLng(greatest.ToDouble() + 1);
 }
 
@@ -66,7 +69,7 @@ void clsCommonDB::fnUpdateSelectedRecord(std::string_view condition, std::string
   std::string statement = "update ";
   statement.append(strTableName_).append(" set ").append(column).append("=").append(std::to_string(value));
   statement.append(" where ").append(condition);
-  connection_.Execute(statement);
+  connection_.ExecuteNoRecords(statement);
 }
 
 void clsCommonDB::PopulateListview(late::Object& list, std::string_view tables, std::string_view condition,
@@ -84,6 +87,7 @@ void clsCommonDB::PopulateListview(late::Object& list, std::string_view tables, 
       item->Put("SubItems", {static_cast<std::int32_t>(field)}, block.At(field, record).TextOrEmpty());
     }
   });
+  rows.Close();
 }
 
 void clsCommonDB::fnDeleteListview(late::Object& list, std::int32_t index) {

@@ -3,11 +3,18 @@
 #include <cstdint>
 
 #include "base/vb/error.h"
+#include "suite/helpers/own_tables.h"
 
 namespace suite {
 
 using late::Arguments;
 using late::Value;
+
+namespace {
+
+constexpr OwnTable kTable = {"smpGridSettings", "userid smallint,companyid int,interfaceid int,colno int,colwidth int"};
+
+}  // namespace
 
 const late::MemberTable<clsMasterGridSetting>& clsMasterGridSetting::Members() {
   static const late::MemberTable<clsMasterGridSetting> table{
@@ -44,27 +51,26 @@ ado::Connection clsMasterGridSetting::Connection() const {
 
 void clsMasterGridSetting::fnGridSettings(const Owner& owner, late::Object& grid) const {
   ado::Connection connection = Connection();
-  if (connection.Execute("select object_id('smpGridSettings')").Field(0).IsNull()) {
-    connection.Execute("create table smpGridSettings (userid smallint,companyid int,interfaceid int,colno int,colwidth int)");
-    return;
-  }
+  if (FindOrMake(surroundings_, connection, kTable) != OwnTableState::Found) return;
   ado::Recordset widths = connection.Execute("select colno,colwidth from smpGridSettings" + owner.Condition());
   const std::int32_t columns = grid.Get("Cols").ToInt32();
   ado::ForEachRow(widths, [&](const late::Array& block, std::size_t record) {
     const std::int32_t column = block.At(0, record).ToInt32();
     if (column >= 0 && column < columns) grid.Put("ColWidth", {column}, block.At(1, record).ToInt32());
   });
+  widths.Close();
 }
 
 void clsMasterGridSetting::fnSaveGridSettings(const Owner& owner, late::Object& grid) const {
   ado::Connection connection = Connection();
-  connection.Execute("delete from smpGridSettings" + owner.Condition());
+  if (FindOrMake(surroundings_, connection, kTable) == OwnTableState::Refused) return;
+  connection.ExecuteNoRecords("delete from smpGridSettings" + owner.Condition());
   const std::int32_t columns = grid.Get("Cols").ToInt32();
   for (std::int32_t column = 0; column < columns; ++column) {
-    connection.Execute("insert into smpGridSettings (userid,companyid,interfaceid,colno,colwidth) values (" +
-                       std::to_string(owner.userId) + "," + std::to_string(owner.companyId) + "," +
-                       std::to_string(owner.interfaceId) + "," + std::to_string(column) + "," +
-                       grid.Get("ColWidth", {column}).ToText() + ")");
+    connection.ExecuteNoRecords("insert into smpGridSettings (userid,companyid,interfaceid,colno,colwidth) values (" +
+                                std::to_string(owner.userId) + "," + std::to_string(owner.companyId) + "," +
+                                std::to_string(owner.interfaceId) + "," + std::to_string(column) + "," +
+                                grid.Get("ColWidth", {column}).ToText() + ")");
   }
 }
 

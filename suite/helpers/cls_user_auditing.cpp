@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "base/vb/text.h"
+#include "suite/helpers/own_tables.h"
 
 namespace suite {
 
@@ -12,7 +13,11 @@ using late::Value;
 namespace {
 
 constexpr long kChangesWidth = 4000;
-constexpr std::string_view kStamp = "yyyy-mm-dd hh:nn:ss";
+// Without hyphens, which a log-in with another order of dates reads otherwise.
+constexpr std::string_view kStamp = "yyyymmdd hh:nn:ss";
+constexpr OwnTable kTable = {"smpUserAudit",
+                             "companyid int,shopid int,userid int,interfaceid int,loggedtime datetime,savedtime datetime,"
+                             "recordid int,recordno varchar(50),action varchar(10),changes varchar(4000)"};
 
 /// What a control shows, as text; false for kinds that hold no entry of the user.
 bool ShownValue(late::Object& control, std::string& shown) {
@@ -94,23 +99,15 @@ std::string clsUserAuditing::ChangesSinceTag(late::Object& form) {
 }
 
 void clsUserAuditing::SaveUserAuditingInfo(Arguments& arguments) {
-  CreateTableOnFirstUse();
+  if (FindOrMake(surroundings_, connection_, kTable) == OwnTableState::Refused) return;
   const std::string changes = arguments.Has(4) ? ChangesSinceTag(*arguments[4].ToObject()) : std::string();
-  connection_.Execute(
+  connection_.ExecuteNoRecords(
       "insert into smpUserAudit (companyid,shopid,userid,interfaceid,loggedtime,savedtime,recordid,recordno,"
       "action,changes) values (" +
       std::to_string(companyId_) + "," + std::to_string(shopId_) + "," + std::to_string(userId_) + "," +
       std::to_string(interfaceId_) + "," + Quoted(vb::FormatDate(loggedTime_, kStamp)) + ",getdate()," +
       std::to_string(arguments[0].ToInt32()) + "," + Quoted(arguments[1].ToText()) + "," + Quoted(arguments[3].ToText()) + "," +
       Quoted(changes) + ")");
-}
-
-void clsUserAuditing::CreateTableOnFirstUse() {
-  ado::Recordset table = connection_.Execute("select object_id('smpUserAudit')");
-  if (!table.Eof() && !table.Field(0).IsNull()) return;
-  connection_.Execute(
-      "create table smpUserAudit (companyid int,shopid int,userid int,interfaceid int,loggedtime datetime,savedtime datetime,"
-      "recordid int,recordno varchar(50),action varchar(10),changes varchar(4000))");
 }
 
 }  // namespace suite

@@ -25,7 +25,6 @@ class clsUserAuditing : public late::TableObject<clsUserAuditing> {
  private:
   void Open(late::Arguments& arguments);
   void SaveUserAuditingInfo(late::Arguments& arguments);
-  void CreateTableOnFirstUse();
 
   std::shared_ptr<Surroundings> surroundings_;
   ado::Connection connection_;

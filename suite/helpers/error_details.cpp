@@ -37,6 +37,17 @@ const late::MemberTable<ErrorDetails>& ErrorDetails::Members() {
   return table;
 }
 
+void ErrorDetails::Note(std::string_view module, std::string_view routine, const vb::RunTimeError& error) const {
+  try {
+    std::vector<Value> values{
+        module, "", routine, static_cast<std::int32_t>(error.Number()), error.Source(), error.Description(), "", true};
+    Arguments arguments(values);
+    Append(arguments);
+  } catch (const vb::RunTimeError&) {
+    // What is noted is no error of the user's: without a log there is nobody to notify.
+  }
+}
+
 void ErrorDetails::Append(Arguments& arguments) const {
   controls::Workstation& workstation = surroundings_->workstation;
   std::string line = vb::FormatDate(workstation.Now(), "yyyy-mm-dd hh:nn:ss");

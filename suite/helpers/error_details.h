@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/late/object.h"
+#include "base/vb/error.h"
 #include "suite/helpers/surroundings.h"
 
 namespace suite {
@@ -15,6 +16,9 @@ class ErrorDetails : public late::TableObject<ErrorDetails> {
 
   static const late::MemberTable<ErrorDetails>& Members();
   std::string TypeName() const override { return "ErrorDetails"; }
+
+  /// Appends a line without a message box. Raises nothing.
+  void Note(std::string_view module, std::string_view routine, const vb::RunTimeError& error) const;
 
  private:
   void Append(late::Arguments& arguments) const;

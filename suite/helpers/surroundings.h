@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <set>
+#include <string>
 
 #include "base/controls/desktop.h"
 #include "base/controls/workstation.h"
@@ -15,6 +17,7 @@ struct Surroundings {
   controls::Workstation& workstation;
   late::Factory& factory;  ///< makes recordsets
   std::weak_ptr<late::Object> lastConnection;
+  std::set<std::string> refusedTables = {};  ///< own tables that the database user may not create
 };
 
 }  // namespace suite

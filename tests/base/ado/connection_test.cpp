@@ -24,9 +24,11 @@ TEST_F(ShopConnection, SpeaksTheClassicMembers) {
   server->answers["Execute"] = [&](auto) { return late::Value(rows); };
   server->answers["State"] = [](auto) { return late::Value(1); };
   EXPECT_EQ(connection.Execute("update t set a=1").Object(), rows);
+  connection.ExecuteNoRecords("delete t");
   connection.SetCommandTimeout(0);
   EXPECT_EQ(connection.State(), ado::kOpen);
-  EXPECT_EQ(server->log, (Lines{"call Execute [update t set a=1]", "put CommandTimeout [0]", "get State"}));
+  EXPECT_EQ(server->log,
+            (Lines{"call Execute [update t set a=1]", "call Execute [delete t] [] [129]", "put CommandTimeout [0]", "get State"}));
 }
 
 TEST_F(ShopConnection, CommitsOnce) {

@@ -29,6 +29,7 @@ class RecordingObject : public late::Object {
  private:
   static std::string Shown(const late::Value& value) {
     if (value.IsObject()) return "object";
+    if (value.IsMissing()) return "";
     const auto* array = value.If<late::ArrayPtr>();
     if (!array) return value.ToText();
     std::string text;

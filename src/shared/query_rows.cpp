@@ -1,4 +1,4 @@
-#include "src/editor/query_rows.h"
+#include "src/shared/query_rows.h"
 
 namespace goods {
 
