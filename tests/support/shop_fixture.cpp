@@ -1,12 +1,14 @@
 #include "tests/support/shop_fixture.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 
 #include "base/ado/connection.h"
 #include "base/vb/error.h"
 #include "base/vb/text.h"
 #include "src/shared/common_db.h"
 #include "src/shared/user_auditing.h"
+#include "suite/database/engine/errors.h"
 #include "suite/database/shop/shop.h"
 #include "suite/helpers/register_helpers.h"
 
@@ -52,10 +54,16 @@ void StatementLog::Commit() {
   Count("commit");
 }
 
+void StatementLog::SecondLogIn() {
+  ADD_FAILURE() << "rows are unread while the connection runs " << lines.back();
+}
+
 void StatementLog::Count(const std::string& what) {
   lines.push_back(what);
+  if (!refused_.empty() && what.starts_with(refused_)) suite::RaiseServer(native_, "Refused by the test");
   if (failIn_ == 0 || --failIn_ > 0) return;
   failed_ = true;
+  if (native_ != 0) suite::RaiseServer(native_, "Failed by the test");
   throw vb::RunTimeError(kServerError, "Connection broken by the test", "Embedded engine");
 }
 

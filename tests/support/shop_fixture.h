@@ -19,8 +19,17 @@ class StatementLog : public suite::StatementObserver {
  public:
   std::vector<std::string> lines;
 
-  /// The n-th (from 1) statement, row change or commit from now on fails once with a server error; 0 takes it back.
-  void FailAt(int n) { failIn_ = n; }
+  /// The n-th (from 1) statement, row change or commit from now on fails once with a server error; 0 takes it back. With one of
+  /// the server's own numbers, the error is the server's.
+  void FailAt(int n, int native = 0) {
+    failIn_ = n;
+    native_ = native;
+  }
+  /// Every statement that begins so fails with this error of the server's.
+  void Refuse(std::string start, int native) {
+    refused_ = std::move(start);
+    native_ = native;
+  }
   bool HasFailed() const { return failed_; }
   /// Whether this exact text was sent since the last Clear.
   bool Sent(std::string_view statement) const;
@@ -33,11 +42,15 @@ class StatementLog : public suite::StatementObserver {
   void Begin() override { lines.emplace_back("begin"); }
   void Commit() override;
   void Rollback() override { lines.emplace_back("rollback"); }
+  /// The component reads its rows to the end first: a test fails where it does not.
+  void SecondLogIn() override;
 
  private:
   void Count(const std::string& what);
 
   int failIn_ = 0;
+  int native_ = 0;
+  std::string refused_;
   bool failed_ = false;
 };
 

@@ -20,6 +20,7 @@ class ConnectionWatch : public suite::StatementObserver {
   void Begin() override;
   void Commit() override;
   void Rollback() override;
+  void SecondLogIn() override;
 
  private:
   void Trace(std::string_view statement);

@@ -133,6 +133,8 @@ enum class StatementKind : std::uint8_t {
   Rollback,
   If,
   Block,
+  CountRows,
+  CountNoRows,
   Nothing,  // a setting that has no meaning here
 };
 

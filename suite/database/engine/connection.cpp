@@ -52,6 +52,11 @@ late::Value Connection::Execute(late::Arguments& arguments) {
   const auto* statement = text.If<std::string>();
   RunResult result = Run(statement ? std::string_view(*statement) : std::string_view(), false);
   if (arguments.Has(1)) arguments.Write(1, result.affected);
+  if (arguments.Has(2) && (arguments[2].ToInt32() & ado::kExecuteNoRecords)) {
+    // The provider then reads all that the server has to say.
+    Noting([&] { result.RaiseLater(); });
+    return std::make_shared<Recordset>();
+  }
   auto self = std::static_pointer_cast<Connection>(shared_from_this());
   const bool rows = static_cast<bool>(result.rows);
   return Recordset::OfResult(std::move(self), session, std::move(result), rows && statement ? *statement : std::string());
@@ -59,17 +64,17 @@ late::Value Connection::Execute(late::Arguments& arguments) {
 
 RunResult Connection::Run(std::string_view text, bool updatable) {
   const std::shared_ptr<Session> session = OpenSession();
-  try {
-    return session->Run(text, updatable);
-  } catch (const ServerError& error) {
-    errors_->Keep(error);
-    throw;
-  }
+  return Noting([&] { return session->Run(text, updatable); });
 }
 
 late::Value Connection::BeginTrans() {
-  Required().Begin();
+  Noting([&] { Required().Begin(); });
   return std::int32_t{1};  // the server knows one level
+}
+
+void Connection::End(void (Session::*how)()) {
+  Session& session = Required();
+  Noting([&] { (session.*how)(); });
 }
 
 const late::MemberTable<Connection>& Connection::Members() {
@@ -82,8 +87,8 @@ const late::MemberTable<Connection>& Connection::Members() {
       {"Execute", [](Self& self, Arguments& arguments) { return self.Execute(arguments); }, nullptr, 1, 3},
       late::Collection<Self>("Errors", [](Self& self) { return self.errors_; }),
       {"BeginTrans", [](Self& self, Arguments&) { return self.BeginTrans(); }, nullptr},
-      {"CommitTrans", [](Self& self, Arguments&) -> Value { return self.Required().Commit(), Value(); }, nullptr},
-      {"RollbackTrans", [](Self& self, Arguments&) -> Value { return self.Required().Rollback(), Value(); }, nullptr},
+      {"CommitTrans", [](Self& self, Arguments&) -> Value { return self.End(&Session::Commit), Value(); }, nullptr},
+      {"RollbackTrans", [](Self& self, Arguments&) -> Value { return self.End(&Session::Rollback), Value(); }, nullptr},
       {"CommandTimeout", [](Self& self, Arguments&) -> Value { return std::int32_t{self.timeout_}; },
        [](Self& self, Arguments& arguments) {
          const std::int32_t seconds = arguments[0].ToInt32();

@@ -23,14 +23,25 @@ class Connection : public late::TableObject<Connection> {
   /// The open session; error 3709 when the connection is closed, for those who want to work on it.
   const std::shared_ptr<Session>& OpenSession() const;
   int CursorLocation() const { return cursorLocation_; }
-  /// Runs a statement; what the server refuses is also found in Errors afterwards. Error 3709 when the connection is closed.
+  /// Runs a statement. Error 3709 when the connection is closed.
   RunResult Run(std::string_view text, bool updatable);
+  /// Runs `body`; what the server refuses is also found in Errors afterwards.
+  template <class Body>
+  auto Noting(const Body& body) {
+    try {
+      return body();
+    } catch (const ServerError& error) {
+      errors_->Keep(error);
+      throw;
+    }
+  }
 
  private:
   void Open(late::Arguments& arguments);
   void Close();
   late::Value Execute(late::Arguments& arguments);
   late::Value BeginTrans();
+  void End(void (Session::*how)());
   Session& Required() const;
 
   std::shared_ptr<Session> session_;

@@ -24,6 +24,8 @@ class Cursor {
   const std::vector<ResultColumn>& Columns() const { return rows_.Translated().columns; }
   const Translation& Source() const { return rows_.Translated(); }
   bool KeepsRows() const { return keeps_; }
+  /// Whether the end of the rows has been seen.
+  bool IsAtEnd() const { return state_ == State::Done; }
 
   /// Makes sure the first row is known.
   void Start();

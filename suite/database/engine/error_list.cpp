@@ -30,6 +30,7 @@ const late::MemberTable<ErrorItem>& ErrorItem::Members() {
       {"Description", description, nullptr},
       {"Number", [](ErrorItem& self, Arguments&) -> Value { return static_cast<std::int32_t>(self.error_.Number()); }, nullptr},
       {"NativeError", [](ErrorItem& self, Arguments&) -> Value { return std::int32_t{self.error_.NativeError()}; }, nullptr},
+      {"SQLState", [](ErrorItem& self, Arguments&) -> Value { return self.error_.SqlState(); }, nullptr},
       {"Source", [](ErrorItem& self, Arguments&) -> Value { return self.error_.Source(); }, nullptr},
   };
   return table;

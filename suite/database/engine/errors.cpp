@@ -37,10 +37,15 @@ long NumberOf(int native) {
       return HResult(0x8004D00E);
     case 3904:
       return HResult(0x8004D013);
+    case 229:
+    case 262:
+      return HResult(0x80040E09);
     case 16947:
       return HResult(0x80040E38);
     case 823:
-      return HResult(0x80004005);
+    case kDeadlockVictim:
+    case 10054:  // the connection is broken
+      return HResult(kUnspecified);
     default:
       return HResult(0x80040E14);
   }
@@ -104,8 +109,45 @@ std::string Subject(std::string_view message) {
 ServerError::ServerError(int native, std::string text)
     : RunTimeError(NumberOf(native), std::move(text), std::string(kProviderName)), native_(native) {}
 
+ServerError::ServerError(unsigned hresult, std::string_view text)
+    : RunTimeError(HResult(hresult), std::string(text), std::string(kProviderName)), native_(0) {}
+
+std::string ServerError::SqlState() const {
+  switch (native_) {
+    case 0:
+      return {};
+    case 207:
+      return "42S22";
+    case 208:
+      return "42S02";
+    case 515:
+    case 547:
+    case 2601:
+    case 2627:
+      return "23000";
+    case kDeadlockVictim:
+      return "40001";
+    case 1222:
+      return "HYT00";
+    case 8152:
+      return "22001";
+    case 10054:
+      return "08S01";
+    default:
+      return "42000";
+  }
+}
+
+bool ServerError::EndsTransaction() const {
+  return native_ == kDeadlockVictim || native_ == kEndedInTrigger;
+}
+
 void RaiseServer(int native, std::string text) {
   throw ServerError(native, std::move(text));
+}
+
+void RaiseProvider(unsigned hresult, std::string_view text) {
+  throw ServerError(hresult, text);
 }
 
 void RaiseAdo(long number, std::string_view source) {

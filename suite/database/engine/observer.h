@@ -25,6 +25,8 @@ class StatementObserver {
   virtual void Begin() {}
   virtual void Commit() {}
   virtual void Rollback() {}
+  /// A statement runs while rows of the connection are unread, outside a transaction: the provider logs on a second time for it.
+  virtual void SecondLogIn() {}
 };
 
 }  // namespace suite

@@ -151,7 +151,12 @@ StatementPtr Parser::If() {
 StatementPtr Parser::Set() {
   StatementPtr statement = Make(StatementKind::Nothing);
   ExpectWord("set");
-  const bool known = TakeWord("nocount") || TakeWord("ansi_nulls") || TakeWord("quoted_identifier") || TakeWord("ansi_padding") ||
+  if (TakeWord("nocount")) {
+    statement->kind = TakeWord("on") ? StatementKind::CountNoRows : StatementKind::CountRows;
+    if (statement->kind == StatementKind::CountRows) ExpectWord("off");
+    return statement;
+  }
+  const bool known = TakeWord("ansi_nulls") || TakeWord("quoted_identifier") || TakeWord("ansi_padding") ||
                      TakeWord("ansi_warnings") || TakeWord("xact_abort");
   if (!known) Unexpected();
   if (!TakeWord("on")) ExpectWord("off");

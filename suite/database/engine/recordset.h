@@ -53,6 +53,11 @@ class Recordset : public late::TableObject<Recordset>, private OpenRows {
   void Close();
   void Requery();
   void ConnectionClosed() override;
+  void TransactionEnded() override;
+  bool IsUnread() const override;
+  void TakeResult(RunResult result, bool updatable);
+  late::Value NextRecordset(late::Arguments& arguments);
+  void RequireAlive() const;
   void SetConnection(const late::Value& connection);
   std::string CommandText() const;
   void RequireClosed() const;
@@ -78,9 +83,11 @@ class Recordset : public late::TableObject<Recordset>, private OpenRows {
   void CancelBatch();
   void Delete();
   void SettleEdit();
+  void RequireRowHandle();
   void AddRow(const late::Array& names, const late::Array& values);
   void Keep(Pending pending);
   void Send(Pending& pending);
+  void SendRow(Pending& pending);
   void ShowNew();
   RowWriter& Writer();
   int TableColumn(std::size_t column);
@@ -94,7 +101,10 @@ class Recordset : public late::TableObject<Recordset>, private OpenRows {
   int cursorLocation_ = 0;  ///< 0: the connection's
   int maxRecords_ = 0;
   int options_ = -1;
+  bool onServer_ = false;  ///< of the open rows
+  bool dead_ = false;      ///< the rows were on the server and ended with a transaction
   std::unique_ptr<Cursor> cursor_;
+  std::shared_ptr<LaterResults> later_;
   std::unique_ptr<RowWriter> writer_;
   Edit edit_ = Edit::None;
   std::vector<std::pair<std::size_t, late::Value>> edits_;  ///< fields set, in that order

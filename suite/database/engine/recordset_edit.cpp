@@ -16,6 +16,7 @@ constexpr std::string_view kSource = "ADODB.Recordset";
 }  // namespace
 
 RowWriter& Recordset::Writer() {
+  RequireAlive();
   if (!cursor_) RaiseAdo(ado::kObjectClosed, kSource);
   if (lockType_ == ado::kReadOnly || !cursor_->Source().rowIds) RaiseAdo(ado::kFeatureNotAvailable, kSource);
   if (!writer_) writer_ = std::make_unique<RowWriter>(session_, cursor_->Source().table);
@@ -69,8 +70,16 @@ late::Value Recordset::FieldValue(std::size_t column) {
   return Rows().Value(column);
 }
 
+/// A cursor on the server holds one changed row until it is sent; batches belong to the client.
+void Recordset::RequireRowHandle() {
+  const auto unsent = [](const Pending& pending) { return !pending.sent; };
+  if (!onServer_ || lockType_ != ado::kBatchOptimistic || std::none_of(pending_.begin(), pending_.end(), unsent)) return;
+  RaiseProvider(kRowsNotReleased, "Row handles must all be released before new ones can be obtained.");
+}
+
 void Recordset::SetField(std::size_t column, late::Value value) {
   Writer();
+  if (edit_ == Edit::None) RequireRowHandle();
   if (edit_ == Edit::None && !Rows().OnRow()) RaiseAdo(ado::kNoCurrentRecord, kSource);
   TableColumn(column);
   Typed(column, value);  // a value of the wrong type is refused at once
@@ -86,6 +95,7 @@ void Recordset::SetField(std::size_t column, late::Value value) {
 void Recordset::AddNew(late::Arguments& arguments) {
   Writer();
   SettleEdit();
+  RequireRowHandle();
   if (!arguments.Has(0)) {
     edit_ = Edit::Adding;
     edits_.clear();
@@ -127,6 +137,10 @@ void Recordset::Keep(Pending pending) {
 }
 
 void Recordset::Send(Pending& pending) {
+  connection_->Noting([&] { session_->Guarded([&] { SendRow(pending); }); });
+}
+
+void Recordset::SendRow(Pending& pending) {
   RowWriter& writer = Writer();
   switch (pending.change) {
     case Change::Insert: {
@@ -228,6 +242,7 @@ void Recordset::UpdateBatch() {
 }
 
 void Recordset::CancelUpdate() {
+  RequireAlive();
   if (!cursor_) RaiseAdo(ado::kObjectClosed, kSource);
   edit_ = Edit::None;
   edits_.clear();
@@ -247,6 +262,7 @@ void Recordset::Delete() {
   if (edit_ == Edit::Adding) return CancelUpdate();
   if (!Rows().OnRow()) RaiseAdo(ado::kNoCurrentRecord, kSource);
   CancelUpdate();
+  RequireRowHandle();
   Keep(Pending{Change::Delete, nullptr, {}, Rows().RowId()});
   cursor_->Removed();
 }

@@ -65,6 +65,7 @@ const late::MemberTable<Recordset>& Recordset::Members() {
       {"Open", [](Self& self, Arguments& arguments) -> Value { return self.Open(arguments), Value(); }, nullptr, 0, 5},
       M::Method("Close", &Recordset::Close),
       M::Method("Requery", &Recordset::Requery, 1),
+      {"NextRecordset", [](Self& self, Arguments& arguments) { return self.NextRecordset(arguments); }, nullptr, 0, 1},
       {"EOF", [](Self& self, Arguments&) -> Value { return self.Eof(); }, nullptr},
       {"BOF", [](Self& self, Arguments&) -> Value { return self.Bof(); }, nullptr},
       M::Moving("MoveFirst", &Cursor::MoveFirst),
@@ -83,7 +84,9 @@ const late::MemberTable<Recordset>& Recordset::Members() {
       M::Method("Delete", &Recordset::Delete, 1),
       {"GetRows", [](Self& self, Arguments& arguments) { return self.GetRows(arguments); }, nullptr, 0, 3},
       {"GetString", [](Self& self, Arguments& arguments) { return self.GetString(arguments); }, nullptr, 0, 5},
-      {"State", [](Self& self, Arguments&) -> Value { return std::int32_t{self.cursor_ ? ado::kOpen : ado::kClosed}; }, nullptr},
+      {"State",
+       [](Self& self, Arguments&) -> Value { return std::int32_t{self.cursor_ || self.dead_ ? ado::kOpen : ado::kClosed}; },
+       nullptr},
       {"EditMode", [](Self& self, Arguments&) -> Value { return static_cast<std::int32_t>(self.edit_); }, nullptr},
       {"Source", [](Self& self, Arguments&) -> Value { return self.source_; },
        [](Self& self, Arguments& arguments) {

@@ -20,9 +20,11 @@ std::shared_ptr<Recordset> Recordset::OfResult(std::shared_ptr<Connection> conne
   auto recordset = std::make_shared<Recordset>();
   recordset->connection_ = std::move(connection);
   recordset->source_ = std::move(source);
+  recordset->later_ = result.later;
   if (!result.rows) return recordset;
   recordset->session_ = std::move(session);
   const bool client = recordset->connection_ && recordset->connection_->CursorLocation() == ado::kUseClient;
+  recordset->onServer_ = !client;
   recordset->cursorType_ = client ? ado::kStatic : ado::kForwardOnly;
   recordset->cursor_ = std::make_unique<Cursor>(recordset->session_, std::move(result.rows), client, 0);
   recordset->session_->Attach(recordset.get());
@@ -31,14 +33,19 @@ std::shared_ptr<Recordset> Recordset::OfResult(std::shared_ptr<Connection> conne
   return recordset;
 }
 
+void Recordset::RequireAlive() const {
+  if (dead_) RaiseProvider(kCatastrophic, "Catastrophic failure");
+}
+
 Cursor& Recordset::Rows() {
+  RequireAlive();
   if (!cursor_) RaiseAdo(ado::kObjectClosed, kSource);
   if (!pending_.empty()) ShowNew();
   return *cursor_;
 }
 
 void Recordset::RequireClosed() const {
-  if (cursor_) RaiseAdo(ado::kObjectOpen, kSource);
+  if (cursor_ || dead_) RaiseAdo(ado::kObjectOpen, kSource);
 }
 
 void Recordset::SetConnection(const late::Value& value) {
@@ -83,9 +90,11 @@ void Recordset::OpenSource() {
   const std::shared_ptr<Session> session = connection_->OpenSession();
   const bool updatable = lockType_ != ado::kReadOnly;
   RunResult result = connection_->Run(CommandText(), updatable);
+  later_ = result.later;
   if (!result.rows) return;  // a statement without rows leaves the recordset closed
   const int location = cursorLocation_ ? cursorLocation_ : connection_->CursorLocation();
-  if (location == ado::kUseClient) cursorType_ = ado::kStatic;
+  onServer_ = location != ado::kUseClient;
+  if (!onServer_) cursorType_ = ado::kStatic;
   auto cursor = std::make_unique<Cursor>(session, std::move(result.rows), cursorType_ != ado::kForwardOnly, maxRecords_);
   // A snapshot is read now; a plain reading cursor meets its first row (and a failing statement its error) now; the others wait.
   if (cursorType_ == ado::kStatic) {
@@ -99,9 +108,43 @@ void Recordset::OpenSource() {
 }
 
 void Recordset::Close() {
+  RequireAlive();
   if (!cursor_) RaiseAdo(ado::kObjectClosed, kSource);
   session_->Detach(this);
   ConnectionClosed();
+}
+
+/// Only rows that the server sends without a cursor occupy the connection; a cursor is asked for its rows, and one on the client
+/// has them all.
+bool Recordset::IsUnread() const {
+  return cursor_ && onServer_ && cursorType_ == ado::kForwardOnly && lockType_ == ado::kReadOnly && !cursor_->IsAtEnd();
+}
+
+void Recordset::TransactionEnded() {
+  if (!onServer_ || !cursor_) return;
+  edit_ = Edit::None;
+  edits_.clear();
+  pending_.clear();
+  lastSet_ = nullptr;
+  writer_.reset();
+  cursor_.reset();
+  dead_ = true;
+}
+
+late::Value Recordset::NextRecordset(late::Arguments& arguments) {
+  const std::shared_ptr<LaterResults> later = later_;
+  const std::shared_ptr<Session> session = connection_ ? connection_->OpenSession() : nullptr;
+  if (cursor_ || dead_) Close();
+  later_.reset();
+  if (!later || later->results.empty()) {
+    if (later && later->error) connection_->Noting([&] { throw ServerError(*later->error); });
+    return late::ObjectPtr();
+  }
+  RunResult result = std::move(later->results.front());
+  later->results.pop_front();
+  result.later = later;
+  if (arguments.Has(0)) arguments.Write(0, result.affected);
+  return late::ObjectPtr(OfResult(connection_, session, std::move(result), source_));
 }
 
 void Recordset::ConnectionClosed() {
@@ -113,6 +156,7 @@ void Recordset::ConnectionClosed() {
   lastSet_ = nullptr;
   writer_.reset();
   cursor_.reset();
+  dead_ = false;
   session_.reset();
 }
 

@@ -20,12 +20,13 @@ RowWriter::ColumnSet& RowWriter::SetOf(const std::vector<int>& columns) {
 
 void RowWriter::Announce(StatementObserver::Change change, const ColumnSet& set, const std::vector<late::Value>& values) {
   StatementObserver* observer = session_->Observer();
-  if (!observer) return;
+  if (!observer) return session_->Use();
   std::vector<StatementObserver::ColumnValue> pairs;
   for (std::size_t i = 0; i < set.columns.size(); ++i) {
     pairs.emplace_back(table_.columns[static_cast<std::size_t>(set.columns[i])].name, values[i]);
   }
   observer->RowChange(change, table_.name, pairs);
+  session_->Use();
 }
 
 void RowWriter::Bind(sqlite3_stmt* statement, const ColumnSet& set, const std::vector<late::Value>& values) {

@@ -93,8 +93,23 @@ StatementHandle Session::Prepare(Translation translation) {
   return StatementHandle(std::move(statement));
 }
 
+void RunResult::RaiseLater() const {
+  if (later && later->error) throw *later->error;
+}
+
+bool Session::HasUnreadRows() const {
+  return std::any_of(open_.begin(), open_.end(), [](const OpenRows* rows) { return rows->IsUnread(); });
+}
+
+void Session::Use() {
+  if (HasUnreadRows()) {
+    if (manual_) RaiseProvider(kUnspecified, "Cannot create new connection because in manual or distributed transaction mode.");
+    if (observer_) observer_->SecondLogIn();
+  }
+  if (manual_ && !inTransaction_) OpenTransaction();
+}
+
 RunResult Session::Run(std::string_view text, bool updatable) {
-  if (observer_ && running_ == 0) observer_->Statement(text);
   functions_.now.reset();
   struct Depth {
     int& depth;
@@ -106,8 +121,12 @@ RunResult Session::Run(std::string_view text, bool updatable) {
     Lex(text, own);
     return RunLexed(own, updatable);
   }
-  Lex(text, scratch_);
-  return RunLexed(scratch_, updatable);
+  return Guarded([&] {
+    if (observer_) observer_->Statement(text);
+    Use();
+    Lex(text, scratch_);
+    return RunLexed(scratch_, updatable);
+  });
 }
 
 RunResult Session::RunLexed(const Lexed& lexed, bool updatable) {
@@ -121,15 +140,25 @@ RunResult Session::RunLexed(const Lexed& lexed, bool updatable) {
 
 RunResult Session::RunBatch(const Lexed& lexed, bool updatable) {
   Parser parser(lexed);
-  RunResult result;
-  for (bool first = true;; first = false) {
+  LaterResults results;
+  for (bool first = true; !results.error; first = false) {
     parser.SkipSeparators();
-    if (parser.AtEnd()) return result;
+    if (parser.AtEnd()) break;
     const ast::StatementPtr statement = parser.Statement(first);
-    RunResult next = RunStatement(lexed, *statement, parser, updatable);
-    // The batch answers with its first rows, or else with its last count.
-    if (!result.rows) result = std::move(next);
+    try {
+      RunResult next = RunStatement(lexed, *statement, parser, updatable);
+      if (!next.IsEmpty()) results.results.push_back(std::move(next));
+    } catch (const ServerError& error) {
+      if (results.results.empty()) throw;
+      Lose(error);
+      results.error = error;
+    }
   }
+  if (results.results.empty()) return {};
+  RunResult result = std::move(results.results.front());
+  results.results.pop_front();
+  if (!results.results.empty() || results.error) result.later = std::make_shared<LaterResults>(std::move(results));
+  return result;
 }
 
 std::shared_ptr<CachedStatement> Session::Translate(const Lexed& lexed, const ast::Statement& statement,
@@ -175,6 +204,7 @@ RunResult Session::RunStatement(const Lexed& lexed, ast::Statement& statement, P
       return RunProcedure(lexed, statement, updatable);
     case StatementKind::Begin:
       BeginTransaction();
+      OpenTransaction();
       return {};
     case StatementKind::Commit:
       CommitTransaction();
@@ -194,6 +224,10 @@ RunResult Session::RunStatement(const Lexed& lexed, ast::Statement& statement, P
       }
       return result;
     }
+    case StatementKind::CountRows:
+    case StatementKind::CountNoRows:
+      countsRows_ = statement.kind == StatementKind::CountRows;
+      return {};
     case StatementKind::Nothing:
       return {};
     default:
@@ -230,7 +264,7 @@ RunResult Session::Start(const Lexed& lexed, std::shared_ptr<CachedStatement> ca
   }
   while (Step(handle.Get())) {
   }
-  result.affected = sqlite3_changes64(handle_);
+  if (countsRows_) result.affected = sqlite3_changes64(handle_);
   return result;
 }
 

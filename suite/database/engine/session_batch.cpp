@@ -13,38 +13,71 @@ namespace suite {
 
 void Session::Begin() {
   if (observer_) observer_->Begin();
+  if (HasUnreadRows()) RaiseProvider(kUnspecified, "Cannot start transaction while in firehose mode.");
   BeginTransaction();
 }
 
 void Session::Commit() {
-  if (inTransaction_ && observer_) observer_->Commit();
-  CommitTransaction();
+  Guarded([&] {
+    if (manual_ && observer_) observer_->Commit();
+    CommitTransaction();
+  });
 }
 
 void Session::Rollback() {
-  if (inTransaction_ && observer_) observer_->Rollback();
+  if (manual_ && observer_) observer_->Rollback();
   RollbackTransaction();
 }
 
 void Session::BeginTransaction() {
-  if (inTransaction_) RaiseServer(3904, "Cannot start more transactions on this session.");
+  if (manual_) RaiseServer(3904, "Cannot start more transactions on this session.");
+  manual_ = true;
+  lost_ = false;
+}
+
+void Session::OpenTransaction() {
   // The write lock is taken at once: what a save reads to number its request is then still true when it writes.
   Execute("BEGIN IMMEDIATE");
   inTransaction_ = true;
+  lost_ = false;
   versionAtBegin_ = store_->catalog.Version();
 }
 
 void Session::CommitTransaction() {
-  if (!inTransaction_) RaiseServer(3902, "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION.");
-  Execute("COMMIT");
-  inTransaction_ = false;
+  if (!manual_ || lost_) {
+    manual_ = lost_ = false;
+    RaiseServer(3902, "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION.");
+  }
+  if (inTransaction_) EndTransaction("COMMIT");
+  manual_ = false;
 }
 
 void Session::RollbackTransaction() {
-  if (!inTransaction_) RaiseServer(3903, "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
+  if (!manual_ || lost_) {
+    manual_ = lost_ = false;
+    RaiseServer(3903, "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
+  }
+  manual_ = false;
+  if (!inTransaction_) return;
   // After a grave error (a full disk) the store has already rolled back by itself.
-  if (!sqlite3_get_autocommit(handle_)) Execute("ROLLBACK");
+  EndTransaction(HasStoreTransaction() ? "ROLLBACK" : nullptr);
+  if (versionAtBegin_ != store_->catalog.Version()) LoadCatalog();
+}
+
+void Session::EndTransaction(const char* sql) {
+  if (sql) Execute(sql);
   inTransaction_ = false;
+  for (OpenRows* rows : open_) rows->TransactionEnded();
+}
+
+bool Session::HasStoreTransaction() const {
+  return !sqlite3_get_autocommit(handle_);
+}
+
+void Session::Lose(const ServerError& error) {
+  if (!inTransaction_ || !error.EndsTransaction()) return;
+  EndTransaction(HasStoreTransaction() ? "ROLLBACK" : nullptr);
+  lost_ = true;
   if (versionAtBegin_ != store_->catalog.Version()) LoadCatalog();
 }
 
@@ -89,6 +122,7 @@ void Session::RunBatchText(std::string_view text) {
   const std::string_view trimmed = vb::Trim(text);
   if (trimmed.find_first_not_of(" \t\r\n") == std::string_view::npos) return;
   const RunResult result = Run(text);
+  result.RaiseLater();
   if (!result.rows) return;
   while (Step(result.rows.Get())) {
   }

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "base/vb/text.h"
 #include "tests/src/editor/editor_shop.h"
 
@@ -219,7 +221,26 @@ TEST_F(Saving, AnApostropheInTheNumberFailsTheSaveAndNothingElse) {
 /// A save that fails at any of its steps leaves the database as it was and the editor with all that was typed; the next OK works.
 class FailingSave : public Saving {
  protected:
-  void FailAtEveryStep() {
+  static constexpr long kUnspecified = static_cast<std::int32_t>(0x80004005);
+  static constexpr int kAnyError = 0;
+  static constexpr int kDeadlockVictim = 1205;
+
+  void ExpectFailure(int native) {
+    if (native == kAnyError) return ExpectError("Connection broken by the test", "cmdOK_Click", -2147217900);
+    ExpectError(
+        "Another workstation was using the same data, and the request was not saved. What you typed is still here: press OK "
+        "again.\r\n\r\nFailed by the test",
+        "cmdOK_Click", kUnspecified);
+  }
+  /// What was sent after the step that failed: the way back, and who the user is, for the report.
+  void ExpectNothingWrittenAfter(std::size_t failed) {
+    for (std::size_t i = failed; i < log.lines.size(); ++i) {
+      const std::string& line = log.lines[i];
+      EXPECT_TRUE(line == "rollback" || line.starts_with("select username from LOUSERS")) << line;
+    }
+  }
+  /// With the server's own error of a deadlock, the server has undone the transaction already.
+  void FailAtEveryStep(int native = kAnyError) {
     const std::vector<std::string> before = Everything();
     const std::vector<std::string> lines = Lines();
     const std::vector<std::string> documents = Documents();
@@ -228,10 +249,12 @@ class FailingSave : public Saving {
     int step = 0;
     do {
       log.Clear();
-      log.FailAt(++step);
-      ExpectError("Connection broken by the test", "cmdOK_Click", -2147217900);
+      log.FailAt(++step, native);
+      ExpectFailure(native);
       Click(editor->cmdOK);
       desktop.Verify();
+      const auto back = std::find(log.lines.begin(), log.lines.end(), "rollback");
+      ExpectNothingWrittenAfter(static_cast<std::size_t>(back - log.lines.begin()));
       ASSERT_TRUE(editor->IsLoaded()) << "step " << step;
       EXPECT_EQ(before, Everything()) << "step " << step;
       EXPECT_EQ(number, editor->txtRequestNo.Text());
@@ -248,32 +271,88 @@ class FailingSave : public Saving {
   }
 };
 
-TEST_F(FailingSave, OfANewRequest) {
+class FailingSaveBy : public FailingSave, public testing::WithParamInterface<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Errors, FailingSaveBy, testing::Values(0, 1205), [](const auto& native) {
+  return std::string(native.param == 0 ? "LeavesTheTransaction" : "HasRolledBack");
+});
+
+TEST_P(FailingSaveBy, OfANewRequest) {
   New([&] {
     AddLine(1, "1.000");
     AddLine(2, "2.000");
     AddLine(3, "3.000");
     CheckDocuments({"I-102", "X-102"});
     Enter(editor->txtRemarks, "typed ");
-    FailAtEveryStep();
+    FailAtEveryStep(GetParam());
   });
   EXPECT_EQ("GR/8|3", shop.Row("select GRHrequestno, GRHNoofDetails from mosGoodsRequestHeader where GRHrequestID=8"));
   EXPECT_EQ("3", shop.Row("select count(*) from mosGoodsRequestDetail where GRDrequestID=8"));
   EXPECT_EQ("2", shop.Row("select count(*) from mosRequestInvDetail where reqdid=8"));
 }
 
-TEST_F(FailingSave, OfAnEditedRequest) {
+TEST_P(FailingSaveBy, OfAnEditedRequest) {
   shop.Run(
       "insert into mosRequestInvDetail (reqcompanyid, reqdid, reqddetailid, reqinvdshopid, reqinvdinvoiceid) values (1, 7, 1, 1, "
       "101)");
   Edit(7, [&] {
     AddLine(3, "3.000");
     Enter(editor->txtRemarks, "typed ");
-    FailAtEveryStep();
+    FailAtEveryStep(GetParam());
   });
   EXPECT_EQ("typed|3", shop.Row("select GRHremarks, GRHNoofDetails from mosGoodsRequestHeader where GRHrequestID=7"));
   EXPECT_EQ("3", shop.Row("select count(*) from mosGoodsRequestDetail where GRDrequestID=7"));
   EXPECT_EQ("101", shop.Row("select reqinvdinvoiceid from mosRequestInvDetail where reqdid=7"));
+}
+
+TEST_F(FailingSave, OverABrokenConnectionSaysWhatToDo) {
+  constexpr int kConnectionReset = 10054;
+  New([&] {
+    AddLine(1, "1.000");
+    const auto failAt = [&](int step, const std::string& words) {
+      log.FailAt(step, kConnectionReset);
+      ExpectError(words + "\r\n\r\nFailed by the test", "cmdOK_Click", kUnspecified);
+      Click(editor->cmdOK);
+      desktop.Verify();
+    };
+    log.Clear();
+    failAt(7,
+           "The connection to the server is broken, and the request was not saved. What you typed is still here: press OK again "
+           "when the connection is back.");
+    // The step of the commit is the one after all that a whole save sends.
+    const std::vector<std::string> before = Everything();
+    int step = 8;
+    for (log.Clear(); log.Starting("commit").empty(); ++step) {
+      log.Clear();
+      log.FailAt(step);
+      ExpectError("Connection broken by the test", "cmdOK_Click", -2147217900);
+      Click(editor->cmdOK);
+    }
+    failAt(step - 1,
+           "The connection to the server broke while the request was being saved. Look in the register whether it is there "
+           "before you press OK again.");
+    EXPECT_EQ(before, Everything());
+    Click(editor->cmdOK);
+  });
+  EXPECT_EQ("GR/8", shop.Row("select GRHrequestno from mosGoodsRequestHeader where GRHrequestID=8"));
+}
+
+TEST_F(Saving, WithoutTheRightToMakeTheAuditTableGoesOnAndIsNotedOnce) {
+  constexpr int kPermissionDenied = 262;
+  shop.Run("drop table smpUserAudit");
+  log.Refuse("create table smpUserAudit", kPermissionDenied);
+  for (int request = 8; request <= 9; ++request) {
+    New([&] {
+      AddLine(1, "1.000");
+      Click(editor->cmdOK);
+      EXPECT_FALSE(editor->IsLoaded());
+    });
+    EXPECT_EQ("1", shop.Row("select count(*) from mosGoodsRequestDetail where GRDrequestID=" + std::to_string(request)));
+  }
+  EXPECT_EQ(1u, log.Starting("create table smpUserAudit").size());
+  const std::string noted = shop.workstation.files["C:\\shop\\errors.log"];
+  EXPECT_EQ(1, std::count(noted.begin(), noted.end(), '\n')) << noted;
+  EXPECT_NE(0u, vb::InStr(noted, "create table smpUserAudit")) << noted;
 }
 
 }  // namespace

@@ -106,6 +106,30 @@ TEST_F(Fetch, ItemsOfGodownsComeFromTheProcedureAsAFilterAlone) {
   });
 }
 
+/// The shop's connection, where the procedure changes and counts rows before it selects any.
+class CountingProcedure : public late::Object {
+ public:
+  explicit CountingProcedure(late::ObjectPtr connection) : connection_(std::move(connection)) {}
+  late::Value Invoke(std::string_view member, late::Access access, std::span<late::Value> arguments) override {
+    const std::string text = arguments.empty() ? std::string() : arguments[0].TextOrEmpty();
+    if (!text.starts_with("spgodownitemnotinshop")) return connection_->Invoke(member, access, arguments);
+    return connection_->Call(member, {"update aUnit set UnitCode=UnitCode; update aCity set CityName=CityName; exec " + text});
+  }
+  bool Has(std::string_view member) const override { return connection_->Has(member); }
+  std::string TypeName() const override { return "Connection"; }
+
+ private:
+  late::ObjectPtr connection_;
+};
+
+TEST_F(Fetch, AProcedureMayCountRowsBeforeItGivesAny) {
+  shop.session.gAdoCon = ado::Connection(std::make_shared<CountingProcedure>(shop.session.gAdoCon.Object()));
+  Open(ItemListMode::InGodownNotInShop, [&] {
+    Filter("");
+    EXPECT_NE(dialog->flexMaster.TextMatrix(1, FrmFetch::kItemCode), "");
+  });
+}
+
 TEST_F(Fetch, ItemsThatTheShopDoesNotKeep) {
   Open(ItemListMode::NotInShop, [&] {
     Filter("saucepan");

@@ -175,6 +175,26 @@ TEST_F(ItemLists, TheLookupMayHandBackARecordsetOfItsOwn) {
   });
 }
 
+TEST_F(ItemLists, AListOnTheServerThatASaveHasEndedGivesWayToAFreshOne) {
+  diary->onTake = [&](late::Value& recordset) {
+    EXPECT_EQ(ado::Recordset(recordset.ToObject()).Object()->Get("CursorLocation").ToInt32(), ado::kUseClient);
+    recordset = shop.registry.Create("ADODB.Recordset");
+  };
+  TakesTheRow(std::string(kKettleFilter) + "258");
+  Add([&] {
+    support::Click(form->cmdFetch);
+    EXPECT_EQ(ChosenItem(), "Kettle limescale filter");
+    session.gAdoCon.BeginTrans();
+    session.gAdoCon.ExecuteNoRecords("update aUnit set UnitCode = UnitCode");
+    session.gAdoCon.CommitTrans();
+    diary->onTake = [&](late::Value& recordset) { EXPECT_FALSE(ado::Recordset(recordset.ToObject()).IsOpen()); };
+    TakesTheRow(std::string(kKettleFilter) + "1");
+    support::Click(form->optItemsNotInShop);
+    support::Click(form->cmdFetch);
+    EXPECT_EQ(ChosenItem(), "Frying pan 20 cm");
+  });
+}
+
 TEST_F(ItemLists, ACancelledOrEmptyFetchChangesNothing) {
   Add([&] {
     Scan("KT1012");

@@ -54,17 +54,27 @@ std::string RowsText(late::Object& recordset) {
   return text;
 }
 
-/// What came of the statement, in the words of a case file.
+std::string ResultText(late::Object& recordset, const late::Value& affected) {
+  if (recordset.Get("State").ToInt32() == 0) return "count " + std::to_string(affected.ToInt32()) + "\n";
+  return "rows\n" + RowsText(recordset);
+}
+
+/// What came of the statement, one result after the other, in the words of a case file.
 std::string OutcomeOf(late::Object& connection, const std::string& statement) {
+  std::string text;
   try {
     late::Value affected;
-    const late::ObjectPtr recordset = connection.Call("Execute", {statement, late::Value::ByRef(affected)}).ToObject();
-    if (recordset->Get("State").ToInt32() == 0) return "count " + std::to_string(affected.ToInt32()) + "\n";
-    return "rows\n" + RowsText(*recordset);
+    late::ObjectPtr result = connection.Call("Execute", {statement, late::Value::ByRef(affected)}).ToObject();
+    while (result) {
+      text += ResultText(*result, affected);
+      const late::Value next = result->Call("NextRecordset", {late::Value::ByRef(affected)});
+      result = *next.If<late::ObjectPtr>();
+    }
+    return text;
   } catch (const suite::ServerError& error) {
-    return "error " + std::to_string(error.NativeError()) + " " + error.Description() + "\n";
+    return text + "error " + std::to_string(error.NativeError()) + " " + error.Description() + "\n";
   } catch (const vb::RunTimeError& error) {
-    return "error " + std::to_string(error.Number()) + " " + error.Description() + "\n";
+    return text + "error " + std::to_string(error.Number()) + " " + error.Description() + "\n";
   }
 }
 

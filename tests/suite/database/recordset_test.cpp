@@ -125,7 +125,8 @@ TEST_F(Recordsets, AChangedRowIsWrittenByItself) {
 }
 
 TEST_F(Recordsets, ABatchWaitsForUpdateBatchAndGoesWhole) {
-  const auto rows = Open("select * from detail where shop=1", ado::kDynamic, ado::kBatchOptimistic);
+  connection_->Put("CursorLocation", std::int32_t{ado::kUseClient});
+  const auto rows = Open("select * from detail where shop=1", ado::kStatic, ado::kBatchOptimistic);
   const late::Value names = late::Array::List({"line", "shop", "request", "item", "qty"});
   const auto add = [&](int line) {
     rows->Call("AddNew",
@@ -235,14 +236,17 @@ TEST_F(Recordsets, AThousandRowsOfOneInsertArrive) {
   EXPECT_EQ(Count("remarks like 'it''s %'"), 1000);
 }
 
-TEST_F(Recordsets, RowsMayBeWalkedWhileOthersAreChanged) {
+TEST_F(Recordsets, RowsOfACursorMayBeWalkedWhileOthersAreChanged) {
   Fill(50);
-  const auto rows = Open("select * from detail where request = 1", ado::kForwardOnly, ado::kReadOnly);
+  connection_->Call("BeginTrans");
+  const auto rows = Open("select * from detail where request = 1", ado::kDynamic, ado::kReadOnly);
   int walked = 0;
   for (; !rows->Get("EOF").ToBool(); rows->Call("MoveNext"), ++walked) {
     Execute("update detail set raised = 1 where item = " + Field(rows, "item").ToText());
   }
   EXPECT_EQ(walked, 50);
+  rows->Call("Close");
+  connection_->Call("CommitTrans");
   EXPECT_EQ(Count("raised = 1"), 50);
 }
 
