@@ -41,8 +41,11 @@ CommandGroup DatabaseCommands(DatabaseTools& database, Output& output) {
   CommandGroup group{"The database", {}};
   group.commands.push_back(
       {"sql", "STATEMENT", "on a second connection", Moment::Always, [&](Words& words) { Sql(database, output, words); }});
-  group.commands.push_back({"fail", "N [TEXT]", "let the N-th statement, row change or commit from now on fail", Moment::Always,
-                            [&](Words& words) { Fail(database, words); }});
+  group.commands.push_back(
+      {"fail", "N [TEXT]",
+       "let the N-th statement, row change or commit from now on fail; with a TEXT that begins \"rolled back by the "
+       "server\" the server has undone the transaction, too",
+       Moment::Always, [&](Words& words) { Fail(database, words); }});
   group.commands.push_back({"trace", "on | off", "statements, helper calls, pointer changes", Moment::Always,
                             [&](Words& words) { Trace(output, words); }});
   return group;

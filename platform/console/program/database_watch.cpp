@@ -82,12 +82,12 @@ void ConnectionWatch::SecondLogIn() {
 void ShopDatabase::Query(std::string_view statement, const std::function<void(std::span<const late::Value>)>& row) {
   if (!connection_) connection_ = database_.Connect();
   ado::Connection connection(connection_);
-  ado::Recordset rows = connection.Execute(statement);
-  if (!rows || !rows.IsOpen()) return;
-  ado::ForEachRow(rows, [&](const late::Array& block, std::size_t record) {
-    row(std::span<const late::Value>(&block.items[record * block.rows], block.rows));
-  });
-  rows.CloseIfOpen();
+  for (ado::Recordset result = connection.Execute(statement); result; result = result.NextRecordset()) {
+    if (!result.IsOpen()) continue;  // a count
+    ado::ForEachRow(result, [&](const late::Array& block, std::size_t record) {
+      row(std::span<const late::Value>(&block.items[record * block.rows], block.rows));
+    });
+  }
 }
 
 }  // namespace console
