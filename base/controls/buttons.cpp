@@ -66,7 +66,7 @@ void OptionButton::SetValue(bool value) {
   if (value) {
     for (Control* control : Owner().Controls()) {
       auto* other = dynamic_cast<OptionButton*>(control);
-      if (!other || other == this || !other->value_ || other->Container() != Container() || other->Page() != Page()) continue;
+      if (!other || other == this || !other->value_ || !other->SharesGroupWith(*this)) continue;
       other->value_ = false;
       other->Changed(Aspect::Selection);
     }

@@ -46,6 +46,7 @@ class OptionButton : public Captioned {
   OptionButton(Form& form, std::string name) : Captioned(form, ControlKind::OptionButton, std::move(name)) {}
   bool Value() const;
   void SetValue(bool value);
+  bool SharesGroupWith(const OptionButton& other) const { return other.Container() == Container() && other.Page() == Page(); }
   void Reset() override;
   std::string TypeName() const override { return "OptionButton"; }
 

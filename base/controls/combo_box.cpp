@@ -34,6 +34,7 @@ void ComboBox::RemoveItem(int index) {
   if (index < 0 || index >= ListCount()) vb::Raise(vb::kInvalidCall);
   entries_.erase(entries_.begin() + index);
   newIndex_ = -1;
+  ForgetEdits();
   if (listIndex_ == index) {
     listIndex_ = -1;
     text_.clear();
@@ -51,6 +52,7 @@ void ComboBox::Clear() {
   newIndex_ = -1;
   text_.clear();
   selStart_ = selLength_ = 0;
+  ForgetEdits();
   Changed(Aspect::Items);
 }
 
@@ -73,6 +75,7 @@ void ComboBox::SetListIndex(int index) {
 }
 
 void ComboBox::Select(int index) {
+  ForgetEdits();
   listIndex_ = index;
   text_ = index >= 0 ? entries_[static_cast<std::size_t>(index)].text : std::string();
   selStart_ = selLength_ = 0;
@@ -109,7 +112,10 @@ std::string ComboBox::Text() const {
 
 void ComboBox::SetText(std::string_view text) {
   Touch();
-  if (style_ == ComboStyle::DropDown) return TakeEdited(std::string(text));
+  if (style_ == ComboStyle::DropDown) {
+    TakeEdited(std::string(text));
+    return ForgetEdits();
+  }
   for (int index = 0; index < ListCount(); ++index) {
     if (vb::EqualNoCase(List(index), text)) return SetListIndex(index);
   }
@@ -151,43 +157,69 @@ void ComboBox::TypeOver(std::string_view text) {
   Touch();
   if (style_ != ComboStyle::DropDown) return;
   const int caret = selStart_ + Length(text);
-  Edit(Spliced(text_, selStart_, selLength_, text), caret);
+  Edit(EditHistory::Edit::Typing, Spliced(text_, selStart_, selLength_, text), caret);
 }
 
 void ComboBox::EraseBack() {
   Touch();
   if (style_ != ComboStyle::DropDown) return;
   if (selLength_ > 0) return TypeOver("");
-  if (selStart_ > 0) Edit(Spliced(text_, selStart_ - 1, 1, ""), selStart_ - 1);
+  if (selStart_ > 0) Edit(EditHistory::Edit::EraseBack, Spliced(text_, selStart_ - 1, 1, ""), selStart_ - 1);
 }
 
 void ComboBox::EraseForward() {
   Touch();
   if (style_ != ComboStyle::DropDown) return;
   if (selLength_ > 0) return TypeOver("");
-  Edit(Spliced(text_, selStart_, 1, ""), selStart_);
+  Edit(EditHistory::Edit::EraseForward, Spliced(text_, selStart_, 1, ""), selStart_);
 }
 
 void ComboBox::TakeEdited(std::string text) {
   Touch();
   if (style_ != ComboStyle::DropDown) return;
-  Edit(std::move(text), 0);
+  Edit(EditHistory::Edit::Typing, std::move(text), 0);
 }
 
-void ComboBox::Edit(std::string text, int caret) {
+void ComboBox::Edit(EditHistory::Edit edit, std::string text, int caret) {
   if (text == text_) return;
-  text_ = std::move(text);
+  if (listIndex_ >= 0) editedEntry_ = listIndex_;
+  history_.Before(edit, text_, selStart_, selLength_);
   listIndex_ = -1;
-  selStart_ = std::clamp(caret, 0, Length(text_));
-  selLength_ = 0;
+  Store(std::move(text), caret, 0);
+}
+
+void ComboBox::Store(std::string text, int selStart, int selLength) {
+  text_ = std::move(text);
+  selStart_ = std::clamp(selStart, 0, Length(text_));
+  selLength_ = std::clamp(selLength, 0, Length(text_) - selStart_);
+  history_.After(selStart_);
   Changed(Aspect::Text);
   Change.Fire();
+}
+
+bool ComboBox::CanUndo() const {
+  return style_ == ComboStyle::DropDown && history_.CanUndo();
+}
+
+void ComboBox::Undo() {
+  Touch();
+  if (!CanUndo()) return;
+  const EditHistory::State before = history_.Exchange({text_, selStart_, selLength_});
+  const bool isEntry = editedEntry_ >= 0 && editedEntry_ < ListCount() && List(editedEntry_) == before.text;
+  listIndex_ = isEntry ? editedEntry_ : -1;
+  Store(before.text, before.selStart, before.selLength);
+  history_.EndRun();
 }
 
 void ComboBox::Paste(std::string_view text) {
   Touch();
   if (style_ != ComboStyle::DropDown) return;
-  PasteThroughKeyPress(*this, text, false, [this](std::string_view passed) { TypeOver(passed); });
+  history_.EndRun();
+  PasteThroughKeyPress(*this, JoinedLines(text), [this](std::string_view passed) {
+    TypeOver(passed);
+    return true;
+  });
+  history_.EndRun();
 }
 
 bool ComboBox::PickByLetter(char32_t character) {
@@ -211,6 +243,12 @@ void ComboBox::Reset() {
   newIndex_ = -1;
   text_.clear();
   selStart_ = selLength_ = 0;
+  ForgetEdits();
+}
+
+void ComboBox::ForgetEdits() {
+  history_.Forget();
+  editedEntry_ = -1;
 }
 
 namespace {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/controls/control.h"
+#include "base/controls/edit_history.h"
 
 namespace controls {
 
@@ -47,6 +48,10 @@ class ComboBox : public Control {
   void EraseBack();
   void EraseForward();
   void TakeEdited(std::string text);
+  /// Takes the last run of edits of a DropDown's text back, and with the text of the entry picked before that entry; then the
+  /// undo itself. Fires Change.
+  bool CanUndo() const;
+  void Undo();
   void Paste(std::string_view text);
   /// The next entry that starts with the letter, round and round. False when there is none.
   bool PickByLetter(char32_t character);
@@ -66,7 +71,9 @@ class ComboBox : public Control {
   };
   const Entry& EntryAt(int index) const;
   void Select(int index);
-  void Edit(std::string text, int caret);
+  void Edit(EditHistory::Edit edit, std::string text, int caret);
+  void Store(std::string text, int selStart, int selLength);
+  void ForgetEdits();
 
   ComboStyle style_ = ComboStyle::DropDown;
   std::vector<Entry> entries_;
@@ -75,6 +82,8 @@ class ComboBox : public Control {
   std::string text_;
   int selStart_ = 0;
   int selLength_ = 0;
+  EditHistory history_;
+  int editedEntry_ = -1;  // the one whose text was typed over
 };
 
 }  // namespace controls

@@ -34,11 +34,17 @@ class Desktop {
   virtual void DoEvents() {}
   /// Whether the person has asked the system for colours of high contrast; nothing should be coloured over them then.
   virtual bool IsHighContrast() const { return false; }
+  /// The system's alarm, for what was typed and is not taken.
+  virtual void Beep() {}
+  /// How many rows of a list or grid a person sees at once: so far a page key goes. Every desktop that draws them knows better.
+  virtual long RowsShown(const Control&) const { return 10; }
 
   // Notes about what the model did; the default desktop ignores them.
   virtual void Changed(Control&, Aspect) {}
   virtual void FormChanged(Form&) {}
   virtual void FocusMoved(Form&, Control*) {}
+  /// The focus came to the control by Tab or by its access key.
+  virtual void EnteredByKey(Control&) {}
   virtual void PointerChanged(Form&, bool hourglass) { (void)hourglass; }
 
  protected:

@@ -14,8 +14,6 @@ namespace {
 constexpr long kBadRow = 30009;
 constexpr long kBadCol = 30010;
 constexpr long kLastDataRow = 30015;
-/// How far a page key goes; the model does not know how many rows a desktop shows.
-constexpr long kPageRows = 10;
 
 [[noreturn]] void RaiseRow() {
   vb::Raise(kBadRow, "Invalid Row value");
@@ -313,10 +311,11 @@ void FlexGrid::MoveMouse(long row, long col) {
 }
 
 void FlexGrid::ScrollTo(long row) {
+  const long shown = Owner().Desktop().RowsShown(*this);
   if (row < topRow_) {
     topRow_ = row;
-  } else if (row >= topRow_ + kPageRows) {
-    topRow_ = row - kPageRows + 1;
+  } else if (row >= topRow_ + shown) {
+    topRow_ = row - shown + 1;
   }
 }
 
@@ -340,10 +339,10 @@ bool FlexGrid::NavigationKey(int keyCode, int shift) {
       col += 1;
       break;
     case kKeyPageUp:
-      row -= kPageRows;
+      row -= Owner().Desktop().RowsShown(*this);
       break;
     case kKeyPageDown:
-      row += kPageRows;
+      row += Owner().Desktop().RowsShown(*this);
       break;
     case kKeyHome:
       col = fixedCols_;

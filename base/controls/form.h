@@ -72,9 +72,14 @@ class Form : public late::Object {
   bool MoveFocus(Control* control);
   /// The next (previous) control that can take the focus, round and round; null when none can.
   Control* NextInTabOrder(const Control* from, bool backwards = false) const;
-  void FocusNext(bool backwards = false);
-  /// The keystroke {TAB} sent to the form: carried out when the key being handled is finished (Keyboard does it), at once outside
-  /// of one.
+  void FocusNext();
+  /// The same as the Tab key goes: a group of options is one stop, its chosen option, the first where none is chosen.
+  Control* NextTabStop(const Control* from, bool backwards = false) const;
+  void TabOn(bool backwards = false);
+  /// What Tab and access keys do: moves the focus, and tells the desktop that it came by key.
+  void GoByKey(Control* control);
+  /// The keystroke {TAB} sent to the form goes to the very next control: carried out when the key being handled is finished
+  /// (Keyboard does it), at once outside of one.
   void SendTab();
   bool TakePendingTab();
   /// True while Keyboard handles a key of this form.
@@ -147,6 +152,7 @@ class Form : public late::Object {
   void RequestFocus(Control& control);
   /// Moves the focus on when the control that has it can no longer keep it. No validation.
   void LeaveUnreachable();
+  Control* FirstAfter(const Control* from, bool backwards, const std::function<bool(const Control&)>& suits) const;
   bool Leave(Control& left, Control* entered, unsigned move);
   void Enter(Control* control);
   bool CloseWith(int mode);

@@ -2,11 +2,31 @@
 
 #include <algorithm>
 
+#include "base/controls/buttons.h"
 #include "base/controls/form.h"
 #include "base/controls/tab_control.h"
 #include "base/vb/text.h"
 
 namespace controls {
+
+namespace {
+
+bool IsStop(const Control& control) {
+  return control.TabStop() && control.CanFocus();
+}
+
+/// The option of its group that Tab reaches: the chosen one, else the first.
+bool IsStopOfGroup(const OptionButton& option, const std::vector<Control*>& order) {
+  const OptionButton* stop = nullptr;
+  for (const Control* control : order) {
+    const auto* other = dynamic_cast<const OptionButton*>(control);
+    if (!other || !IsStop(*other) || !other->SharesGroupWith(option)) continue;
+    if (!stop || other->Value()) stop = other;
+  }
+  return stop == &option;
+}
+
+}  // namespace
 
 bool Form::IsActive() const {
   return shown_ && desktop_.ActiveForm() == this;
@@ -66,16 +86,37 @@ void Form::LeaveUnreachable() {
 }
 
 Control* Form::NextInTabOrder(const Control* from, bool backwards) const {
+  return FirstAfter(from, backwards, IsStop);
+}
+
+Control* Form::NextTabStop(const Control* from, bool backwards) const {
+  const auto* left = dynamic_cast<const OptionButton*>(from);
+  return FirstAfter(from, backwards, [&](const Control& control) {
+    const auto* option = dynamic_cast<const OptionButton*>(&control);
+    if (!option || !IsStop(control)) return IsStop(control);
+    return !(left && left->SharesGroupWith(*option)) && IsStopOfGroup(*option, TabOrder());
+  });
+}
+
+Control* Form::FirstAfter(const Control* from, bool backwards, const std::function<bool(const Control&)>& suits) const {
   std::vector<Control*> order = TabOrder();
   if (backwards) std::reverse(order.begin(), order.end());
   const auto start = std::find(order.begin(), order.end(), from);
   if (start != order.end()) std::rotate(order.begin(), start + 1, order.end());
-  const auto next = std::find_if(order.begin(), order.end(), [](const Control* c) { return c->TabStop() && c->CanFocus(); });
+  const auto next = std::find_if(order.begin(), order.end(), [&](const Control* control) { return suits(*control); });
   return next == order.end() ? nullptr : *next;
 }
 
-void Form::FocusNext(bool backwards) {
-  if (Control* next = NextInTabOrder(activeControl_, backwards)) MoveFocus(next);
+void Form::FocusNext() {
+  GoByKey(NextInTabOrder(activeControl_));
+}
+
+void Form::TabOn(bool backwards) {
+  GoByKey(NextTabStop(activeControl_, backwards));
+}
+
+void Form::GoByKey(Control* control) {
+  if (control && MoveFocus(control)) desktop_.EnteredByKey(*control);
 }
 
 void Form::SendTab() {

@@ -44,9 +44,7 @@ bool MoveOption(OptionButton& option, int keyCode) {
   std::vector<OptionButton*> group;
   for (Control* control : option.Owner().TabOrder()) {
     auto* other = dynamic_cast<OptionButton*>(control);
-    if (other && other->Container() == option.Container() && other->Page() == option.Page() && other->CanFocus()) {
-      group.push_back(other);
-    }
+    if (other && other->SharesGroupWith(option) && other->CanFocus()) group.push_back(other);
   }
   if (back) std::reverse(group.begin(), group.end());
   const auto here = std::find(group.begin(), group.end(), &option);
@@ -135,6 +133,7 @@ void ActOnKey(Control& control, int keyCode, int shift) {
 }
 
 void TypeInto(TextBox& box, int character) {
+  if (character == kCharCtrlZ) return box.Undo();
   if (character == kCharBack) return box.EraseBack();
   if (character == kCharReturn || character == kCharLineFeed) {
     if (box.MultiLine()) box.TypeOver("\r\n");
@@ -151,6 +150,7 @@ void TypeInto(ComboBox& combo, int character) {
     if (character >= ' ') combo.PickByLetter(static_cast<char32_t>(character));
     return;
   }
+  if (character == kCharCtrlZ) return combo.Undo();
   if (character == kCharBack) return combo.EraseBack();
   if (character < ' ') return;
   std::string typed;
@@ -177,12 +177,52 @@ void ActOnCharacter(Control& control, int character) {
   }
 }
 
-/// Keys that never reach the handlers: Tab, Enter with a default button, Esc with a cancel button. Whether it was one.
+/// The pages that Ctrl+Tab turns: those around the focus, else the form's first ones. Null when there are none.
+TabControl* PagesToTurn(const Form& form) {
+  for (Control* control = form.ActiveControl(); control; control = control->Container()) {
+    if (auto* tab = dynamic_cast<TabControl*>(control)) return tab;
+  }
+  for (Control* control : form.TabOrder()) {
+    auto* tab = dynamic_cast<TabControl*>(control);
+    if (tab && tab->CanFocus()) return tab;
+  }
+  return nullptr;
+}
+
+/// The page after (before) the current one that can be seen, round and round; the current one when it is the only one.
+int NextPage(const TabControl& tab, bool backwards) {
+  const int step = backwards ? tab.Tabs() - 1 : 1;
+  int page = tab.Tab();
+  do {
+    page = (page + step) % tab.Tabs();
+  } while (!tab.TabVisible(page) && page != tab.Tab());
+  return page;
+}
+
+/// Turns to the next page, with the focus on the first control there that takes it. False where there is no page to turn.
+bool TurnPage(Form& form, bool backwards) {
+  TabControl* tab = PagesToTurn(form);
+  if (!tab) return false;
+  const int page = NextPage(*tab, backwards);
+  if (page == tab->Tab() || !form.MoveFocus(tab)) return true;
+  tab->SetTab(page);
+  if (!IsActive(form) || !tab->HasFocus()) return true;
+  for (Control* control : form.TabOrder()) {
+    if (control->Container() != tab || control->Page() != page || !control->TabStop() || !control->CanFocus()) continue;
+    form.MoveFocus(control);
+    break;
+  }
+  return true;
+}
+
+/// Keys that never reach the handlers: Tab, Ctrl+Tab where there are pages, Enter with a default button, Esc with a cancel
+/// button. Whether it was one.
 bool ActAsDialogKey(Form& form, const KeyStroke& key) {
   if (key.keyCode == kKeyTab && (key.shift & (kCtrl | kAlt)) == 0) {
-    form.FocusNext((key.shift & kShift) != 0);
+    form.TabOn((key.shift & kShift) != 0);
     return true;
   }
+  if (key.keyCode == kKeyTab && (key.shift & (kCtrl | kAlt)) == kCtrl) return TurnPage(form, (key.shift & kShift) != 0);
   if (key.shift != 0) return false;
   if (key.keyCode == kKeyReturn) {
     CommandButton* button = form.DefaultButton();
@@ -285,7 +325,7 @@ bool PressAccessKey(Form& form, char32_t upperCaseKey) {
     default:
       break;
   }
-  form.MoveFocus(control);
+  form.GoByKey(control);
   return true;
 }
 

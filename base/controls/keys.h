@@ -33,6 +33,7 @@ enum Character {
   kCharTab = 9,
   kCharLineFeed = 10,
   kCharReturn = 13,
+  kCharCtrlZ = 26,
   kCharEscape = 27,
   kCharApostrophe = 39
 };

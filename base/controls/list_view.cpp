@@ -11,8 +11,6 @@ namespace controls {
 namespace {
 
 constexpr long kIndexOutOfBounds = 35600;
-/// How far a page key goes; the model does not know how many lines a desktop shows.
-constexpr int kPageLines = 10;
 
 [[noreturn]] void RaiseIndex() {
   vb::Raise(kIndexOutOfBounds, "Index out of bounds");
@@ -202,6 +200,26 @@ void ListView::ClickItem(int index) {
   if (Owner().IsLoaded()) Click.Fire();
 }
 
+void ListView::MoveMouse(int index, int column) {
+  CheckLine(index);
+  CheckColumn(column);
+  mouseLine_ = index;
+  mouseColumn_ = column;
+  MouseMove.Fire();
+}
+
+const std::string& ListView::ToolTipAt(int index, int column) const {
+  CheckColumn(column);
+  if (column == 1) return ToolTipText();
+  const std::string& tip = Item(index).SubItemToolTip(column - 1);
+  return tip.empty() ? ToolTipText() : tip;
+}
+
+const std::string& ListView::ToolTipUnderMouse() const {
+  const bool isOverCell = mouseLine_ >= 1 && mouseLine_ <= Count() && mouseColumn_ <= ColumnCount();
+  return isOverCell ? ToolTipAt(mouseLine_, mouseColumn_) : ToolTipText();
+}
+
 void ListView::MoveTo(int index) {
   CheckLine(index);
   if (selected_ == index) return;
@@ -212,6 +230,7 @@ void ListView::MoveTo(int index) {
 }
 
 bool ListView::NavigationKey(int keyCode) {
+  const auto page = [this] { return static_cast<int>(Owner().Desktop().RowsShown(*this)); };
   int target = selected_;
   switch (keyCode) {
     case kKeyUp:
@@ -221,10 +240,10 @@ bool ListView::NavigationKey(int keyCode) {
       target += 1;
       break;
     case kKeyPageUp:
-      target -= kPageLines;
+      target -= page();
       break;
     case kKeyPageDown:
-      target += kPageLines;
+      target += page();
       break;
     case kKeyHome:
       target = 1;
@@ -252,6 +271,7 @@ void ListView::Reset() {
   checkBoxes_ = false;
   selected_ = 0;
   visibleLine_ = 1;
+  mouseLine_ = mouseColumn_ = 0;
 }
 
 }  // namespace controls

@@ -83,9 +83,15 @@ class ListView : public Control {
   // What a person does.
   void ClickItem(int index);                ///< selects, fires ItemClick, then Click
   void CheckItem(int index, bool checked);  ///< checks and fires ItemCheck
+  void MoveMouse(int index, int column);    ///< over a cell, columns from 1; fires MouseMove
   void MoveTo(int index);                   ///< selects by keyboard: fires ItemClick unless the line is selected already
   /// Arrow, page, home and end keys; whether the key was one of them.
   bool NavigationKey(int keyCode);
+
+  /// The tip of a cell, the list's own where the cell has none. Columns count from 1.
+  const std::string& ToolTipAt(int index, int column) const;
+  /// The tip where the mouse was last.
+  const std::string& ToolTipUnderMouse() const;
 
   /// A line that may outlive its removal, for late-bound holders.
   std::shared_ptr<ListItem> SharedItem(int index) const;
@@ -112,6 +118,7 @@ class ListView : public Control {
   bool checkBoxes_ = false;
   int selected_ = 0;
   int visibleLine_ = 1;
+  int mouseLine_ = 0, mouseColumn_ = 0;
 };
 
 }  // namespace controls

@@ -28,6 +28,7 @@ void TextBox::SetText(std::string_view text) {
   text_ = std::move(cut);
   selStart_ = 0;
   selLength_ = 0;
+  history_.Forget();
   Changed(Aspect::Text);
   Change.Fire();
 }
@@ -86,7 +87,7 @@ void TextBox::TypeOver(std::string_view text) {
   std::string fits(text);
   if (maxLength_ > 0) fits = vb::Left(text, std::max(0, maxLength_ - (Length(text_) - selLength_)));
   const int caret = selStart_ + Length(fits);
-  TakeEdited(Spliced(text_, selStart_, selLength_, fits), caret, 0);
+  Edit(EditHistory::Edit::Typing, Spliced(text_, selStart_, selLength_, fits), caret);
 }
 
 void TextBox::EraseBack() {
@@ -94,36 +95,63 @@ void TextBox::EraseBack() {
   if (locked_) return;
   if (selLength_ > 0) return TypeOver("");
   if (selStart_ == 0) return;
-  TakeEdited(Spliced(text_, selStart_ - 1, 1, ""), selStart_ - 1, 0);
+  Edit(EditHistory::Edit::EraseBack, Spliced(text_, selStart_ - 1, 1, ""), selStart_ - 1);
 }
 
 void TextBox::EraseForward() {
   Touch();
   if (locked_) return;
   if (selLength_ > 0) return TypeOver("");
-  TakeEdited(Spliced(text_, selStart_, 1, ""), selStart_, 0);
+  Edit(EditHistory::Edit::EraseForward, Spliced(text_, selStart_, 1, ""), selStart_);
+}
+
+void TextBox::Edit(EditHistory::Edit edit, std::string text, int caret) {
+  if (text != text_) history_.Before(edit, text_, selStart_, selLength_);
+  Store(std::move(text), caret, 0);
 }
 
 void TextBox::TakeEdited(std::string text, int selStart, int selLength) {
   Touch();
+  if (text != text_) history_.Before(EditHistory::Edit::Typing, text_, selStart_, selLength_);
+  Store(std::move(text), selStart, selLength);
+}
+
+void TextBox::Store(std::string text, int selStart, int selLength) {
   const bool differs = text != text_;
   text_ = std::move(text);
   selStart_ = std::clamp(selStart, 0, Length(text_));
   selLength_ = std::clamp(selLength, 0, Length(text_) - selStart_);
+  if (differs) history_.After(selStart_);
   Changed(differs ? Aspect::Text : Aspect::Selection);
   if (differs) Change.Fire();
+}
+
+bool TextBox::CanUndo() const {
+  return !locked_ && history_.CanUndo();
+}
+
+void TextBox::Undo() {
+  Touch();
+  if (!CanUndo()) return;
+  const EditHistory::State before = history_.Exchange({text_, selStart_, selLength_});
+  Store(before.text, before.selStart, before.selLength);
+  history_.EndRun();
 }
 
 void TextBox::Paste(std::string_view text) {
   Touch();
   if (locked_) return;
-  if (!PasteFilter) {
-    PasteThroughKeyPress(*this, text, multiLine_, [this](std::string_view passed) { TypeOver(passed); });
-    return;
+  const std::string kept = multiLine_ ? std::string(text) : JoinedLines(text);
+  history_.EndRun();
+  if (PasteFilter) {
+    TypeOver(PasteFilter(kept));
+  } else {
+    PasteThroughKeyPress(*this, kept, [this](std::string_view passed) {
+      TypeOver(passed);
+      return maxLength_ == 0 || Length(text_) - selLength_ < maxLength_;
+    });
   }
-  std::string kept(text);
-  if (!multiLine_) std::erase_if(kept, [](char c) { return c == '\r' || c == '\n'; });
-  TypeOver(PasteFilter(kept));
+  history_.EndRun();
 }
 
 void TextBox::Reset() {
@@ -135,6 +163,7 @@ void TextBox::Reset() {
   locked_ = false;
   multiLine_ = false;
   rightAligned_ = false;
+  history_.Forget();
 }
 
 const Control::LateMember* TextBox::FindMember(std::string_view name) const {

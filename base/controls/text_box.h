@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/controls/control.h"
+#include "base/controls/edit_history.h"
 
 namespace controls {
 
@@ -35,11 +36,15 @@ class TextBox : public Control {
   void EraseForward();
   /// The desktop's own edit window changed: takes text and selection over and fires Change when the text differs.
   void TakeEdited(std::string text, int selStart, int selLength);
+  /// Takes the last run of a person's edits back, then the undo itself. Text from code cannot be undone.
+  bool CanUndo() const;
+  void Undo();
 
   /// How pasted text is filtered: by default each character runs through KeyPress and is dropped when swallowed. A box with a
   /// filter of its own sets this instead (it gets the whole text and returns what to insert).
   std::function<std::string(std::string_view)> PasteFilter;
-  /// Pastes as a person would: through PasteFilter or KeyPress, line breaks dropped in a single-line box.
+  /// Pastes as a person would: through PasteFilter or KeyPress, up to MaxLength. In a single-line box a line break becomes a
+  /// blank, those at the end go.
   void Paste(std::string_view text);
 
   Event<> Change;
@@ -51,9 +56,13 @@ class TextBox : public Control {
   const LateMember* FindMember(std::string_view name) const override;
 
  private:
+  void Edit(EditHistory::Edit edit, std::string text, int caret);
+  void Store(std::string text, int selStart, int selLength);
+
   std::string text_;
   int selStart_ = 0;
   int selLength_ = 0;
+  EditHistory history_;
   int maxLength_ = 0;
   bool locked_ = false;
   bool multiLine_ = false;

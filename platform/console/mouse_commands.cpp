@@ -102,7 +102,8 @@ void RightClick(TextDesktop& desktop, Words& words) {
 void Hover(TextDesktop& desktop, Words& words) {
   Control& control = ControlToActOn(desktop, words.Need("a control"));
   auto* grid = dynamic_cast<FlexGrid*>(&control);
-  if (words.AtEnd() || !grid) {
+  auto* list = dynamic_cast<ListView*>(&control);
+  if (words.AtEnd() || (!grid && !list)) {
     words.End();
     control.MouseMove.Fire();
     return;
@@ -110,6 +111,14 @@ void Hover(TextDesktop& desktop, Words& words) {
   const long row = words.NeedNumber("the row");
   const long col = words.NeedNumber("the column");
   words.End();
+  if (list) {
+    const int line = CheckLine(*list, row);
+    if (col < 1 || col > list->ColumnCount()) {
+      throw CommandError(list->Name() + " has the columns 1 to " + std::to_string(list->ColumnCount()));
+    }
+    list->MoveMouse(line, static_cast<int>(col));
+    return;
+  }
   CheckRow(*grid, row);
   CheckColumn(*grid, col);
   grid->MoveMouse(row, col);

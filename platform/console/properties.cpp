@@ -128,6 +128,7 @@ const std::vector<Property<ListView>>& ListProperties() {
       {"Count", 0, [](const ListView& l, auto) { return Value(l.Count()); }},
       {"SelectedItem", 0, [](const ListView& l, auto) { return Value(l.SelectedItem()); }},
       {"ColumnCount", 0, [](const ListView& l, auto) { return Value(l.ColumnCount()); }},
+      {"ToolTipText", 0, [](const ListView& l, auto) { return Value(l.ToolTipUnderMouse()); }},
       {"CheckBoxes", 0, [](const ListView& l, auto) { return Value(l.CheckBoxes()); }},
       {"Checked", 1, [](const ListView& l, auto i) { return Value(l.Item(Index(i)).Checked()); }},
       {"SubItem", 2,

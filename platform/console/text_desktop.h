@@ -34,6 +34,8 @@ class TextDesktop : public controls::Desktop {
   bool AnswerMessage(controls::Answer answer);
   /// How many messages were opened so far.
   int MessagesOpened() const { return messagesOpened_; }
+  /// How often the alarm has sounded; nothing is printed for it.
+  int Alarms() const { return alarms_; }
 
   // The open pop-up menu.
   bool HasMenu() const { return menu_ != nullptr; }
@@ -49,6 +51,7 @@ class TextDesktop : public controls::Desktop {
 
   controls::Answer MsgBox(controls::Form* owner, const controls::Message& message) override;
   controls::Menu* PopupMenu(controls::Form& form, controls::Menu& menu) override;
+  void Beep() override { ++alarms_; }
   void Changed(controls::Control& control, controls::Aspect aspect) override;
   void FormChanged(controls::Form& form) override;
   void FocusMoved(controls::Form& form, controls::Control* control) override;
@@ -84,6 +87,7 @@ class TextDesktop : public controls::Desktop {
   OpenMessage* message_ = nullptr;
   OpenMenu* menu_ = nullptr;
   int messagesOpened_ = 0;
+  int alarms_ = 0;
   bool pictureIsOld_ = false;
   std::vector<std::weak_ptr<late::Object>> known_;
 };

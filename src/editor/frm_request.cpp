@@ -221,7 +221,7 @@ void frmRequest::mnuAdd_Click() {
   if (!cmdOK.Enabled()) return;
   Session().gStrDetailMode = "N";
   lngCurrentLine = lvwrequest.Count();  // item entry moves it on to each line that it appends
-  ItemEntry().Show(this);
+  EnterItems();
 }
 
 void frmRequest::mnuEdit_Click() {
@@ -229,7 +229,7 @@ void frmRequest::mnuEdit_Click() {
   Session().gStrDetailMode = "E";
   if (lvwrequest.SelectedItem() == 0) return;
   lngCurrentLine = lvwrequest.SelectedItem();
-  ItemEntry().Show(this);
+  EnterItems();
 }
 
 void frmRequest::mnudel_Click() {
@@ -242,9 +242,10 @@ void frmRequest::mnudel_Click() {
   lvwrequest.SetTag(std::string(kChanged));
 }
 
-frmRequestDetail& frmRequest::ItemEntry() {
+void frmRequest::EnterItems() {
   if (!itemEntry_) itemEntry_ = std::make_shared<frmRequestDetail>(Session(), RequestLines{lvwrequest, lngCurrentLine});
-  return *itemEntry_;
+  itemEntry_->Show(this);
+  if (IsShown() && lvwrequest.CanFocus()) lvwrequest.SetFocus();
 }
 
 }  // namespace goods

@@ -99,7 +99,8 @@ class frmRequest : public ModuleForm {
   void mnuAdd_Click();
   void mnuEdit_Click();
   void mnudel_Click();
-  frmRequestDetail& ItemEntry();
+  /// Opens item entry; once it has closed, the focus is in the list again.
+  void EnterItems();
 
   RegisterView& view_;
   CommonDb objCommonDB_;

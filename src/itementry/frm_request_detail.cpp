@@ -170,6 +170,7 @@ void frmRequestDetail::ProposeReorderQuantity(std::int32_t itemId) {
                           .fnReturnField("reorderquantity", "shopid=" + std::to_string(Session().gIntShopID) +
                                                                 " and itemid=" + std::to_string(itemId))
                           .TextOrEmpty());
+  txtQuantity.SelectAll();  // where the focus is there already, too, what is typed takes the place of the proposal
 }
 
 void frmRequestDetail::ShowAvailableQuantity(std::int32_t itemId) {
@@ -188,6 +189,7 @@ void frmRequestDetail::cboItem_Validate(bool& cancel) {
 }
 
 void frmRequestDetail::txtQuantity_KeyPress(int& character) {
+  if (character == ',') character = '.';  // the decimal sign of many keyboards
   if (character == '.' && Session().gBlnIntegerQuantity) {
     character = 0;
     Tell("Only Integer Quantity is allowed");
@@ -198,6 +200,7 @@ void frmRequestDetail::txtQuantity_KeyPress(int& character) {
     SendTabOnEnter(*this, character);
   } else {
     objCommonGen_.TextValidateNum(txtQuantity, character, 18, 3);
+    if (character == 0) Desktop().Beep();
   }
 }
 

@@ -10,6 +10,7 @@ namespace goods {
 frmMaster::frmMaster(basGoodsRequest& session) : ModuleForm(session, "frmMaster") {
   On(Loading, "Form_Load", &frmMaster::Form_Load);
   On(Activated, "Form_Activate", &frmMaster::Form_Activate);
+  On(KeyDown, "Form_KeyDown", &frmMaster::Form_KeyDown);
   WireCommands();
   WireGrid();
   WireBrowse();

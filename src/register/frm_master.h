@@ -12,6 +12,7 @@
 #include "src/shared/common_db.h"
 #include "src/shared/module_form.h"
 #include "src/shared/register_view.h"
+#include "src/shared/search_answer.h"
 
 namespace goods {
 
@@ -92,6 +93,8 @@ class frmMaster : public ModuleForm {
   void Cmdprev_Click();
   void CmdClose_Click();
   void mnurefresh_Click();
+  /// The focus goes to the list again once a command's form has closed.
+  void ReturnToList();
   /// The editor, not loaded: an opening that failed on its way must not show through in the next one.
   frmRequest& FreshEditor();
 
@@ -103,6 +106,9 @@ class frmMaster : public ModuleForm {
   void flexMaster_MouseUp(int button, int shift);
 
   // Search and sort.
+  void Form_KeyDown(int& keyCode, int shift);
+  /// The search's access key goes to the box itself, with a column to search in.
+  void GoToSearch();
   void cboColNames_Click();
   void SortDirection_Click();
   void txtsearch_KeyUp(int& keyCode, int shift);
@@ -117,6 +123,7 @@ class frmMaster : public ModuleForm {
   bool EditorAllowsSaving() const;
 
   RegisterView view_{flexMaster, {}};
+  SearchAnswer searchAnswer_{txtsearch};
   CommonDb objCommonDB_;
   std::string mainTable_ = "mosGoodsRequestHeader";
   std::int32_t editedRequest_ = 0;  ///< the request last opened for editing

@@ -24,6 +24,7 @@ void frmMaster::Design() {
   SetCaption("Goods Request to HQ");
   SetSize(kWidth, kHeight);
   SetResizable(true);
+  SetKeyPreview(true);
 
   flexMaster.Move(kMargin, kMargin, kWidth - 2 * kMargin, kBrowseTop - 2 * kMargin);
   flexMaster.SetAnchors(kAnchorLeft | kAnchorTop | kAnchorRight | kAnchorBottom);

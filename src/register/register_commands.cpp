@@ -12,6 +12,10 @@ frmRequest& frmMaster::FreshEditor() {
   return *editor_;
 }
 
+void frmMaster::ReturnToList() {
+  if (IsShown() && flexMaster.CanFocus()) flexMaster.SetFocus();
+}
+
 void frmMaster::cmdnew_Click() {
   frmRequest& editor = FreshEditor();
   Session().gStrEntryMode = "N";
@@ -19,6 +23,7 @@ void frmMaster::cmdnew_Click() {
   editor.txtrequestDate.SetText(vb::DateText(Session().gDtProcessDate));
   editor.txtRemarks.SetText("");
   editor.Show(this);
+  ReturnToList();
   ApplySelectionColor();
 }
 
@@ -38,12 +43,14 @@ void frmMaster::CmdEdit_Click() {
   editor.txtrequestDate.SetText(CurrentCell(kRegisterDate));
   editor.txtRemarks.SetText(CurrentCell(kRegisterRemarks));
   editor.Show(this);
+  ReturnToList();
   ApplySelectionColor();
 }
 
 void frmMaster::Cmdprev_Click() {
   if (!printDialog_) printDialog_ = std::make_shared<frmPrint>(Session(), view_);
   printDialog_->Show(this);
+  ReturnToList();
 }
 
 void frmMaster::CmdClose_Click() {

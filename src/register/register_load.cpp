@@ -28,6 +28,7 @@ bool IsAbsent(const late::Value& value) {
 void frmMaster::Form_Load() {
   basGoodsRequest& session = Session();
   evaluatedRow_ = flexMaster.Row();
+  searchAnswer_.Forget();
   session.gStrUserRights.clear();  // of whoever used the component before
   objCommonDB_ = CommonDb(session, "ShopCommon.clscommonDB");
   session.gObjFormColor = session.services.factory.Create("Theme.clsFormcolor");

@@ -42,10 +42,24 @@ void frmMaster::SortDirection_Click() {
   cboColNames.SetListIndex(-1);
 }
 
+void frmMaster::Form_KeyDown(int& keyCode, int shift) {
+  if (keyCode != 'S' || shift != controls::kAlt) return;
+  keyCode = 0;
+  GoToSearch();
+}
+
+void frmMaster::GoToSearch() {
+  for (int entry = 0; cboSearch.ListIndex() < 0 && entry < cboSearch.ListCount(); ++entry) {
+    if (cboSearch.ItemData(entry) == kRegisterNo) cboSearch.SetListIndex(entry);
+  }
+  txtsearch.SetFocus();
+  txtsearch.SelectAll();
+}
+
 void frmMaster::txtsearch_KeyUp(int&, int) {
   const int entry = cboSearch.ListIndex();
-  if (entry < 0 || vb::Trim(txtsearch.Text()).empty()) return;
-  SearchInGrid(flexMaster, cboSearch.ItemData(entry), txtsearch.Text());
+  if (entry < 0 || vb::Trim(txtsearch.Text()).empty()) return searchAnswer_.Tell(true);
+  searchAnswer_.Tell(SearchInGrid(flexMaster, cboSearch.ItemData(entry), txtsearch.Text()));
   ApplySelectionColor();
 }
 

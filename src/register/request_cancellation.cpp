@@ -75,6 +75,7 @@ std::string frmMaster::AskReason() {
   if (!reasonDialog_) reasonDialog_ = std::make_shared<frmcancelreason>(Session());
   Session().gStrCancelReason.clear();
   reasonDialog_->Show(this);
+  ReturnToList();
   return Session().gStrCancelReason;
 }
 

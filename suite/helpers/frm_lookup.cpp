@@ -47,7 +47,7 @@ void frmLookup::Design() {
   lblin.Move(4680, 210, 240, 240);
   cboSearch.SetStyle(ComboStyle::DropDownList);
   cboSearch.Move(4980, 165, 2280, 330);
-  lblsort.SetCaption("S&ort by:");
+  lblsort.SetCaption("Sor&t by:");
   lblsort.Move(7500, 210, 780, 240);
   cboColNames.SetStyle(ComboStyle::DropDownList);
   cboColNames.Move(8340, 165, 2880, 330);

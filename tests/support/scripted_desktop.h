@@ -34,11 +34,13 @@ class ScriptedDesktop : public controls::Desktop {
   std::vector<controls::Message> messages;
   std::vector<std::string> lastMenu;  ///< "mnuAdd", "(mnuEdit)" for a disabled one
   std::vector<std::string> opened;    ///< names of forms in the order they opened
+  int alarms = 0;                     ///< how often the alarm sounded
   int hourglasses = 0;                ///< pointers that are an hourglass now
   bool sawHourglass = false;
 
   controls::Answer MsgBox(controls::Form* owner, const controls::Message& message) override;
   controls::Menu* PopupMenu(controls::Form& form, controls::Menu& menu) override;
+  void Beep() override { ++alarms; }
   void PointerChanged(controls::Form&, bool hourglass) override;
 
  protected:

@@ -37,6 +37,61 @@ TEST_P(FocusStory, TabPassesByWhatIsHiddenDisabledOrOnAnotherPage) {
   });
 }
 
+TEST_P(FocusStory, AGroupOfOptionsIsOneStopOfTab) {
+  Work([&] {
+    form->optDown.SetValue(true);
+    form->cboUnit.SetFocus();
+    std::string way;
+    for (const char* key : {"Tab", "Tab", "Tab", "Shift+Tab", "Shift+Tab", "Up", "Tab", "Shift+Tab"}) {
+      person->Press(key);
+      way += " " + Focus();
+    }
+    EXPECT_EQ(way, " optDown optCash chkDone optCash optDown optUp optCash optUp");
+    EXPECT_EQ(person->Read(form->optUp, "Value"), "True");
+    form->optUp.SetValue(false);
+    form->cboUnit.SetFocus();
+    person->Press("Tab");
+    EXPECT_EQ(Focus(), "optUp") << "the first where none is chosen";
+    form->optUp.SetEnabled(false);
+    form->cboUnit.SetFocus();
+    person->Press("Tab");
+    EXPECT_EQ(Focus(), "optDown");
+    form->SendTab();
+    EXPECT_EQ(Focus(), "optCash");
+  });
+}
+
+TEST_P(FocusStory, CtrlTabTurnsThePages) {
+  form->On(form->Loading, "Form_Load", [&] { form->tabPages.SetTabs(3); });
+  form->On(form->txtItem.KeyDown, "txtItem_KeyDown", [&](int& code, int) { form->story.push_back(std::to_string(code)); });
+  Work([&] {
+    EXPECT_EQ(Focus(), "txtItem");
+    person->Press("Ctrl+Tab");
+    EXPECT_EQ(person->Read(form->tabPages, "Tab"), "1");
+    EXPECT_EQ(Focus(), "flexStock") << "what stands first on the page";
+    form->tabPages.SetTabVisible(2, false);
+    person->Press("Ctrl+Tab");
+    EXPECT_EQ(person->Read(form->tabPages, "Tab"), "0") << "past the hidden one, round to the first";
+    EXPECT_EQ(Focus(), "lvwLines");
+    person->Press("Ctrl+Shift+Tab");
+    EXPECT_EQ(person->Read(form->tabPages, "Tab"), "1");
+
+    form->tabPages.SetTabVisible(0, false);
+    person->Press("Ctrl+Tab");
+    EXPECT_EQ(Focus(), "flexStock") << "no other page to turn to";
+    bool wrong = true;
+    form->On(form->txtItem.Validate, "txtItem_Validate", [&](bool& keep) { keep = wrong; });
+    form->tabPages.SetTabVisible(0, true);
+    form->txtItem.SetFocus();
+    person->Press("Ctrl+Tab");
+    EXPECT_EQ(person->Read(form->tabPages, "Tab"), "1") << "nobody leaves what is wrong";
+    wrong = false;
+    form->tabPages.SetVisible(false);
+    person->Press("Ctrl+Tab");
+    EXPECT_EQ(form->Told(), "9") << "without pages it is a key like others";
+  });
+}
+
 TEST_P(FocusStory, ValidationKeepsTheFocusExceptForControlsThatDoNotCauseIt) {
   bool wrong = true;
   form->On(form->txtItem.Validate, "txtItem_Validate", [&](bool& keep) { keep = wrong; });
