@@ -377,6 +377,7 @@ void FlexGrid::Reset() {
   inOrderBy_ = kUnknown;
   sortedCol_ = -1;
   sortedAscending_ = true;
+  hasPulledColumns_ = false;
   formatString_.clear();
   backColorSel_ = kHighlight;
   foreColorSel_ = kHighlightText;

@@ -109,6 +109,11 @@ class FlexGrid : public Control {
   void ClickHeading(long col);
   void SelectRange(long firstRow, long lastRow);
   void MoveMouse(long row, long col);  ///< fires MouseMove
+  /// The edge of a column pulled to a width in twips. It stays wide enough to be taken hold of; a hidden one (width 0) stays
+  /// hidden.
+  void PullColumn(long col, int width);
+  /// Whether a person pulled a column since the form was loaded.
+  bool HasPulledColumns() const { return hasPulledColumns_; }
   /// Arrow, page, home and end keys; whether the key was one of them.
   bool NavigationKey(int keyCode, int shift);
 
@@ -162,6 +167,7 @@ class FlexGrid : public Control {
   long mouseRow_ = 0, mouseCol_ = 0;
   long sortedCol_ = -1;
   bool sortedAscending_ = true;
+  bool hasPulledColumns_ = false;
   mutable long inOrderBy_ = kUnknown;  // the column that the rows are known to be in order by
   std::string formatString_;
   Color backColorSel_ = kHighlight;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/controls/flex_grid.h"
+#include "base/controls/pulled_column.h"
 #include "base/vb/error.h"
 #include "base/vb/text.h"
 
@@ -57,6 +58,12 @@ void FlexGrid::SetColWidth(long col, int width) {
   CheckColumn(*this, col);
   columns_[At(col)].width = width;
   Changed(Aspect::Layout);
+}
+
+void FlexGrid::PullColumn(long col, int width) {
+  const bool isHidden = ColWidth(col) == 0;
+  hasPulledColumns_ = hasPulledColumns_ || !isHidden;
+  SetColWidth(col, isHidden ? 0 : PulledWidth(width));
 }
 
 GridAlignment FlexGrid::ColAlignment(long col) const {

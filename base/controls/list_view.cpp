@@ -4,6 +4,7 @@
 
 #include "base/controls/form.h"
 #include "base/controls/keys.h"
+#include "base/controls/pulled_column.h"
 #include "base/vb/error.h"
 
 namespace controls {
@@ -94,6 +95,10 @@ void ListView::SetColumnWidth(int index, int width) {
   CheckColumn(index);
   columns_[static_cast<std::size_t>(index) - 1].width = width;
   Changed(Aspect::Layout);
+}
+
+void ListView::PullColumn(int index, int width) {
+  SetColumnWidth(index, Column(index).width == 0 ? 0 : PulledWidth(width));
 }
 
 void ListView::SetColumnAlignment(int index, ColumnAlignment alignment) {

@@ -85,6 +85,9 @@ class ListView : public Control {
   void CheckItem(int index, bool checked);  ///< checks and fires ItemCheck
   void MoveMouse(int index, int column);    ///< over a cell, columns from 1; fires MouseMove
   void MoveTo(int index);                   ///< selects by keyboard: fires ItemClick unless the line is selected already
+  /// The edge of a column pulled to a width in twips. It stays wide enough to be taken hold of; a hidden one (width 0) stays
+  /// hidden.
+  void PullColumn(int index, int width);
   /// Arrow, page, home and end keys; whether the key was one of them.
   bool NavigationKey(int keyCode);
 

@@ -64,14 +64,15 @@ void frmRequest::DesignLists() {
   lvwrequest.SetContainer(&sstabGoodsReq, kItemsPage);
   lvwrequest.Move(kMargin, 420, kWidth - 4 * kMargin, 5100);
   lvwrequest.SetAnchors(kAllEdges);
+  // Together with a scroll bar they are as wide as the list.
   lvwrequest.AddColumn("Sl No.", 720);
-  lvwrequest.AddColumn("Item Code", 1440);
-  lvwrequest.AddColumn("Item Name", 2880);
-  lvwrequest.AddColumn("Qty.", 1200, controls::ColumnAlignment::Right);
+  lvwrequest.AddColumn("Item Code", 1380);
+  lvwrequest.AddColumn("Item Name", 2820);
+  lvwrequest.AddColumn("Qty.", 1140, controls::ColumnAlignment::Right);
   lvwrequest.AddColumn("Item ID", 0);
   lvwrequest.AddColumn("Request Remarks", 1800);
-  lvwrequest.AddColumn("Unit", 840);
-  lvwrequest.AddColumn("Part Code", 1320);
+  lvwrequest.AddColumn("Unit", 780);
+  lvwrequest.AddColumn("Part Code", 1260);
 
   lvwCustomerReq.SetContainer(&sstabGoodsReq, kCustomerPage);
   lvwCustomerReq.Move(kMargin, 420, kWidth - 4 * kMargin, 5100);

@@ -11,6 +11,7 @@ frmMaster::frmMaster(basGoodsRequest& session) : ModuleForm(session, "frmMaster"
   On(Loading, "Form_Load", &frmMaster::Form_Load);
   On(Activated, "Form_Activate", &frmMaster::Form_Activate);
   On(KeyDown, "Form_KeyDown", &frmMaster::Form_KeyDown);
+  On(Unloading, "Form_Unload", &frmMaster::Form_Unload);
   WireCommands();
   WireGrid();
   WireBrowse();

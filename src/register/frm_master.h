@@ -55,6 +55,7 @@ class frmMaster : public ModuleForm {
 
   // Loading.
   void Form_Load();
+  void Form_Unload();
   void ReadSettings();
   /// Lower bound of the list: the process date less the configured days, or the last close when that lies further back. The zero
   /// date after an error.
@@ -67,6 +68,8 @@ class frmMaster : public ModuleForm {
   void SetHeadings(std::string_view table);
   void AddHeading(long column, const std::string& heading);
   void WidenColumn(long column, std::size_t characters);
+  /// Where the columns are wider than the list, the widest gives way to the others, down to a quarter of the list.
+  void KeepColumnsInSight();
   void MarkCancelledRequests();
 
   // Rights.

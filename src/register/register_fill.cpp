@@ -12,6 +12,8 @@ namespace {
 constexpr int kBlockRows = 512;
 constexpr int kTwipsPerCharacter = 105;
 constexpr int kCellMargin = 180;
+/// Room beside the columns: the scroll bar and the list's edges.
+constexpr int kScrollBar = 360;
 constexpr std::string_view kCancelled = "Yes";
 
 std::string HeadingQuery(std::string_view table) {
@@ -74,8 +76,22 @@ void frmMaster::FillRows(const std::string& query) {
 }
 
 void frmMaster::WidenColumn(long column, std::size_t characters) {
-  const int needed = static_cast<int>(characters) * kTwipsPerCharacter + kCellMargin;
+  // One long text may fill half of the list; the tool tip shows the rest.
+  const int widest = flexMaster.Place().width / 2;
+  const int needed = std::min(static_cast<int>(characters) * kTwipsPerCharacter + kCellMargin, widest);
   if (needed > flexMaster.ColWidth(column)) flexMaster.SetColWidth(column, needed);
+}
+
+void frmMaster::KeepColumnsInSight() {
+  long widest = 0;
+  int together = 0;
+  for (long column = 0; column < flexMaster.Cols(); ++column) {
+    together += flexMaster.ColWidth(column);
+    if (flexMaster.ColWidth(column) > flexMaster.ColWidth(widest)) widest = column;
+  }
+  const int room = flexMaster.Place().width - kScrollBar;
+  if (together <= room) return;
+  flexMaster.SetColWidth(widest, std::max(flexMaster.ColWidth(widest) - (together - room), room / 4));
 }
 
 void frmMaster::SetHeadings(std::string_view table) {
@@ -88,6 +104,7 @@ void frmMaster::SetHeadings(std::string_view table) {
     AddHeading(column, headings.Field("columnheader").TextOrEmpty());
   }
   headings.Close();
+  KeepColumnsInSight();
   fnGridSettings(Session(), flexMaster);
 }
 

@@ -1,6 +1,7 @@
 #include "base/vb/number.h"
 #include "src/register/frm_master.h"
 #include "src/shared/form_color.h"
+#include "src/shared/grid_settings.h"
 #include "src/shared/user_auditing.h"
 
 namespace goods {
@@ -38,6 +39,10 @@ void frmMaster::Form_Load() {
   GridPopulate(RegisterQuery(mainTable_, session.gIntShopID, session.gDtFromDate), mainTable_);
   USerRights();
   ApplySelectionColor();
+}
+
+void frmMaster::Form_Unload() {
+  if (flexMaster.HasPulledColumns()) fnSaveGridSettings(Session(), flexMaster);
 }
 
 void frmMaster::ReadSettings() {

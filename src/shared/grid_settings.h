@@ -9,4 +9,8 @@ namespace goods {
 /// error 6 for a user id beyond 16 bits.
 void fnGridSettings(basGoodsRequest& session, controls::FlexGrid& grid);
 
+/// Stores the grid's column settings as the user's through the suite's grid settings. Does nothing where those cannot store;
+/// errors as for fnGridSettings.
+void fnSaveGridSettings(basGoodsRequest& session, controls::FlexGrid& grid);
+
 }  // namespace goods

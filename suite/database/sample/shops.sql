@@ -143,13 +143,13 @@ go
 -- Column, width in twips, alignment: 0 left, 1 right, 2 centre.
 insert into aListviewDetails (lvwdid, lvwcolid, lvwdcolwidth, lvwdcolalign) values
 (1, '1', 700, 0),
-(1, '2', 1400, 0),
-(1, '3', 4200, 0),
-(1, '4', 1200, 1),
+(1, '2', 1300, 0),
+(1, '3', 3000, 0),
+(1, '4', 1100, 1),
 (1, '5', 0, 1),
-(1, '6', 2400, 0),
-(1, '7', 800, 2),
-(1, '8', 1400, 0)
+(1, '6', 1900, 0),
+(1, '7', 750, 2),
+(1, '8', 1200, 0)
 go
 
 insert into aShopPrintMessages (shopid, transtype, messageid, message, allignment) values

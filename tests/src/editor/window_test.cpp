@@ -274,6 +274,15 @@ TEST_F(EditorWindow, TheMenuOffersWhatTheLinesAllow) {
   });
 }
 
+TEST_F(EditorWindow, TheLinesAreInSightWithAllTheirColumns) {
+  New([&] {
+    int together = 0;
+    for (int column = 1; column <= editor->lvwrequest.ColumnCount(); ++column) together += editor->lvwrequest.Column(column).width;
+    constexpr int kScrollBar = 300;
+    EXPECT_LE(together + kScrollBar, editor->lvwrequest.Place().width);
+  });
+}
+
 TEST_F(EditorWindow, EnterWalksThroughTheHeader) {
   New([&] {
     EXPECT_TRUE(editor->txtRequestNo.HasFocus());

@@ -88,6 +88,48 @@ TEST_F(RegisterList, AppliesTheUsersColumnWidths) {
   });
 }
 
+TEST_F(RegisterList, OneLongRemarkLeavesTheOtherColumnsInSight) {
+  shop.Run("update mosGoodsRequestHeader set GRHremarks='" + std::string(250, 'w') + "' where GRHrequestID=20");
+  Open([&] {
+    int together = 0;
+    for (long column = 0; column < Grid().Cols(); ++column) together += Grid().ColWidth(column);
+    EXPECT_LT(together, Grid().Place().width) << "Finished is the last of them";
+    EXPECT_GT(Grid().ColWidth(goods::kRegisterRemarks), Grid().Place().width / 4);
+  });
+}
+
+TEST_F(RegisterList, KeepsTheWidthsThatAUserPulled) {
+  Open([] {});
+  shop.log.Clear();
+  Open([] {});
+  const std::vector<std::string> untouched = shop.log.lines;
+  shop.log.Clear();
+  Open([&] { Grid().PullColumn(goods::kRegisterRemarks, 3210); });
+  EXPECT_GT(shop.log.lines.size(), untouched.size());
+  Open({2}, [&] { EXPECT_NE(3210, Grid().ColWidth(goods::kRegisterRemarks)) << "somebody else's list"; });
+  shop.log.Clear();
+  Open([&] { EXPECT_EQ(3210, Grid().ColWidth(goods::kRegisterRemarks)); });
+  EXPECT_EQ(untouched, shop.log.lines) << "with nothing pulled nothing is stored";
+  EXPECT_EQ(std::vector<std::string>(), errors->lines);
+}
+
+/// Grid settings of a suite whose users cannot change them.
+class FixedSettings : public late::TableObject<FixedSettings> {
+ public:
+  static const late::MemberTable<FixedSettings>& Members() {
+    static const late::MemberTable<FixedSettings> table = {
+        {"fnGridSettings", [](FixedSettings&, late::Arguments&) { return late::Value(true); }, nullptr, 4, 4}};
+    return table;
+  }
+  std::string TypeName() const override { return "clsMasterGridSetting"; }
+};
+
+TEST_F(RegisterList, GridSettingsThatCannotStoreAreNotAskedTo) {
+  shop.registry.Register("GridPrefs.clsMasterGridSetting", [] { return std::make_shared<FixedSettings>(); });
+  Open([&] { Grid().PullColumn(goods::kRegisterRemarks, 3210); });
+  EXPECT_EQ(std::vector<std::string>(), errors->lines);
+}
+
 TEST_F(RegisterList, WithoutGridSettingsTheListStillStands) {
   shop.registry.Unregister("GridPrefs.clsMasterGridSetting");
   Open([&] {

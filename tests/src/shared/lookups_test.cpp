@@ -85,7 +85,7 @@ TEST_F(Lookups, AListTakesItsStoredWidthsAndAlignments) {
 TEST_F(Lookups, AStoredColumnThatTheListLacksIsReported) {
   goods::ApplyListviewLayout(shop.session, form->lvwrequest, "GoodsRequest", "GoodsRequest");  // the layout has eight columns
   EXPECT_EQ(std::vector<std::string>{"basGoodsPurchase|ApplyListviewLayout|35600|"}, errors->lines);
-  EXPECT_EQ(4200, form->lvwrequest.Column(3).width);
+  EXPECT_EQ(3000, form->lvwrequest.Column(3).width);
 }
 
 TEST_F(Lookups, CountsTheCheckedLines) {
