@@ -180,7 +180,12 @@ void FormWindow::BecomeGone() {
 
 void FormWindow::UpdateFrame() {
   SetWindowTextW(handle_, Wide(form_.Caption()).c_str());
-  InvalidateRect(handle_, nullptr, TRUE);
+  Redraw();
+}
+
+void FormWindow::Redraw() {
+  // What the form paints below its transparent frames takes their lines away, unless they are drawn again.
+  RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void FormWindow::UpdateControl(controls::Control& control, Aspect aspect) {
@@ -366,7 +371,7 @@ bool FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& ans
       return true;
     case WM_SIZE:
       Place();
-      InvalidateRect(handle_, nullptr, TRUE);
+      Redraw();
       return true;
     case WM_GETMINMAXINFO:
       reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {designSize_.cx, designSize_.cy};

@@ -77,6 +77,8 @@ class FormWindow {
   void ShowToolTip(NMTTDISPINFOW& info);
   void Flush();
   void Place();
+  /// The form and all that stands on it, once the messages at hand are done.
+  void Redraw();
   RECT PlaceOf(const controls::Control& control) const;
   /// How far each edge of a control, or of the form for null, lies from where it was designed, in pixels: an edge follows the
   /// edge of the container that it is anchored to.

@@ -32,6 +32,7 @@ void GridView::ShowColumns() {
                       Window().Measures().Pixels(grid_.ColWidth(index)), format};
   });
   showingColumns_ = false;
+  InvalidateRect(HeadingOf(Handle()), nullptr, FALSE);
 }
 
 void GridView::ShowColors() {
@@ -189,7 +190,7 @@ std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
       Clicked(reinterpret_cast<NMITEMACTIVATE&>(header));
       return 0;
     case NM_DBLCLK:
-      grid_.DblClick.Fire();
+      if (CellAt(reinterpret_cast<NMITEMACTIVATE&>(header).ptAction).iItem >= 0) grid_.DblClick.Fire();
       return 0;
     case LVN_COLUMNCLICK:
       if (grid_.FixedRows() > 0) grid_.ClickHeading(reinterpret_cast<NMLISTVIEW&>(header).iSubItem);
@@ -213,10 +214,15 @@ std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
 
 std::optional<LRESULT> GridView::Intercept(UINT message, WPARAM, LPARAM lParam) {
   if (message != WM_NOTIFY || showingColumns_) return std::nullopt;
-  const auto [column, newWidth] = ColumnPullOf(*reinterpret_cast<const NMHDR*>(lParam));
+  auto& header = *reinterpret_cast<NMHDR*>(lParam);
+  if (header.hwndFrom == HeadingOf(Handle())) {
+    const auto painted = PaintSortArrow(header, static_cast<int>(grid_.SortedCol()), grid_.SortedAscending());
+    if (painted) return painted;
+  }
+  const auto [column, newWidth] = ColumnPullOf(header);
   if (column < 0 || column >= grid_.Cols()) return std::nullopt;
   if (newWidth) {
-    grid_.SetColWidth(column, Window().Measures().Twips(*newWidth));
+    grid_.PullColumn(column, Window().Measures().Twips(*newWidth));
   } else if (grid_.ColWidth(column) == 0) {
     return TRUE;  // a hidden column stays hidden
   }
@@ -236,9 +242,20 @@ void GridView::MouseMoved(POINT point) {
   if (hit.iItem >= 0 && hit.iSubItem < grid_.Cols()) grid_.MoveMouse(RowOf(hit.iItem), hit.iSubItem);
 }
 
+void GridView::RightButtonAt(POINT point) {
+  const LVHITTESTINFO hit = CellAt(point);
+  if (grid_.CanFocus() && !grid_.HasFocus() && !grid_.Owner().MoveFocus(&grid_)) return;
+  const long row = RowOf(hit.iItem);
+  if (hit.iItem >= 0 && row < grid_.Rows() && !IsSelected(row)) grid_.SetRow(row);
+}
+
 std::string GridView::ToolTipAt(POINT point) const {
-  // The text is that of the cell the mouse was over last: it says nothing of the room below the rows.
-  return CellAt(point).iItem < 0 ? std::string() : grid_.ToolTipText();
+  const LVHITTESTINFO hit = CellAt(point);
+  // The model's text is that of the cell the mouse was over last: it says nothing of the room below the rows.
+  if (hit.iItem < 0) return {};
+  if (!grid_.ToolTipText().empty() || hit.iSubItem >= grid_.Cols()) return grid_.ToolTipText();
+  const std::string& text = grid_.TextMatrix(RowOf(hit.iItem), hit.iSubItem);
+  return IsCut(Handle(), hit.iItem, hit.iSubItem, text) ? text : std::string();
 }
 
 }  // namespace windows

@@ -19,6 +19,7 @@ class GridView : public ControlView {
   std::string ToolTipAt(POINT point) const override;
 
  protected:
+  void RightButtonAt(POINT point) override;
   POINT MenuPlace() const override { return BelowFocusedLine(Handle()); }
   std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) override;
 

@@ -95,26 +95,43 @@ void LinesView::Describe(LVITEMW& item) const {
   }
 }
 
-void LinesView::Clicked(const NMITEMACTIVATE& click) {
+LinesView::Place LinesView::PlaceAt(POINT point) const {
   LVHITTESTINFO hit{};
-  hit.pt = click.ptAction;
+  hit.pt = point;
+  SendMessageW(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  if (hit.iItem < 0 || hit.iItem >= list_.Count()) return {};
+  const int column = hit.iSubItem;
+  // A cell's hit says less of the box than the line's, where the flag for the line as a whole contains that for its box.
   SendMessageW(Handle(), LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
-  if (hit.iItem < 0 || hit.iItem >= list_.Count()) {
+  const bool isBox = list_.CheckBoxes() && column == 0 && (hit.flags & LVHT_ONITEM) == LVHT_ONITEMSTATEICON;
+  return {hit.iItem + 1, column, isBox};
+}
+
+void LinesView::Clicked(POINT point) {
+  const Place place = PlaceAt(point);
+  if (place.line == 0) {
     ShowLines();  // the window has let go of its line, the model has not
     list_.Click.Fire();
-  } else if (list_.CheckBoxes() && (hit.flags & LVHT_ONITEMSTATEICON) != 0) {
-    list_.CheckItem(hit.iItem + 1, !list_.Item(hit.iItem + 1).Checked());
+  } else if (place.isBox) {
+    list_.CheckItem(place.line, !list_.Item(place.line).Checked());
   } else {
-    list_.ClickItem(hit.iItem + 1);
+    list_.ClickItem(place.line);
+  }
+}
+
+void LinesView::DoubleClicked(POINT point) {
+  const Place place = PlaceAt(point);
+  if (place.isBox) {
+    Clicked(point);  // two quick clicks on a box are two clicks
+  } else if (place.line > 0 || list_.Count() == 0) {
+    list_.DblClick.Fire();
   }
 }
 
 void LinesView::RightButtonAt(POINT point) {
-  LVHITTESTINFO hit{};
-  hit.pt = point;
-  SendMessageW(Handle(), LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  const int line = PlaceAt(point).line;
   if (list_.CanFocus() && !list_.HasFocus() && !list_.Owner().MoveFocus(&list_)) return;
-  if (hit.iItem >= 0 && hit.iItem < list_.Count()) list_.ClickItem(hit.iItem + 1);
+  if (line > 0 && line <= list_.Count()) list_.ClickItem(line);
 }
 
 std::optional<LRESULT> LinesView::OnNotify(NMHDR& header) {
@@ -123,10 +140,10 @@ std::optional<LRESULT> LinesView::OnNotify(NMHDR& header) {
       Describe(reinterpret_cast<NMLVDISPINFOW&>(header).item);
       return 0;
     case NM_CLICK:
-      Clicked(reinterpret_cast<NMITEMACTIVATE&>(header));
+      Clicked(reinterpret_cast<NMITEMACTIVATE&>(header).ptAction);
       return 0;
     case NM_DBLCLK:
-      list_.DblClick.Fire();
+      DoubleClicked(reinterpret_cast<NMITEMACTIVATE&>(header).ptAction);
       return 0;
     case LVN_COLUMNCLICK:
       list_.ColumnClick.Fire(reinterpret_cast<NMLISTVIEW&>(header).iSubItem + 1);
@@ -150,7 +167,7 @@ std::optional<LRESULT> LinesView::Intercept(UINT message, WPARAM, LPARAM lParam)
   const auto [column, newWidth] = ColumnPullOf(*reinterpret_cast<const NMHDR*>(lParam));
   if (column < 0 || column >= list_.ColumnCount()) return std::nullopt;
   if (newWidth) {
-    list_.SetColumnWidth(column + 1, Window().Measures().Twips(*newWidth));
+    list_.PullColumn(column + 1, Window().Measures().Twips(*newWidth));
   } else if (list_.Column(column + 1).width == 0) {
     return TRUE;  // a hidden column stays hidden
   }
@@ -158,14 +175,12 @@ std::optional<LRESULT> LinesView::Intercept(UINT message, WPARAM, LPARAM lParam)
 }
 
 std::string LinesView::ToolTipAt(POINT point) const {
-  LVHITTESTINFO hit{};
-  hit.pt = point;
-  SendMessageW(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
-  if (hit.iItem >= 0 && hit.iItem < list_.Count() && hit.iSubItem > 0 && hit.iSubItem < list_.ColumnCount()) {
-    const std::string& tip = list_.Item(hit.iItem + 1).SubItemToolTip(hit.iSubItem);
-    if (!tip.empty()) return tip;
-  }
-  return list_.ToolTipText();
+  const Place place = PlaceAt(point);
+  if (place.line == 0 || place.column >= list_.ColumnCount()) return list_.ToolTipText();
+  const controls::ListItem& item = list_.Item(place.line);
+  if (place.column > 0 && !item.SubItemToolTip(place.column).empty()) return item.SubItemToolTip(place.column);
+  const std::string& text = place.column == 0 ? item.Text() : item.SubItem(place.column);
+  return IsCut(Handle(), place.line - 1, place.column, text) ? text : list_.ToolTipText();
 }
 
 }  // namespace windows

@@ -29,7 +29,15 @@ class LinesView : public ControlView {
   void ShowColumns();
   void ShowLines();
   void Describe(LVITEMW& item) const;
-  void Clicked(const NMITEMACTIVATE& click);
+  /// What lies under a point of the window.
+  struct Place {
+    int line = 0;        ///< counts from 1; 0 where there is none
+    int column = 0;      ///< counts from 0
+    bool isBox = false;  ///< the line's check box
+  };
+  Place PlaceAt(POINT point) const;
+  void Clicked(POINT point);
+  void DoubleClicked(POINT point);
 
   controls::ListView& list_;
   bool updating_ = false;
