@@ -7,8 +7,8 @@
 #include "base/controls/desktop.h"
 #include "base/controls/workstation.h"
 #include "src/entry/module.h"
-#include "suite/database/engine/database.h"
 #include "suite/database/shop/generator.h"
+#include "suite/engine/objects/database.h"
 #include "suite/helpers/surroundings.h"
 
 namespace bench {

@@ -8,8 +8,8 @@
 #include "base/vb/text.h"
 #include "src/shared/common_db.h"
 #include "src/shared/user_auditing.h"
-#include "suite/database/engine/errors.h"
 #include "suite/database/shop/shop.h"
+#include "suite/engine/values/errors.h"
 #include "suite/helpers/register_helpers.h"
 
 namespace support {

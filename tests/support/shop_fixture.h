@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "src/entry/module.h"
-#include "suite/database/engine/database.h"
+#include "suite/engine/objects/database.h"
 #include "suite/helpers/surroundings.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/test_workstation.h"

@@ -4,7 +4,7 @@
 #include "base/ado/recordset.h"
 #include "platform/console/escape.h"
 #include "platform/console/value_text.h"
-#include "suite/database/engine/errors.h"
+#include "suite/engine/values/errors.h"
 
 namespace console {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "platform/console/output.h"
 #include "platform/console/surroundings.h"
-#include "suite/database/engine/database.h"
+#include "suite/engine/objects/database.h"
 
 namespace console {
 

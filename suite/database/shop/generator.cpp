@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "base/ado/connection.h"
-#include "suite/database/engine/database.h"
 #include "suite/database/shop/shop.h"
+#include "suite/engine/objects/database.h"
 
 namespace suite {
 namespace {

@@ -1,8 +1,8 @@
 #include "suite/database/shop/shop.h"
 
 #include "base/ado/connection.h"
-#include "suite/database/engine/database.h"
 #include "suite/database/shop/scripts.h"
+#include "suite/engine/objects/database.h"
 
 namespace suite {
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "base/ado/connection.h"
-#include "suite/database/engine/database.h"
 #include "suite/database/shop/shop.h"
+#include "suite/engine/objects/database.h"
 
 /// A database in memory with a connection to it, for tests that ask questions.
 class ShopDatabase {

@@ -6,7 +6,7 @@
 #include "platform/windows/com/com_error.h"
 #include "platform/windows/com/late_dispatch.h"
 #include "platform/windows/wide_text.h"
-#include "suite/database/engine/database.h"
+#include "suite/engine/objects/database.h"
 
 namespace windows {
 

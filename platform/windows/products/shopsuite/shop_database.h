@@ -4,7 +4,7 @@
 
 #include "base/late/object.h"
 #include "platform/windows/products/shopsuite/embedded_ado.h"
-#include "suite/database/engine/database.h"
+#include "suite/engine/objects/database.h"
 
 namespace windows {
 

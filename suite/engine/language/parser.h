@@ -1,0 +1,109 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "suite/engine/language/ast.h"
+#include "suite/engine/language/lexer.h"
+
+namespace suite {
+
+/// Reads the dialect. What it does not know is error 102 ("Incorrect syntax near '...'") or 156 (near a keyword): nothing unknown
+/// passes. Numbers that shape the statement itself (lengths, styles, row counts, ordinals) are noted as structural: a statement
+/// with another such number is another statement.
+class Parser {
+ public:
+  explicit Parser(const Lexed& lexed, std::size_t position = 0) : lexed_(lexed), position_(position) {}
+
+  bool AtEnd() const { return Peek().kind == TokenKind::End; }
+  std::size_t Position() const { return position_; }
+  /// Skips the semicolons between statements.
+  void SkipSeparators();
+  /// One statement. A procedure may be named without exec only as the batch's first.
+  ast::StatementPtr Statement(bool first);
+  /// A whole text that is one expression or one query (a column's default, a procedure's select).
+  ast::ExprPtr WholeExpression();
+
+  const std::vector<int>& Structural() const { return structural_; }
+
+ private:
+  // Tokens (parser.cpp)
+  const Token& Peek(std::size_t ahead = 0) const;
+  bool PeekWord(std::string_view word, std::size_t ahead = 0) const;
+  bool PeekSymbol(char symbol, std::size_t ahead = 0) const;
+  bool TakeWord(std::string_view word);
+  bool TakeSymbol(char symbol);
+  void ExpectWord(std::string_view word);
+  void ExpectSymbol(char symbol);
+  [[noreturn]] void Unexpected() const;
+  [[noreturn]] void UnexpectedAt(std::uint32_t token) const;
+  std::string Name();
+  /// A name with an optional owner ("dbo.") before it, which is dropped.
+  std::string ObjectName();
+  bool NameFollows() const;
+  int StructuralNumber(int most);
+  void MarkStructural(const Token& token);
+  /// A type; character types without a length get the one given.
+  Type TypeNamed(int lengthWhenNone);
+  std::vector<std::string> NameList();
+  ast::ExprPtr Node(ast::ExprKind kind) const;
+
+  // Expressions (parser_expression.cpp)
+  ast::ExprPtr Value();
+  ast::ExprPtr Predicate();
+  ast::ExprPtr Or();
+  ast::ExprPtr And();
+  ast::ExprPtr NotTerm();
+  ast::ExprPtr Comparison();
+  ast::ExprPtr ComparisonTail(ast::ExprPtr left);
+  ast::ExprPtr Sum();
+  ast::ExprPtr Product();
+  ast::ExprPtr Sign();
+  ast::ExprPtr Primary();
+  ast::ExprPtr WordPrimary();
+  ast::ExprPtr Function(std::string name);
+  ast::ExprPtr CaseExpression();
+  ast::ExprPtr CastExpression(bool convert);
+  ast::ExprPtr ColumnReference();
+
+  // Selects (parser_select.cpp)
+  std::unique_ptr<ast::Query> Query();
+  ast::Select Select();
+  ast::SelectItem Item();
+  std::string OptionalAlias();
+  std::unique_ptr<ast::Source> JoinTree();
+  std::unique_ptr<ast::Source> SourceItem();
+  void Hints();
+  std::vector<ast::OrderItem> OrderBy();
+
+  // Statements (parser_statement.cpp, parser_definition.cpp)
+  ast::StatementPtr Make(ast::StatementKind kind) const;
+  ast::StatementPtr Insert();
+  ast::StatementPtr Update();
+  ast::StatementPtr Delete();
+  ast::StatementPtr ExecuteProcedure();
+  ast::StatementPtr BeginStatement();
+  ast::StatementPtr CommitOrRollback(ast::StatementKind kind);
+  ast::StatementPtr If();
+  ast::StatementPtr Set();
+  ast::StatementPtr Create();
+  ast::StatementPtr CreateTable();
+  ast::StatementPtr CreateView();
+  ast::StatementPtr CreateIndex(bool unique);
+  ast::StatementPtr CreateProcedure();
+  ast::StatementPtr Alter();
+  ast::StatementPtr Drop();
+  ast::ColumnDefinition Column();
+  bool ColumnOption(ast::ColumnDefinition& column);
+  bool TableKey(ast::Statement& statement);
+  void SkipClustering();
+
+  const Lexed& lexed_;
+  std::size_t position_;
+  std::vector<int> structural_;
+};
+
+bool IsReserved(std::string_view word);
+
+}  // namespace suite

@@ -1,0 +1,259 @@
+#include "suite/engine/store/definitions.h"
+
+#include <sqlite3.h>
+
+#include "base/vb/text.h"
+#include "suite/engine/values/conversion.h"
+#include "suite/engine/values/errors.h"
+
+namespace suite {
+namespace {
+
+constexpr int kRowIdentifierStat = 2;  // syscolumns.colstat of a row identifier
+
+/// The statement's own words.
+std::string_view TextOfStatement(const Lexed& lexed, const ast::Statement& statement) {
+  const Token& last = lexed.tokens[statement.end - 1];
+  const std::uint32_t begin = lexed.tokens[statement.token].begin;
+  const bool quoted = last.kind == TokenKind::Text || last.kind == TokenKind::Quoted;
+  return lexed.text.substr(begin, last.end - begin + (quoted ? 1 : 0));
+}
+
+/// A statement of the store's own with texts bound to ?1, ?2, ...
+void Bound(Session& session, const char* sql, std::initializer_list<std::string_view> texts,
+           std::initializer_list<std::int64_t> numbers = {}) {
+  Translation translation;
+  translation.sql = sql;
+  const StatementHandle handle = session.Prepare(std::move(translation));
+  int index = 0;
+  for (const std::string_view text : texts) BindCell(handle.Get(), ++index, Cell::Of(text), true);
+  for (const std::int64_t number : numbers) BindCell(handle.Get(), ++index, Cell::Of(number), true);
+  while (session.Step(handle.Get())) {
+  }
+}
+
+}  // namespace
+
+void Definitions::Store(const std::string& sql) {
+  Translation translation;
+  translation.sql = sql;
+  const StatementHandle handle = session_.Prepare(std::move(translation));
+  while (session_.Step(handle.Get())) {
+  }
+}
+
+void Definitions::Prepare() {
+  Store(
+      "CREATE TABLE IF NOT EXISTS sysobjects (id INTEGER PRIMARY KEY, name TEXT COLLATE server UNIQUE, xtype TEXT COLLATE "
+      "server, "
+      "definition TEXT)");
+  Store(
+      "CREATE TABLE IF NOT EXISTS syscolumns (id INT, name TEXT COLLATE server, colid INT, colstat INT, length INT, isnullable "
+      "INT)");
+}
+
+void Definitions::Load() {
+  catalog_.Clear();
+  std::vector<std::string> texts;
+  {
+    Translation translation;
+    translation.sql = "SELECT definition FROM sysobjects ORDER BY id";
+    const StatementHandle handle = session_.Prepare(std::move(translation));
+    while (session_.Step(handle.Get())) texts.push_back(ToValue(handle.Get(), 0, Type::TextOf(0)).ToText());
+  }
+  Lexed lexed;
+  for (const std::string& text : texts) {
+    Lex(text, lexed);
+    Parser parser(lexed);
+    AddToCatalog(lexed, *parser.Statement(true));
+  }
+}
+
+Relation Definitions::ShapeOf(ast::Statement& statement) {
+  Relation relation{statement.name, false, {}};
+  for (const ast::ColumnDefinition& column : statement.definitions) {
+    if (relation.Find(column.name) >= 0) {
+      RaiseServer(2705,
+                  "Column names in each table must be unique. Column name '" + column.name + "' is specified more than once.");
+    }
+    relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, column.rowIdentifier});
+  }
+  for (const ast::Key& key : statement.keys) {
+    for (const std::string& name : key.columns) {
+      const int column = relation.Find(name);
+      if (column < 0) RaiseServer(1911, "Column name '" + name + "' does not exist in the target table.");
+      if (!key.primary) continue;
+      relation.columns[static_cast<std::size_t>(column)].nullable = false;
+      statement.definitions[static_cast<std::size_t>(column)].nullable = false;
+    }
+  }
+  return relation;
+}
+
+void Definitions::AddToCatalog(const Lexed& lexed, ast::Statement& statement) {
+  using ast::StatementKind;
+  if (statement.kind == StatementKind::CreateTable) {
+    catalog_.Add(ShapeOf(statement));
+  } else if (statement.kind == StatementKind::CreateView) {
+    std::vector<int> structural;
+    const Translation view = Translator(catalog_, lexed, structural, true).View(statement);
+    Relation relation{statement.name, true, {}};
+    for (const ResultColumn& column : view.columns)
+      relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, false});
+    catalog_.Add(std::move(relation));
+  } else if (statement.kind == StatementKind::CreateProcedure) {
+    ProcedureDef procedure{statement.name, {}};
+    for (const ast::ProcedureParameter& parameter : statement.parameters) {
+      procedure.parameters.push_back(
+          {parameter.name, parameter.type, parameter.hasDefault, ArgumentValue(lexed, parameter.initial.get())});
+    }
+    catalog_.Add(std::move(procedure));
+  }
+}
+
+void Definitions::Run(const Lexed& lexed, ast::Statement& statement) {
+  const std::int64_t version = catalog_.Version();
+  try {
+    session_.Atomically([&] { Change(lexed, statement); });
+  } catch (...) {
+    if (version != catalog_.Version()) Load();
+    throw;
+  }
+}
+
+void Definitions::Change(const Lexed& lexed, ast::Statement& statement) {
+  using ast::StatementKind;
+  switch (statement.kind) {
+    case StatementKind::CreateTable:
+      return CreateTable(lexed, statement);
+    case StatementKind::CreateView:
+      return CreateView(lexed, statement);
+    case StatementKind::CreateIndex:
+      return CreateIndex(statement);
+    case StatementKind::CreateProcedure:
+      return CreateProcedure(lexed, statement);
+    case StatementKind::AddColumn:
+      return AddColumn(lexed, statement);
+    default:
+      return Drop(statement);
+  }
+}
+
+void Definitions::RefuseExisting(const std::string& name) const {
+  if (catalog_.FindRelation(name) || catalog_.FindProcedure(name)) {
+    RaiseServer(2714, "There is already an object named '" + name + "' in the database.");
+  }
+}
+
+void Definitions::Remember(const std::string& name, const char* type, std::string_view text, const Relation* relation) {
+  Bound(session_, "INSERT INTO sysobjects (name, xtype, definition) VALUES (?1, ?2, ?3)", {name, type, text});
+  if (relation) RememberColumns(*relation);
+}
+
+void Definitions::RememberColumns(const Relation& relation) {
+  Bound(session_, "DELETE FROM syscolumns WHERE id = (SELECT id FROM sysobjects WHERE name = ?1)", {relation.name});
+  std::int64_t position = 0;
+  for (const ColumnDef& column : relation.columns) {
+    Bound(session_,
+          "INSERT INTO syscolumns (id, name, colid, colstat, length, isnullable) "
+          "SELECT id, ?2, ?3, ?4, ?5, ?6 FROM sysobjects WHERE name = ?1",
+          {relation.name, column.name},
+          {++position, column.rowIdentifier ? kRowIdentifierStat : 0, column.type.length, column.nullable ? 1 : 0});
+  }
+}
+
+void Definitions::CreateTable(const Lexed& lexed, ast::Statement& statement) {
+  RefuseExisting(statement.name);
+  const Relation relation = ShapeOf(statement);
+  std::vector<int> structural;
+  Store(Translator(catalog_, lexed, structural, true).Table(statement, statement.name).sql);
+  Remember(statement.name, "U", TextOfStatement(lexed, statement), &relation);
+  AddToCatalog(lexed, statement);
+}
+
+void Definitions::CreateView(const Lexed& lexed, ast::Statement& statement) {
+  RefuseExisting(statement.name);
+  std::vector<int> structural;
+  Store(Translator(catalog_, lexed, structural, true).View(statement).sql);
+  AddToCatalog(lexed, statement);
+  Remember(statement.name, "V", TextOfStatement(lexed, statement), &catalog_.RelationNamed(statement.name));
+}
+
+void Definitions::CreateIndex(const ast::Statement& statement) {
+  const Relation& table = catalog_.RelationNamed(statement.target);
+  std::string columns;
+  for (const std::string& name : statement.columns) {
+    const int column = table.Find(name);
+    if (column < 0) RaiseServer(1911, "Column name '" + name + "' does not exist in the target table.");
+    columns += (columns.empty() ? "" : ", ") + Quoted(table.columns[static_cast<std::size_t>(column)].name);
+  }
+  // The store's index names are the database's; the server's belong to their table.
+  Store(std::string(statement.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Quoted(table.name + "." + statement.name) +
+        " ON " + Quoted(table.name) + " (" + columns + ")");
+}
+
+void Definitions::CreateProcedure(const Lexed& lexed, ast::Statement& statement) {
+  RefuseExisting(statement.name);
+  Remember(statement.name, "P", TextOfStatement(lexed, statement), nullptr);
+  AddToCatalog(lexed, statement);
+}
+
+std::string Definitions::TextOf(const std::string& name) {
+  Translation translation;
+  translation.sql = "SELECT definition FROM sysobjects WHERE name = ?1";
+  const StatementHandle handle = session_.Prepare(std::move(translation));
+  BindCell(handle.Get(), 1, Cell::Of(std::string_view(name)), true);
+  return session_.Step(handle.Get()) ? ToValue(handle.Get(), 0, Type::TextOf(0)).ToText() : std::string();
+}
+
+void Definitions::AddColumn(const Lexed& lexed, const ast::Statement& statement) {
+  const Relation& table = catalog_.RelationNamed(statement.name);
+  std::string text = TextOf(table.name);
+  text.erase(text.rfind(')'));
+  std::vector<int> structural;
+  const std::string whole = Translator(catalog_, lexed, structural, true).Table(statement, table.name).sql;
+  // The store adds one column at a time; their definitions stand between the outer parentheses.
+  if (statement.definitions.size() != 1) RaiseServer(102, "Incorrect syntax near 'add': one column at a time.");
+  const std::size_t open = whole.find(" (") + 2;
+  Store("ALTER TABLE " + Quoted(table.name) + " ADD COLUMN " + whole.substr(open, whole.size() - open - 1));
+  const std::string_view added = TextOfStatement(lexed, statement);
+  std::size_t column = 0;
+  for (std::uint32_t token = statement.token; token < statement.end; ++token) {
+    if (EqualWord(lexed.TextOf(lexed.tokens[token]), "add")) {
+      column = lexed.tokens[token].end - lexed.tokens[statement.token].begin;
+      break;
+    }
+  }
+  text += "," + std::string(added.substr(column)) + ")";
+  Bound(session_, "UPDATE sysobjects SET definition = ?2 WHERE name = ?1", {table.name, text});
+  Lexed grown;
+  Lex(text, grown);
+  AddToCatalog(grown, *Parser(grown).Statement(true));
+  RememberColumns(catalog_.RelationNamed(statement.name));
+}
+
+void Definitions::Drop(const ast::Statement& statement) {
+  if (statement.objectType == "index") {
+    const std::string table = statement.target.empty() ? std::string() : catalog_.RelationNamed(statement.target).name;
+    return Store("DROP INDEX " + Quoted(table + "." + statement.name));
+  }
+  const Relation* relation = catalog_.FindRelation(statement.name);
+  const bool procedure = statement.objectType == "procedure";
+  const bool known = procedure ? catalog_.FindProcedure(statement.name) != nullptr
+                               : relation && relation->view == (statement.objectType == "view");
+  if (!known || (relation && relation->name.starts_with("sys"))) {
+    RaiseServer(3701, "Cannot drop the " + statement.objectType + " '" + statement.name +
+                          "', because it does not exist in the system catalog.");
+  }
+  const std::string name = relation ? relation->name : statement.name;
+  if (!procedure) Store((relation->view ? "DROP VIEW " : "DROP TABLE ") + Quoted(name));
+  Bound(session_, "DELETE FROM syscolumns WHERE id = (SELECT id FROM sysobjects WHERE name = ?1)", {name});
+  Bound(session_, "DELETE FROM sysobjects WHERE name = ?1", {name});
+  if (procedure) {
+    catalog_.RemoveProcedure(name);
+  } else {
+    catalog_.RemoveRelation(name);
+  }
+}
+
+}  // namespace suite

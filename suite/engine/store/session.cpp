@@ -1,0 +1,271 @@
+#include "suite/engine/store/session.h"
+
+#include <algorithm>
+#include <sqlite3.h>
+
+#include "suite/engine/store/definitions.h"
+#include "suite/engine/values/conversion.h"
+#include "suite/engine/values/errors.h"
+
+namespace suite {
+namespace {
+
+constexpr int kStepsBetweenChecks = 20000;  // of the store's machine, between two looks at the clock
+constexpr int kForEver = 2147483647;
+
+}  // namespace
+
+Session::Session(std::shared_ptr<Store> store, StatementObserver* observer) : store_(std::move(store)), observer_(observer) {
+  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX;
+  const int code = sqlite3_open_v2(store_->location.c_str(), &handle_, flags, nullptr);
+  try {
+    if (code != SQLITE_OK) RaiseFromStore(handle_, code);
+    functions_.clock = store_->clock;
+    Configure();
+  } catch (...) {
+    sqlite3_close_v2(handle_);
+    throw;
+  }
+}
+
+Session::~Session() {
+  if (inTransaction_) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+  cache_.Clear();
+  // Statements that a recordset still holds keep the handle alive until they go.
+  sqlite3_close_v2(handle_);
+}
+
+void Session::Configure() {
+  RegisterServerFunctions(handle_, functions_);
+  sqlite3_extended_result_codes(handle_, 1);
+  SetTimeout(static_cast<int>(timeout_.count()));
+  if (store_->memory) {
+    // Readers of the shared store see what others have not committed, instead of waiting for it.
+    Execute("PRAGMA read_uncommitted = 1");
+  } else {
+    Execute("PRAGMA journal_mode = WAL");
+    Execute("PRAGMA synchronous = NORMAL");
+  }
+  Execute("PRAGMA case_sensitive_like = 0");
+}
+
+void Session::Execute(const char* sql) {
+  const int code = sqlite3_exec(handle_, sql, nullptr, nullptr, nullptr);
+  if (code != SQLITE_OK) RaiseFromStore(handle_, code);
+}
+
+void Session::SetTimeout(int seconds) {
+  timeout_ = std::chrono::seconds(seconds);
+  sqlite3_busy_timeout(handle_, seconds <= 0 || seconds > kForEver / 1000 ? kForEver : seconds * 1000);
+  sqlite3_progress_handler(handle_, seconds > 0 ? kStepsBetweenChecks : 0, seconds > 0 ? Progress : nullptr, this);
+}
+
+int Session::Progress(void* self) {
+  auto& session = *static_cast<Session*>(self);
+  const auto now = std::chrono::steady_clock::now();
+  if (!session.deadline_) session.deadline_ = now + session.timeout_;
+  return now > *session.deadline_ ? 1 : 0;
+}
+
+bool Session::Step(sqlite3_stmt* statement) {
+  deadline_.reset();  // the time between two rows is the reader's
+  const int code = sqlite3_step(statement);
+  if (code == SQLITE_ROW) return true;
+  if (code == SQLITE_DONE) return false;
+  if (functions_.error) {
+    const ServerError error = *functions_.error;
+    functions_.error.reset();
+    sqlite3_reset(statement);
+    throw error;
+  }
+  try {
+    RaiseFromStore(handle_, code);
+  } catch (...) {
+    sqlite3_reset(statement);
+    throw;
+  }
+}
+
+StatementHandle Session::Prepare(Translation translation) {
+  auto statement = std::make_shared<CachedStatement>();
+  statement->translation = std::move(translation);
+  statement->store = handle_;
+  return StatementHandle(std::move(statement));
+}
+
+void RunResult::RaiseLater() const {
+  if (later && later->error) throw *later->error;
+}
+
+bool Session::HasUnreadRows() const {
+  return std::any_of(open_.begin(), open_.end(), [](const OpenRows* rows) { return rows->IsUnread(); });
+}
+
+void Session::Use() {
+  if (HasUnreadRows()) {
+    if (manual_) RaiseProvider(kUnspecified, "Cannot create new connection because in manual or distributed transaction mode.");
+    if (observer_) observer_->SecondLogIn();
+  }
+  if (manual_ && !inTransaction_) OpenTransaction();
+}
+
+RunResult Session::Run(std::string_view text, bool updatable) {
+  functions_.now.reset();
+  struct Depth {
+    int& depth;
+    explicit Depth(int& counter) : depth(counter) { ++depth; }
+    ~Depth() { --depth; }
+  } depth(running_);
+  if (running_ > 1) {
+    Lexed own;
+    Lex(text, own);
+    return RunLexed(own, updatable);
+  }
+  return Guarded([&] {
+    if (observer_) observer_->Statement(text);
+    Use();
+    Lex(text, scratch_);
+    return RunLexed(scratch_, updatable);
+  });
+}
+
+RunResult Session::RunLexed(const Lexed& lexed, bool updatable) {
+  if (cacheVersion_ != store_->catalog.Version()) {
+    cache_.Clear();
+    cacheVersion_ = store_->catalog.Version();
+  }
+  if (auto cached = cache_.Find(lexed, updatable)) return Start(lexed, std::move(cached));
+  return RunBatch(lexed, updatable);
+}
+
+RunResult Session::RunBatch(const Lexed& lexed, bool updatable) {
+  Parser parser(lexed);
+  LaterResults results;
+  for (bool first = true; !results.error; first = false) {
+    parser.SkipSeparators();
+    if (parser.AtEnd()) break;
+    const ast::StatementPtr statement = parser.Statement(first);
+    try {
+      RunResult next = RunStatement(lexed, *statement, parser, updatable);
+      if (!next.IsEmpty()) results.results.push_back(std::move(next));
+    } catch (const ServerError& error) {
+      if (results.results.empty()) throw;
+      Lose(error);
+      results.error = error;
+    }
+  }
+  if (results.results.empty()) return {};
+  RunResult result = std::move(results.results.front());
+  results.results.pop_front();
+  if (!results.results.empty() || results.error) result.later = std::make_shared<LaterResults>(std::move(results));
+  return result;
+}
+
+std::shared_ptr<CachedStatement> Session::Translate(const Lexed& lexed, const ast::Statement& statement,
+                                                    std::vector<int>& structural, bool updatable, bool inlineLiterals) {
+  Translator translator(store_->catalog, lexed, structural, inlineLiterals);
+  auto cached = std::make_shared<CachedStatement>();
+  cached->store = handle_;
+  switch (statement.kind) {
+    case ast::StatementKind::Query:
+      cached->query = true;
+      cached->translation = translator.Query(*statement.query, updatable);
+      break;
+    case ast::StatementKind::Insert:
+      cached->translation = translator.Insert(statement);
+      break;
+    case ast::StatementKind::Update:
+      cached->translation = translator.Update(statement);
+      break;
+    default:
+      cached->translation = translator.Delete(statement);
+      break;
+  }
+  return cached;
+}
+
+RunResult Session::RunStatement(const Lexed& lexed, ast::Statement& statement, Parser& parser, bool updatable) {
+  using ast::StatementKind;
+  switch (statement.kind) {
+    case StatementKind::Query:
+    case StatementKind::Insert:
+    case StatementKind::Update:
+    case StatementKind::Delete: {
+      constexpr std::size_t kMostParameters = 2000;
+      const bool tooMany = lexed.literals.size() > kMostParameters;
+      std::vector<int> structural = parser.Structural();
+      auto cached = Translate(lexed, statement, structural, updatable, tooMany);
+      const bool whole = statement.token == 0 && parser.AtEnd();
+      if (whole && !tooMany) cache_.Add(lexed, updatable, structural, cached);
+      if (tooMany) cached->translation.parameters.clear();
+      return Start(lexed, std::move(cached));
+    }
+    case StatementKind::Execute:
+      return RunProcedure(lexed, statement, updatable);
+    case StatementKind::Begin:
+      BeginTransaction();
+      OpenTransaction();
+      return {};
+    case StatementKind::Commit:
+      CommitTransaction();
+      return {};
+    case StatementKind::Rollback:
+      RollbackTransaction();
+      return {};
+    case StatementKind::If: {
+      const std::size_t branch = ConditionHolds(lexed, statement) ? 0 : 1;
+      return branch < statement.inner.size() ? RunStatement(lexed, *statement.inner[branch], parser, updatable) : RunResult{};
+    }
+    case StatementKind::Block: {
+      RunResult result;
+      for (const auto& inner : statement.inner) {
+        RunResult next = RunStatement(lexed, *inner, parser, updatable);
+        if (!result.rows) result = std::move(next);
+      }
+      return result;
+    }
+    case StatementKind::CountRows:
+    case StatementKind::CountNoRows:
+      countsRows_ = statement.kind == StatementKind::CountRows;
+      return {};
+    case StatementKind::Nothing:
+      return {};
+    default:
+      Definitions(*this).Run(lexed, statement);
+      return {};
+  }
+}
+
+bool Session::ConditionHolds(const Lexed& lexed, const ast::Statement& statement) {
+  std::vector<int> structural;
+  auto cached = std::make_shared<CachedStatement>();
+  cached->store = handle_;
+  cached->query = true;
+  cached->translation = Translator(store_->catalog, lexed, structural).Condition(*statement.where);
+  const RunResult result = Start(lexed, std::move(cached));
+  return Step(result.rows.Get()) && sqlite3_column_int(result.rows.Get(), 0) != 0;
+}
+
+RunResult Session::Start(const Lexed& lexed, std::shared_ptr<CachedStatement> cached) {
+  const bool query = cached->query;
+  StatementHandle handle(std::move(cached));
+  std::string buffer;
+  int index = 0;
+  const auto& parameters = handle.Translated().parameters;
+  for (const Parameter& parameter : parameters) {
+    const Cell cell = LiteralCell(lexed, parameter, buffer);
+    // The caller's text stays in place while a change runs; rows are read later, and a converted text lies in the buffer.
+    BindCell(handle.Get(), ++index, cell, query || cell.text.data() == buffer.data());
+  }
+  RunResult result;
+  if (query) {
+    result.rows = std::move(handle);
+    return result;
+  }
+  while (Step(handle.Get())) {
+  }
+  if (countsRows_) result.affected = sqlite3_changes64(handle_);
+  return result;
+}
+
+}  // namespace suite

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "suite/engine/functions/server_functions.h"
+#include "suite/engine/translation/catalog.h"
+
+struct sqlite3;
+
+namespace suite {
+
+class Session;
+
+/// What the connections to one database share: where it lies, its clock, its catalog.
+struct Store {
+  std::string location;  ///< for sqlite3_open_v2
+  bool memory = false;
+  std::function<vb::Date()> clock;
+  Catalog catalog;
+  /// The first session: reads the catalog, runs scripts, and keeps a memory database alive.
+  std::shared_ptr<Session> keeper;
+};
+
+}  // namespace suite

@@ -1,0 +1,155 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "suite/engine/language/ast.h"
+#include "suite/engine/language/lexer.h"
+#include "suite/engine/language/literal.h"
+#include "suite/engine/translation/catalog.h"
+
+namespace suite {
+
+struct ResultColumn {
+  std::string name;
+  Type type;
+  bool nullable = true;
+  int tableColumn = -1;  ///< position in the base table when it is one of its columns as it stands
+};
+
+/// A statement in the store's own words.
+struct Translation {
+  std::string sql;
+  std::vector<Parameter> parameters;  ///< for ?1, ?2, ...
+  std::vector<ResultColumn> columns;  ///< of a query
+  std::string table;                  ///< the one table that rows of this query belong to; empty when it cannot be updated
+  bool rowIds = false;                ///< the last column of the store's statement is the row's own id, beyond `columns`
+};
+
+/// Looks up names and types and writes a statement for the store. One instance translates one statement.
+/// With `inlineLiterals` they stand in the text (stored definitions cannot have parameters).
+class Translator {
+ public:
+  Translator(const Catalog& catalog, const Lexed& lexed, std::vector<int>& structural, bool inlineLiterals = false)
+      : catalog_(catalog), lexed_(lexed), structural_(structural), inline_(inlineLiterals) {}
+
+  /// A select; with `rowIds` and a single base table the row's own id comes along.
+  Translation Query(const ast::Query& query, bool rowIds);
+  Translation Insert(const ast::Statement& statement);
+  Translation Update(const ast::Statement& statement);
+  Translation Delete(const ast::Statement& statement);
+  /// A query of one row and column: 1 when the condition holds, else 0.
+  Translation Condition(const ast::Expr& predicate);
+  /// The columns' initial values and keys, as the store's "create table".
+  Translation Table(const ast::Statement& statement, const std::string& name);
+  Translation View(const ast::Statement& statement);
+
+ private:
+  /// A value expression as text of the store's.
+  struct Emitted {
+    std::string sql;
+    Type type;
+    int parameter = -1;     ///< a bare literal: its slot, whose type may still be settled
+    bool collated = false;  ///< compares as the server compares
+    bool nullable = true;
+    int tableColumn = -1;
+  };
+  struct SourceInfo {
+    std::string alias;
+    bool table = false;  ///< a base table
+    std::string name;
+    std::vector<ColumnDef> columns;
+  };
+  struct Scope {
+    Scope* outer = nullptr;
+    std::vector<SourceInfo> sources;
+    bool grouped = false;
+    bool inAggregate = false;
+    const std::vector<ast::ExprPtr>* group = nullptr;
+  };
+  struct Place {
+    Scope* scope = nullptr;
+    std::size_t source = 0;
+    std::size_t column = 0;
+  };
+  /// One select of a union, before its columns are brought to the common types.
+  struct Part {
+    std::vector<Emitted> items;
+    std::vector<ResultColumn> columns;
+    std::string tail;  ///< from ... having
+    std::string limit;
+    std::string rowId;
+    std::string table;
+    bool distinct = false;
+  };
+
+  // Values (translator_expression.cpp)
+  Emitted Value(const ast::Expr& expr, Scope& scope);
+  Emitted ValueUngrouped(const ast::Expr& expr, Scope& scope);
+  Emitted Literal(const ast::Expr& expr);
+  Emitted Column(const ast::Expr& expr, Scope& scope);
+  Emitted Unary(const ast::Expr& expr, Scope& scope);
+  Emitted Case(const ast::Expr& expr, Scope& scope);
+  Emitted Scalar(const ast::Expr& expr, Scope& scope);
+  Place Resolve(const ast::Expr& expr, Scope& scope) const;
+  bool Same(const ast::Expr& a, const ast::Expr& b, Scope& scope);
+
+  // Operators and conversions (translator_operator.cpp)
+  Emitted Binary(const ast::Expr& expr, Scope& scope);
+  Emitted Arithmetic(char op, Emitted left, Emitted right);
+  Emitted DateArithmetic(char op, const Emitted& left, const Emitted& right);
+  Emitted Divide(char op, Emitted left, Emitted right);
+  Emitted Coerce(Emitted value, const Type& target, int style = 0);
+  Emitted CoerceAssigned(Emitted value, const Type& target);
+  Emitted CastTo(Emitted value, const Type& target, int style);
+  static std::string Collated(const Emitted& value);
+
+  // Conditions (translator_predicate.cpp)
+  std::string Predicate(const ast::Expr& expr, Scope& scope);
+  std::string Compare(const ast::Expr& expr, Scope& scope);
+  std::string Like(const ast::Expr& expr, Scope& scope);
+  std::string In(const ast::Expr& expr, Scope& scope);
+  std::string Between(const ast::Expr& expr, Scope& scope);
+
+  // Functions (translator_function.cpp)
+  struct FunctionEntry;
+  static const FunctionEntry* FindFunction(std::string_view name);
+  Emitted Function(const ast::Expr& expr, Scope& scope);
+  Emitted Aggregate(const ast::Expr& expr, Scope& scope);
+  Emitted IsNull(const ast::Expr& expr, Scope& scope);
+  Emitted Coalesce(const ast::Expr& expr, Scope& scope);
+  Emitted NullIf(const ast::Expr& expr, Scope& scope);
+  Emitted IsNumeric(const ast::Expr& expr, Scope& scope);
+  Emitted Rounding(const ast::Expr& expr, Scope& scope);
+  Emitted DateFunction(const ast::Expr& expr, Scope& scope);
+
+  // Selects (translator_select.cpp)
+  std::string QueryText(const ast::Query& query, Scope* outer, std::vector<ResultColumn>& columns,
+                        const std::vector<Type>* targets = nullptr, Translation* updatable = nullptr);
+  Part SelectPart(const ast::Select& select, Scope* outer, const ast::Query* orderedBy, std::string& order);
+  void Items(const ast::Select& select, Scope& scope, Part& part);
+  void Star(const std::string& qualifier, Scope& scope, Part& part);
+  std::string Tail(const ast::Select& select, Scope& scope);
+  void Sources(const ast::Source& source, Scope& scope);
+  std::string SourceText(const ast::Source& source, Scope& scope);
+  std::string OrderText(const ast::Query& query, Scope* scope, const std::vector<ResultColumn>& columns);
+  std::string PartText(Part& part, const std::vector<Type>& types, bool assigned);
+  static bool HasAggregate(const ast::Expr& expr);
+
+  [[noreturn]] void Unknown(const ast::Expr& expr, const std::string& what) const;
+  std::string Near(std::uint32_t token) const;
+  Translation Finish(std::string sql);
+
+  const Catalog& catalog_;
+  const Lexed& lexed_;
+  std::vector<int>& structural_;
+  bool inline_;
+  std::vector<Parameter> parameters_;
+  std::vector<std::pair<std::uint32_t, std::string>> derivedTexts_;
+  std::vector<std::vector<ResultColumn>> derivedColumns_;
+};
+
+/// A name as the store quotes it.
+std::string Quoted(std::string_view name);
+
+}  // namespace suite

@@ -1,0 +1,163 @@
+#include <algorithm>
+
+#include "suite/engine/translation/translator.h"
+#include "suite/engine/values/errors.h"
+
+namespace suite {
+namespace {
+
+constexpr int kQuotientScale = 6;  // the least digits behind the point of a decimal quotient
+constexpr const char* kDayText = "86400000";
+
+std::string Power(int exponent) {
+  return std::to_string(PowerOfTen(exponent));
+}
+
+}  // namespace
+
+std::string Translator::Collated(const Emitted& value) {
+  return value.collated || !value.type.IsText() ? value.sql : "(" + value.sql + " COLLATE server)";
+}
+
+Translator::Emitted Translator::Coerce(Emitted value, const Type& target, int style) {
+  const Type from = value.type;
+  if (target.kind == Kind::Null) return value;
+  if (from.kind == Kind::Null) {
+    value.type = target;
+    return value;
+  }
+  if (value.parameter >= 0) {
+    // A bare literal takes the type when it is bound.
+    Parameter& parameter = parameters_[static_cast<std::size_t>(value.parameter)];
+    parameter.type = target;
+    parameter.style = style;
+    if (inline_) value.sql = LiteralText(lexed_, parameter);
+    value.type = target;
+    return value;
+  }
+  const bool sameText = from.IsText() && target.IsText() && !target.fixed &&
+                        (target.length == 0 || (from.length > 0 && from.length <= target.length));
+  const bool wider = from.IsWhole() && target.IsWhole() && from.kind <= target.kind;
+  const bool sameDecimal = from.kind == Kind::Decimal && target.kind == Kind::Decimal && from.scale == target.scale &&
+                           from.precision <= target.precision;
+  const bool same = from.kind == target.kind && (from.kind == Kind::Float || from.kind == Kind::DateTime);
+  value.type = target;
+  if (sameText || wider || sameDecimal || same) return value;
+  value.collated = false;
+  value.tableColumn = -1;
+  const int fromScale = from.kind == Kind::Decimal ? from.scale : 0;
+  if (target.kind == Kind::Decimal && !target.assign && (from.IsWhole() || from.kind == Kind::Decimal) &&
+      target.scale >= fromScale && (target.precision - target.scale >= from.precision - fromScale)) {
+    if (target.scale > fromScale) value.sql = "(" + value.sql + " * " + Power(target.scale - fromScale) + ")";
+    return value;
+  }
+  if (target.kind == Kind::Float && (from.IsWhole() || from.kind == Kind::Decimal)) {
+    value.sql = "(" + value.sql + " / " + Power(fromScale) + ".0)";
+    return value;
+  }
+  value.sql = "srv_convert(" + value.sql + ", " + std::to_string(from.Pack()) + ", " + std::to_string(target.Pack()) + ", " +
+              std::to_string(style) + ")";
+  return value;
+}
+
+Translator::Emitted Translator::CoerceAssigned(Emitted value, const Type& target) {
+  Type strict = target;
+  strict.assign = true;
+  return Coerce(std::move(value), strict);
+}
+
+Translator::Emitted Translator::CastTo(Emitted value, const Type& target, int style) {
+  // A literal's own value first takes part in the statement: cast(1.005 as decimal(9,2)) rounds, it does not reinterpret.
+  value = Coerce(std::move(value), target, style);
+  value.parameter = -1;
+  return value;
+}
+
+Translator::Emitted Translator::Binary(const ast::Expr& expr, Scope& scope) {
+  Emitted left = Value(*expr.children[0], scope);
+  Emitted right = Value(*expr.children[1], scope);
+  Emitted value;
+  const bool anyNumber = left.type.kind > Kind::Guid || right.type.kind > Kind::Guid;
+  if (expr.op == '+' && !anyNumber && (left.type.IsText() || right.type.IsText())) {
+    const int length = left.type.length && right.type.length ? left.type.length + right.type.length : 0;
+    value.type = Type::TextOf(length);
+    value.sql = "(" + left.sql + " || " + right.sql + ")";
+    return value;
+  }
+  if (left.type.kind == Kind::DateTime || right.type.kind == Kind::DateTime) {
+    if (expr.op != '+' && expr.op != '-') Unknown(expr, "dates can only be added to and subtracted from");
+    return DateArithmetic(expr.op, left, right);
+  }
+  if (left.type.IsText()) left = Coerce(std::move(left), right.type.IsNumber() ? right.type : Type::Of(Kind::Int));
+  if (right.type.IsText()) right = Coerce(std::move(right), left.type.IsNumber() ? left.type : Type::Of(Kind::Int));
+  if (left.type.kind == Kind::Null) left.type = right.type;
+  if (right.type.kind == Kind::Null) right.type = left.type;
+  if (left.type.kind == Kind::Null) left.type = right.type = Type::Of(Kind::Int);
+  return Arithmetic(expr.op, std::move(left), std::move(right));
+}
+
+Translator::Emitted Translator::DateArithmetic(char op, const Emitted& left, const Emitted& right) {
+  const auto days = [&](const Emitted& number) {
+    if (number.type.kind == Kind::Float) return "CAST(round(" + number.sql + " * " + kDayText + ") AS INTEGER)";
+    const std::string units = "(" + number.sql + " * " + kDayText + ")";
+    return number.type.kind == Kind::Decimal && number.type.scale ? "(" + units + " / " + Power(number.type.scale) + ")" : units;
+  };
+  Emitted value;
+  value.type = Type::Of(Kind::DateTime);
+  const bool bothDates = left.type.kind == Kind::DateTime && right.type.kind == Kind::DateTime;
+  if (bothDates || left.type.IsText() || right.type.IsText()) {
+    RaiseServer(402, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
+                         " are incompatible in the operator; use datediff.");
+  }
+  const bool dateFirst = left.type.kind == Kind::DateTime;
+  value.sql = "(" + (dateFirst ? left.sql : days(left)) + " " + op + " " + (dateFirst ? days(right) : right.sql) + ")";
+  return value;
+}
+
+Translator::Emitted Translator::Arithmetic(char op, Emitted left, Emitted right) {
+  Emitted value;
+  const Type common = CommonType(left.type, right.type);
+  if (op == '&' || op == '|' || op == '^') {
+    if (!left.type.IsWhole() || !right.type.IsWhole()) {
+      RaiseServer(402, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
+                           " are incompatible in the operator '" + std::string(1, op) + "'.");
+    }
+    value.type = common;
+    const std::string both = left.sql + " & " + right.sql;
+    value.sql = op == '^' ? "((" + left.sql + " | " + right.sql + ") - (" + both + "))"
+                          : "(" + left.sql + " " + op + " " + right.sql + ")";
+    return value;
+  }
+  if (op == '/' || op == '%') return Divide(op, std::move(left), std::move(right));
+  if (common.kind == Kind::Decimal && op == '*') {
+    const int scale =
+        (left.type.kind == Kind::Decimal ? left.type.scale : 0) + (right.type.kind == Kind::Decimal ? right.type.scale : 0);
+    if (scale > kMostDigits) RaiseOverflow("decimal");
+    value.type = Type::DecimalOf(38, scale);
+    value.sql = "(" + left.sql + " * " + right.sql + ")";
+    return value;
+  }
+  value.type = common.IsWhole() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
+  if (common.kind == Kind::Decimal) value.type = Type::DecimalOf(std::min<int>(common.precision + 1, 38), common.scale);
+  value.sql = "(" + Coerce(std::move(left), common).sql + " " + op + " " + Coerce(std::move(right), common).sql + ")";
+  return value;
+}
+
+Translator::Emitted Translator::Divide(char op, Emitted left, Emitted right) {
+  Emitted value;
+  const Type common = CommonType(left.type, right.type);
+  if (common.kind == Kind::Decimal && op == '/') {
+    const int leftScale = left.type.kind == Kind::Decimal ? left.type.scale : 0;
+    const int rightScale = right.type.kind == Kind::Decimal ? right.type.scale : 0;
+    const int scale = std::max(kQuotientScale, leftScale + 1);
+    value.type = Type::DecimalOf(38, scale);
+    value.sql = "srv_quotient(" + left.sql + ", " + right.sql + ", " + std::to_string(scale - leftScale + rightScale) + ")";
+    return value;
+  }
+  value.type = common.IsWhole() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
+  value.sql = std::string(op == '/' ? "srv_divide(" : "srv_remainder(") + Coerce(std::move(left), common).sql + ", " +
+              Coerce(std::move(right), common).sql + ")";
+  return value;
+}
+
+}  // namespace suite
