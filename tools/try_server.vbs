@@ -52,6 +52,7 @@ Dim made          ' the drop statements of what was made, in the order of making
 Dim ids, decided  ' of the trial that runs
 Dim passedCount, failedCount, notTriedCount
 Dim errNumber, errText, errNative, errState  ' of the last statement that was allowed to fail
+Dim rowsError     ' the error's number of the last batch or change tried, 0 for none
 
 Main
 
@@ -685,9 +686,8 @@ Function ErrorOfBatch(location, cursor, mostRows, secondNumber)
   End If
   If Err.Number = 0 Then doing = "UpdateBatch"
   If Err.Number = 0 Then rows.UpdateBatch
-  errNumber = Err.Number
-  errText = Err.Description
-  If errNumber <> 0 Then ErrorOfBatch = doing & ": " & Shown(errNumber, errText)
+  rowsError = Err.Number
+  If rowsError <> 0 Then ErrorOfBatch = doing & ": " & Shown(rowsError, Err.Description)
   Err.Clear
   rows.CancelBatch
   rows.Close
@@ -706,7 +706,7 @@ Sub TryOtherBatches()
   Dim most, wrong, refused
   For Each most In Array(0, 1)
     wrong = WrongWithBatch(UseServer, DynamicCursor, most, False, 2)
-    Decide "N10", InStr(wrong, "the second AddNew") = 1 And errNumberOfBatch(wrong) = Hex(ErrRowsNotReleased), _
+    Decide "N10", InStr(wrong, "the second AddNew") = 1 And rowsError = ErrRowsNotReleased, _
            "a dynamic cursor on the server refuses the second line, MaxRecords " & most, wrong
     For Each refused In Array(KeysetCursor, StaticCursor)
       wrong = WrongWithBatch(UseServer, refused, most, False, 2)
@@ -715,10 +715,6 @@ Sub TryOtherBatches()
     Next
   Next
 End Sub
-
-Function errNumberOfBatch(wrong)
-  If InStr(wrong, ": ") > 0 Then errNumberOfBatch = Split(Mid(wrong, InStr(wrong, ": ") + 2), " ")(0)
-End Function
 
 ' Makes the trigger of that kind; False when there can be none.
 Function SetsTrigger(kind, table, change)
@@ -763,7 +759,7 @@ Sub TryChange(id, trigger, location)
   ForgetTrialRequest
   If location = UseServer Then Decide id, wrong = "" And stored = "new", text, Trim(stored & " " & wrong)
   If location = UseClient Then
-    Decide id, (wrong = "" And stored = "new") Or (InStr(wrong, Hex(ErrRowNotFound)) = 1 And stored = "old"), text, _
+    Decide id, (wrong = "" And stored = "new") Or (rowsError = ErrRowNotFound And stored = "old"), text, _
            Trim(stored & " " & wrong)
   End If
 End Sub
@@ -776,7 +772,8 @@ Function ErrorOfChange(location)
   header.Collect("grhremarks") = "new"
   header.Collect("grhcancel") = CLng(1)
   If Err.Number = 0 Then header.Update
-  If Err.Number <> 0 Then ErrorOfChange = Shown(Err.Number, Err.Description)
+  rowsError = Err.Number
+  If rowsError <> 0 Then ErrorOfChange = Shown(rowsError, Err.Description)
   Err.Clear
   header.CancelUpdate
   header.Close
