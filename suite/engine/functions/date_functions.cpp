@@ -62,7 +62,7 @@ std::int64_t AddMonths(std::int64_t date, std::int64_t months) {
   const std::int64_t total = p.year * 12LL + p.month - 1 + months;
   const auto year = static_cast<int>(FloorDivide(total, 12));
   const auto month = static_cast<int>(total - FloorDivide(total, 12) * 12 + 1);
-  if (year < 1753 || year > 9999) RaiseServer(517, "Adding a value to a 'datetime' column caused overflow.");
+  if (year < 1753 || year > 9999) RaiseServer(kDateOverflow, "Adding a value to a 'datetime' column caused overflow.");
   const std::int64_t first = ToMilliseconds(vb::MakeDate(year, month, 1));
   // The 31st moves to the last day of a shorter month.
   for (std::int64_t day = p.day - 1;; --day) {

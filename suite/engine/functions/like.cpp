@@ -88,7 +88,7 @@ bool MatchLike(std::string_view text, std::string_view pattern, std::string_view
     const std::string folded = vb::LCase(escape);
     escapeCharacter = vb::NextCharacter(folded, offset);
     if (offset != folded.size())
-      RaiseServer(506, "Invalid escape character '" + std::string(escape) + "' was specified in a LIKE predicate.");
+      RaiseServer(kInvalidEscape, "Invalid escape character '" + std::string(escape) + "' was specified in a LIKE predicate.");
   }
   return Matcher(foldedText, foldedPattern, escapeCharacter).Run();
 }

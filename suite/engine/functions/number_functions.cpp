@@ -10,7 +10,7 @@ namespace suite {
 namespace {
 
 [[noreturn]] void RaiseDivisionByZero() {
-  RaiseServer(8134, "Divide by zero error encountered.");
+  RaiseServer(kDivisionByZero, "Divide by zero error encountered.");
 }
 
 Cell CellOf(const FunctionCall& call, int index) {
@@ -120,7 +120,7 @@ void CeilingFloat(const FunctionCall& call) {
 }
 
 void SquareRoot(const FunctionCall& call) {
-  if (call.Real(0) < 0) RaiseServer(3623, "An invalid floating point operation occurred.");
+  if (call.Real(0) < 0) RaiseServer(kInvalidFloatOperation, "An invalid floating point operation occurred.");
   call.Return(std::sqrt(call.Real(0)));
 }
 

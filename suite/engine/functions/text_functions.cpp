@@ -14,7 +14,7 @@ bool IsAscii(std::string_view text) {
 }
 
 [[noreturn]] void RaiseLength(const char* function) {
-  RaiseServer(536, std::string("Invalid length parameter passed to the ") + function + " function.");
+  RaiseServer(kInvalidLength, std::string("Invalid length parameter passed to the ") + function + " function.");
 }
 
 void Len(const FunctionCall& call) {

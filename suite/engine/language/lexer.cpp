@@ -52,7 +52,7 @@ class Scanner {
         position_ = std::min(text_.find('\n', position_), text_.size());
       } else if (At(position_) == '/' && At(position_ + 1) == '*') {
         const std::size_t close = text_.find("*/", position_ + 2);
-        if (close == std::string_view::npos) RaiseServer(113, "Missing end comment mark '*/'.");
+        if (close == std::string_view::npos) RaiseServer(kUnclosedComment, "Missing end comment mark '*/'.");
         position_ = close + 2;
       } else {
         return position_ < text_.size();
@@ -78,7 +78,7 @@ class Scanner {
         if (c == '\'') return Quotation('\'', TokenKind::Text);
         if (c == '"') return Quotation('"', TokenKind::Quoted);
         if (c == '[') return Quotation(']', TokenKind::Quoted);
-        RaiseServer(102, "Incorrect syntax near '" + std::string(text_.substr(position_, 20)) + "'.");
+        RaiseServer(kSyntaxNear, "Incorrect syntax near '" + std::string(text_.substr(position_, 20)) + "'.");
     }
   }
 
@@ -125,7 +125,8 @@ class Scanner {
     for (;;) {
       position_ = text_.find(close, position_);
       if (position_ == std::string_view::npos) {
-        RaiseServer(105, "Unclosed quotation mark before the character string '" + std::string(text_.substr(token.begin)) + "'.");
+        RaiseServer(kUnclosedQuotationMark,
+                    "Unclosed quotation mark before the character string '" + std::string(text_.substr(token.begin)) + "'.");
       }
       if (At(position_ + 1) != close) break;
       token.escaped = true;
@@ -158,7 +159,7 @@ class Scanner {
         token.symbol = combined;
         position_ = text_.find(second, position_ + 1);
       } else if (token.symbol == '!') {
-        RaiseServer(102, "Incorrect syntax near '!'.");
+        RaiseServer(kSyntaxNear, "Incorrect syntax near '!'.");
       }
     }
     ++position_;

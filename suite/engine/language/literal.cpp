@@ -13,7 +13,7 @@ std::int64_t WholeOf(std::string_view digits) {
   std::int64_t value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (error != std::errc())
-    RaiseServer(1007, "The number '" + std::string(digits) + "' is out of the range for numeric representation.");
+    RaiseServer(kNumberOutOfRange, "The number '" + std::string(digits) + "' is out of the range for numeric representation.");
   return value;
 }
 
@@ -94,13 +94,14 @@ late::Value ArgumentValue(const Lexed& lexed, const ast::Expr* argument) {
   if (argument->kind == ast::ExprKind::Null) return late::Null{};
   if (argument->kind == ast::ExprKind::Unary) {
     const late::Value value = ArgumentValue(lexed, argument->children[0].get());
-    if (argument->op != '-' || value.IsText()) RaiseServer(102, "Incorrect syntax near '" + std::string(1, argument->op) + "'.");
+    if (argument->op != '-' || value.IsText())
+      RaiseServer(kSyntaxNear, "Incorrect syntax near '" + std::string(1, argument->op) + "'.");
     if (const auto* whole = value.If<std::int32_t>()) return -*whole;
     if (const auto* exact = value.If<vb::Decimal>()) return vb::Decimal{-exact->units, exact->scale};
     return -value.ToDouble();
   }
   const Token& token = lexed.tokens[argument->token];
-  if (token.literal < 0) RaiseServer(102, "Incorrect syntax near '" + std::string(lexed.TextOf(token)) + "'.");
+  if (token.literal < 0) RaiseServer(kSyntaxNear, "Incorrect syntax near '" + std::string(lexed.TextOf(token)) + "'.");
   std::string buffer;
   const Cell cell = OwnCell(lexed, token, buffer);
   if (cell.form == Cell::Form::Text) return cell.text;

@@ -74,11 +74,12 @@ void Parser::UnexpectedAt(std::uint32_t token) const {
   const Token& at = lexed_.tokens[token];
   if (at.kind == TokenKind::End) {
     const std::size_t last = lexed_.text.size() > 20 ? lexed_.text.size() - 20 : 0;
-    RaiseServer(102, "Incorrect syntax near the end of '" + std::string(lexed_.text.substr(last)) + "'.");
+    RaiseServer(kSyntaxNear, "Incorrect syntax near the end of '" + std::string(lexed_.text.substr(last)) + "'.");
   }
   const std::string text(lexed_.TextOf(at));
-  if (at.kind == TokenKind::Word && IsReserved(text)) RaiseServer(156, "Incorrect syntax near the keyword '" + text + "'.");
-  RaiseServer(102, "Incorrect syntax near '" + text + "'.");
+  if (at.kind == TokenKind::Word && IsReserved(text))
+    RaiseServer(kSyntaxNearKeyword, "Incorrect syntax near the keyword '" + text + "'.");
+  RaiseServer(kSyntaxNear, "Incorrect syntax near '" + text + "'.");
 }
 
 bool Parser::NameFollows() const {
@@ -136,12 +137,13 @@ Type Parser::TypeNamed(int lengthWhenNone) {
       if (TakeSymbol(',')) scale = StructuralNumber(kMostDigits);
       ExpectSymbol(')');
     }
-    if (precision < 1 || scale > precision) RaiseServer(192, "The scale must be less than or equal to the precision.");
+    if (precision < 1 || scale > precision)
+      RaiseServer(kScaleAbovePrecision, "The scale must be less than or equal to the precision.");
     return Type::DecimalOf(precision, scale);
   }
   const bool fixed = is("char") || is("nchar");
   if (!fixed && !is("varchar") && !is("nvarchar")) {
-    RaiseServer(243, "Type " + std::string(lexed_.TextOf(lexed_.tokens[token])) + " is not a defined system type.");
+    RaiseServer(kUnknownType, "Type " + std::string(lexed_.TextOf(lexed_.tokens[token])) + " is not a defined system type.");
   }
   Type type = Type::TextOf(lengthWhenNone);
   type.fixed = fixed;

@@ -73,7 +73,7 @@ Relation Definitions::ShapeOf(ast::Statement& statement) {
   Relation relation{statement.name, false, {}};
   for (const ast::ColumnDefinition& column : statement.definitions) {
     if (relation.Find(column.name) >= 0) {
-      RaiseServer(2705,
+      RaiseServer(kDuplicateColumn,
                   "Column names in each table must be unique. Column name '" + column.name + "' is specified more than once.");
     }
     relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, column.rowIdentifier});
@@ -81,7 +81,7 @@ Relation Definitions::ShapeOf(ast::Statement& statement) {
   for (const ast::Key& key : statement.keys) {
     for (const std::string& name : key.columns) {
       const int column = relation.Find(name);
-      if (column < 0) RaiseServer(1911, "Column name '" + name + "' does not exist in the target table.");
+      if (column < 0) RaiseServer(kUnknownKeyColumn, "Column name '" + name + "' does not exist in the target table.");
       if (!key.primary) continue;
       relation.columns[static_cast<std::size_t>(column)].nullable = false;
       statement.definitions[static_cast<std::size_t>(column)].nullable = false;
@@ -141,7 +141,7 @@ void Definitions::Change(const Lexed& lexed, ast::Statement& statement) {
 
 void Definitions::RefuseExisting(const std::string& name) const {
   if (catalog_.FindRelation(name) || catalog_.FindProcedure(name)) {
-    RaiseServer(2714, "There is already an object named '" + name + "' in the database.");
+    RaiseServer(kObjectExists, "There is already an object named '" + name + "' in the database.");
   }
 }
 
@@ -184,7 +184,7 @@ void Definitions::CreateIndex(const ast::Statement& statement) {
   std::string columns;
   for (const std::string& name : statement.columns) {
     const int column = table.Find(name);
-    if (column < 0) RaiseServer(1911, "Column name '" + name + "' does not exist in the target table.");
+    if (column < 0) RaiseServer(kUnknownKeyColumn, "Column name '" + name + "' does not exist in the target table.");
     columns += (columns.empty() ? "" : ", ") + Quoted(table.columns[static_cast<std::size_t>(column)].name);
   }
   // The store's index names are the database's; the server's belong to their table.
@@ -213,7 +213,7 @@ void Definitions::AddColumn(const Lexed& lexed, const ast::Statement& statement)
   std::vector<int> structural;
   const std::string whole = Translator(catalog_, lexed, structural, true).Table(statement, table.name).sql;
   // The store adds one column at a time; their definitions stand between the outer parentheses.
-  if (statement.definitions.size() != 1) RaiseServer(102, "Incorrect syntax near 'add': one column at a time.");
+  if (statement.definitions.size() != 1) RaiseServer(kSyntaxNear, "Incorrect syntax near 'add': one column at a time.");
   const std::size_t open = whole.find(" (") + 2;
   Store("ALTER TABLE " + Quoted(table.name) + " ADD COLUMN " + whole.substr(open, whole.size() - open - 1));
   const std::string_view added = TextOfStatement(lexed, statement);
@@ -242,8 +242,8 @@ void Definitions::Drop(const ast::Statement& statement) {
   const bool known = procedure ? catalog_.FindProcedure(statement.name) != nullptr
                                : relation && relation->view == (statement.objectType == "view");
   if (!known || (relation && relation->name.starts_with("sys"))) {
-    RaiseServer(3701, "Cannot drop the " + statement.objectType + " '" + statement.name +
-                          "', because it does not exist in the system catalog.");
+    RaiseServer(kNothingToDrop, "Cannot drop the " + statement.objectType + " '" + statement.name +
+                                    "', because it does not exist in the system catalog.");
   }
   const std::string name = relation ? relation->name : statement.name;
   if (!procedure) Store((relation->view ? "DROP VIEW " : "DROP TABLE ") + Quoted(name));

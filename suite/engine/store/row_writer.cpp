@@ -46,7 +46,7 @@ void RowWriter::Run(sqlite3_stmt* statement) {
 
 void RowWriter::RequireOne() const {
   if (sqlite3_changes(session_->Handle()) == 1) return;
-  RaiseServer(16947, "Row cannot be located for updating. Some values may have been changed since it was last read.");
+  RaiseServer(kRowNotFound, "Row cannot be located for updating. Some values may have been changed since it was last read.");
 }
 
 std::int64_t RowWriter::Insert(ColumnSet& set, const std::vector<late::Value>& values) {

@@ -30,7 +30,7 @@ void Session::Rollback() {
 }
 
 void Session::BeginTransaction() {
-  if (manual_) RaiseServer(3904, "Cannot start more transactions on this session.");
+  if (manual_) RaiseServer(kTransactionOpen, "Cannot start more transactions on this session.");
   manual_ = true;
   lost_ = false;
 }
@@ -46,7 +46,7 @@ void Session::OpenTransaction() {
 void Session::CommitTransaction() {
   if (!manual_ || lost_) {
     manual_ = lost_ = false;
-    RaiseServer(3902, "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION.");
+    RaiseServer(kNothingToCommit, "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION.");
   }
   if (inTransaction_) EndTransaction("COMMIT");
   manual_ = false;
@@ -55,7 +55,7 @@ void Session::CommitTransaction() {
 void Session::RollbackTransaction() {
   if (!manual_ || lost_) {
     manual_ = lost_ = false;
-    RaiseServer(3903, "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
+    RaiseServer(kNothingToRollBack, "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
   }
   manual_ = false;
   if (!inTransaction_) return;
@@ -93,18 +93,19 @@ void Session::LoadCatalog() {
 
 RunResult Session::RunProcedure(const Lexed& lexed, const ast::Statement& statement, bool updatable) {
   const ProcedureDef* definition = store_->catalog.FindProcedure(statement.name);
-  if (!definition) RaiseServer(2812, "Could not find stored procedure '" + statement.name + "'.");
+  if (!definition) RaiseServer(kUnknownProcedure, "Could not find stored procedure '" + statement.name + "'.");
   const Procedure procedure = FindProcedure(definition->name);
-  if (!procedure) RaiseServer(2812, "The stored procedure '" + definition->name + "' has no function registered in this engine.");
+  if (!procedure)
+    RaiseServer(kUnknownProcedure, "The stored procedure '" + definition->name + "' has no function registered in this engine.");
   const auto& given = statement.rows.front();
   if (given.size() > definition->parameters.size()) {
-    RaiseServer(8144, "Procedure or function " + definition->name + " has too many arguments specified.");
+    RaiseServer(kTooManyArguments, "Procedure or function " + definition->name + " has too many arguments specified.");
   }
   std::vector<late::Value> arguments;
   for (std::size_t i = 0; i < definition->parameters.size(); ++i) {
     const ProcedureDef::Parameter& parameter = definition->parameters[i];
     if (i >= given.size() && !parameter.hasDefault) {
-      RaiseServer(201,
+      RaiseServer(kParameterNotSupplied,
                   "Procedure '" + definition->name + "' expects parameter '" + parameter.name + "', which was not supplied.");
     }
     arguments.push_back(i < given.size() ? ArgumentValue(lexed, given[i].get()) : parameter.initial);

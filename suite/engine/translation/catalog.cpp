@@ -23,7 +23,7 @@ const Relation* Catalog::FindRelation(std::string_view name) const {
 
 const Relation& Catalog::RelationNamed(std::string_view name) const {
   const Relation* relation = FindRelation(name);
-  if (!relation) RaiseServer(208, "Invalid object name '" + std::string(name) + "'.");
+  if (!relation) RaiseServer(kInvalidObject, "Invalid object name '" + std::string(name) + "'.");
   return *relation;
 }
 

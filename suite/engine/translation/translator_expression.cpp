@@ -16,7 +16,7 @@ std::string Translator::Near(std::uint32_t token) const {
 }
 
 void Translator::Unknown(const Expr& expr, const std::string& what) const {
-  RaiseServer(102, "Incorrect syntax near '" + Near(expr.token) + "': " + what);
+  RaiseServer(kSyntaxNear, "Incorrect syntax near '" + Near(expr.token) + "': " + what);
 }
 
 Translator::Emitted Translator::Value(const Expr& expr, Scope& scope) {
@@ -80,7 +80,7 @@ Translator::Place Translator::Resolve(const Expr& expr, Scope& scope) const {
       }
       for (std::size_t c = 0; c < source.columns.size(); ++c) {
         if (!vb::EqualNoCase(source.columns[c].name, expr.name)) continue;
-        if (place.scope) RaiseServer(209, "Ambiguous column name '" + expr.name + "'.");
+        if (place.scope) RaiseServer(kAmbiguousColumn, "Ambiguous column name '" + expr.name + "'.");
         place = Place{at, s, c};
         break;
       }
@@ -88,10 +88,10 @@ Translator::Place Translator::Resolve(const Expr& expr, Scope& scope) const {
     if (place.scope) return place;
   }
   if (!expr.qualifier.empty() && !qualifierFound) {
-    RaiseServer(107,
+    RaiseServer(kUnknownPrefix,
                 "The column prefix '" + expr.qualifier + "' does not match with a table name or alias name used in the query.");
   }
-  RaiseServer(207, "Invalid column name '" + expr.name + "'.");
+  RaiseServer(kInvalidColumn, "Invalid column name '" + expr.name + "'.");
 }
 
 Translator::Emitted Translator::Column(const Expr& expr, Scope& scope) {
@@ -99,9 +99,10 @@ Translator::Emitted Translator::Column(const Expr& expr, Scope& scope) {
   const SourceInfo& source = place.scope->sources[place.source];
   const ColumnDef& column = source.columns[place.column];
   if (place.scope->grouped && !place.scope->inAggregate) {
-    RaiseServer(8120, "Column '" + source.alias + "." + column.name +
-                          "' is invalid in the select list because it is not contained in either an aggregate function or the "
-                          "GROUP BY clause.");
+    RaiseServer(kColumnNotGrouped,
+                "Column '" + source.alias + "." + column.name +
+                    "' is invalid in the select list because it is not contained in either an aggregate function or the "
+                    "GROUP BY clause.");
   }
   Emitted value;
   value.sql = Quoted(source.alias) + "." + Quoted(column.name);
@@ -170,7 +171,8 @@ Translator::Emitted Translator::Scalar(const Expr& expr, Scope& scope) {
   Emitted value;
   value.sql = "(" + QueryText(*expr.query, &scope, columns) + ")";
   if (columns.size() != 1) {
-    RaiseServer(116, "Only one expression can be specified in the select list when the subquery is not introduced with EXISTS.");
+    RaiseServer(kSubqueryOfManyColumns,
+                "Only one expression can be specified in the select list when the subquery is not introduced with EXISTS.");
   }
   value.type = columns[0].type;
   return value;

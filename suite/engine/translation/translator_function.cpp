@@ -87,12 +87,12 @@ Translator::Emitted Translator::Function(const Expr& expr, Scope& scope) {
   if (expr.name == "abs" || expr.name == "round" || expr.name == "floor" || expr.name == "ceiling") return Rounding(expr, scope);
   if (expr.name.starts_with("date") && expr.name != "datalength") return DateFunction(expr, scope);
   const FunctionEntry* entry = FindFunction(expr.name);
-  if (!entry) RaiseServer(195, "'" + expr.name + "' is not a recognized function name.");
+  if (!entry) RaiseServer(kUnknownFunction, "'" + expr.name + "' is not a recognized function name.");
   const std::size_t bar = entry->arguments.find('|');
   const std::size_t least = bar == std::string_view::npos ? entry->arguments.size() : bar;
   const std::size_t most = bar == std::string_view::npos ? least : entry->arguments.size() - 1;
   if (expr.children.size() < least || expr.children.size() > most) {
-    RaiseServer(174, "The function '" + expr.name + "' requires " + std::to_string(most) + " arguments.");
+    RaiseServer(kWrongNumberOfArguments, "The function '" + expr.name + "' requires " + std::to_string(most) + " arguments.");
   }
   Emitted value;
   value.sql = std::string(entry->store) + "(";
@@ -111,9 +111,10 @@ Translator::Emitted Translator::Function(const Expr& expr, Scope& scope) {
 }
 
 Translator::Emitted Translator::Aggregate(const Expr& expr, Scope& scope) {
-  if (expr.children.size() != 1) RaiseServer(174, "The " + expr.name + " function requires 1 argument.");
+  if (expr.children.size() != 1) RaiseServer(kWrongNumberOfArguments, "The " + expr.name + " function requires 1 argument.");
   if (!scope.grouped || scope.inAggregate) {
-    RaiseServer(147, "An aggregate may not appear in the WHERE clause or inside another aggregate: '" + expr.name + "'.");
+    RaiseServer(kMisplacedAggregate,
+                "An aggregate may not appear in the WHERE clause or inside another aggregate: '" + expr.name + "'.");
   }
   Emitted value;
   if (expr.children[0]->kind == ExprKind::Star) {
@@ -158,7 +159,7 @@ Translator::Emitted Translator::Aggregate(const Expr& expr, Scope& scope) {
 }
 
 Translator::Emitted Translator::IsNull(const Expr& expr, Scope& scope) {
-  if (expr.children.size() != 2) RaiseServer(174, "The isnull function requires 2 arguments.");
+  if (expr.children.size() != 2) RaiseServer(kWrongNumberOfArguments, "The isnull function requires 2 arguments.");
   Emitted value = Value(*expr.children[0], scope);
   Emitted instead = Value(*expr.children[1], scope);
   if (value.type.kind == Kind::Null) return instead;
@@ -177,7 +178,7 @@ Translator::Emitted Translator::Coalesce(const Expr& expr, Scope& scope) {
     values.push_back(Value(*child, scope));
     result.type = CommonType(result.type, values.back().type);
   }
-  if (values.size() < 2) RaiseServer(174, "The coalesce function requires 2 arguments.");
+  if (values.size() < 2) RaiseServer(kWrongNumberOfArguments, "The coalesce function requires 2 arguments.");
   result.sql = "coalesce(";
   for (std::size_t i = 0; i < values.size(); ++i) result.sql += (i ? ", " : "") + Coerce(std::move(values[i]), result.type).sql;
   result.sql += ")";
@@ -185,7 +186,7 @@ Translator::Emitted Translator::Coalesce(const Expr& expr, Scope& scope) {
 }
 
 Translator::Emitted Translator::NullIf(const Expr& expr, Scope& scope) {
-  if (expr.children.size() != 2) RaiseServer(174, "The nullif function requires 2 arguments.");
+  if (expr.children.size() != 2) RaiseServer(kWrongNumberOfArguments, "The nullif function requires 2 arguments.");
   Emitted result = Value(*expr.children[0], scope);
   Emitted left = Value(*expr.children[0], scope);
   Emitted right = Value(*expr.children[1], scope);
@@ -201,7 +202,7 @@ Translator::Emitted Translator::NullIf(const Expr& expr, Scope& scope) {
 }
 
 Translator::Emitted Translator::IsNumeric(const Expr& expr, Scope& scope) {
-  if (expr.children.size() != 1) RaiseServer(174, "The isnumeric function requires 1 argument.");
+  if (expr.children.size() != 1) RaiseServer(kWrongNumberOfArguments, "The isnumeric function requires 1 argument.");
   const Emitted argument = Value(*expr.children[0], scope);
   Emitted value;
   value.type = Type::Of(Kind::Int);
@@ -217,7 +218,7 @@ Translator::Emitted Translator::IsNumeric(const Expr& expr, Scope& scope) {
 Translator::Emitted Translator::Rounding(const Expr& expr, Scope& scope) {
   const std::size_t wanted = expr.name == "round" ? 2 : 1;
   if (expr.children.size() != wanted) {
-    RaiseServer(174, "The " + expr.name + " function requires " + std::to_string(wanted) + " arguments.");
+    RaiseServer(kWrongNumberOfArguments, "The " + expr.name + " function requires " + std::to_string(wanted) + " arguments.");
   }
   Emitted value = Value(*expr.children[0], scope);
   if (value.type.IsText()) value = Coerce(std::move(value), Type::Of(Kind::Float));
@@ -243,12 +244,13 @@ Translator::Emitted Translator::DateFunction(const Expr& expr, Scope& scope) {
        {"d", "day"},         {"week", "week"}, {"wk", "week"},       {"hour", "hour"},       {"hh", "hour"},
        {"minute", "minute"}, {"mi", "minute"}, {"second", "second"}, {"ss", "second"},       {"ms", "millisecond"}}};
   const bool add = expr.name == "dateadd", part = expr.name == "datepart";
-  if (!add && !part && expr.name != "datediff") RaiseServer(195, "'" + expr.name + "' is not a recognized function name.");
+  if (!add && !part && expr.name != "datediff")
+    RaiseServer(kUnknownFunction, "'" + expr.name + "' is not a recognized function name.");
   if (expr.children.size() != (part ? 2u : 3u))
-    RaiseServer(174, "The " + expr.name + " function requires " + (part ? "2" : "3") + " arguments.");
+    RaiseServer(kWrongNumberOfArguments, "The " + expr.name + " function requires " + (part ? "2" : "3") + " arguments.");
   const std::string& word = expr.children[0]->name;
   const auto found = std::find_if(kParts.begin(), kParts.end(), [&](const auto& entry) { return entry.first == word; });
-  if (found == kParts.end()) RaiseServer(155, "'" + word + "' is not a recognized " + expr.name + " option.");
+  if (found == kParts.end()) RaiseServer(kUnknownOption, "'" + word + "' is not a recognized " + expr.name + " option.");
   Emitted value;
   value.type = Type::Of(add ? Kind::DateTime : Kind::Int);
   value.sql = "srv_" + expr.name + "('" + std::string(found->second) + "'";

@@ -106,8 +106,8 @@ Translator::Emitted Translator::DateArithmetic(char op, const Emitted& left, con
   value.type = Type::Of(Kind::DateTime);
   const bool bothDates = left.type.kind == Kind::DateTime && right.type.kind == Kind::DateTime;
   if (bothDates || left.type.IsText() || right.type.IsText()) {
-    RaiseServer(402, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
-                         " are incompatible in the operator; use datediff.");
+    RaiseServer(kIncompatibleTypes, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
+                                        " are incompatible in the operator; use datediff.");
   }
   const bool dateFirst = left.type.kind == Kind::DateTime;
   value.sql = "(" + (dateFirst ? left.sql : days(left)) + " " + op + " " + (dateFirst ? days(right) : right.sql) + ")";
@@ -119,8 +119,8 @@ Translator::Emitted Translator::Arithmetic(char op, Emitted left, Emitted right)
   const Type common = CommonType(left.type, right.type);
   if (op == '&' || op == '|' || op == '^') {
     if (!left.type.IsWhole() || !right.type.IsWhole()) {
-      RaiseServer(402, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
-                           " are incompatible in the operator '" + std::string(1, op) + "'.");
+      RaiseServer(kIncompatibleTypes, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
+                                          " are incompatible in the operator '" + std::string(1, op) + "'.");
     }
     value.type = common;
     const std::string both = left.sql + " & " + right.sql;

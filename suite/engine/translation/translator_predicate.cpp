@@ -79,7 +79,7 @@ std::string Translator::In(const Expr& expr, Scope& scope) {
     std::vector<ResultColumn> settled;
     QueryText(*expr.query, &scope, columns);
     if (columns.size() != 1) {
-      RaiseServer(116,
+      RaiseServer(kSubqueryOfManyColumns,
                   "Only one expression can be specified in the select list when the subquery is not introduced with EXISTS.");
     }
     const Type common = CommonType(value.type, columns[0].type);

@@ -20,14 +20,16 @@ void Translator::Sources(const ast::Source& source, Scope& scope) {
   info.alias = source.alias;
   for (const SourceInfo& other : scope.sources) {
     if (vb::EqualNoCase(other.alias, info.alias)) {
-      RaiseServer(1011, "The correlation name '" + info.alias + "' is specified multiple times in a FROM clause.");
+      RaiseServer(kDuplicateCorrelationName,
+                  "The correlation name '" + info.alias + "' is specified multiple times in a FROM clause.");
     }
   }
   if (source.query) {
     std::vector<ResultColumn> columns;
     derivedTexts_.emplace_back(source.token, QueryText(*source.query, scope.outer, columns));
     for (const ResultColumn& column : columns) {
-      if (column.name.empty()) RaiseServer(8155, "No column was specified for a column of '" + info.alias + "'.");
+      if (column.name.empty())
+        RaiseServer(kDerivedColumnWithoutName, "No column was specified for a column of '" + info.alias + "'.");
       info.columns.push_back(ColumnDef{column.name, column.type, true, false});
     }
   } else {
@@ -72,15 +74,17 @@ void Translator::Star(const std::string& qualifier, Scope& scope, Part& part) {
     }
   }
   if (found) return;
-  if (qualifier.empty()) RaiseServer(263, "Must specify a table to select from with '*'.");
-  RaiseServer(107, "The column prefix '" + qualifier + "' does not match with a table name or alias name used in the query.");
+  if (qualifier.empty()) RaiseServer(kNothingToSelectFrom, "Must specify a table to select from with '*'.");
+  RaiseServer(kUnknownPrefix,
+              "The column prefix '" + qualifier + "' does not match with a table name or alias name used in the query.");
 }
 
 void Translator::Items(const ast::Select& select, Scope& scope, Part& part) {
   for (const ast::SelectItem& item : select.items) {
     if (!item.value) {
       if (scope.grouped)
-        RaiseServer(8120, "A column of '*' is invalid in the select list because it is not contained in the GROUP BY clause.");
+        RaiseServer(kColumnNotGrouped,
+                    "A column of '*' is invalid in the select list because it is not contained in the GROUP BY clause.");
       Star(item.qualifier, scope, part);
       continue;
     }
@@ -108,7 +112,7 @@ std::string Translator::Tail(const ast::Select& select, Scope& scope) {
     text += (text.empty() ? " FROM " : ", ") + (bracket ? "(" + one + ")" : one);
   }
   if (select.where) {
-    if (HasAggregate(*select.where)) RaiseServer(147, "An aggregate may not appear in the WHERE clause.");
+    if (HasAggregate(*select.where)) RaiseServer(kMisplacedAggregate, "An aggregate may not appear in the WHERE clause.");
     text += " WHERE " + Predicate(*select.where, scope);
   }
   for (std::size_t i = 0; i < select.group.size(); ++i) {
@@ -154,7 +158,8 @@ std::string Translator::OrderText(const ast::Query& query, Scope* scope, const s
       position = digits.size() < 6 && digits.find_first_not_of("0123456789") == std::string::npos
                      ? static_cast<std::size_t>(std::stoi(digits)) - 1
                      : columns.size();
-      if (position >= columns.size()) RaiseServer(108, "The ORDER BY position number " + digits + " is out of range.");
+      if (position >= columns.size())
+        RaiseServer(kOrderPositionOutOfRange, "The ORDER BY position number " + digits + " is out of range.");
     } else if (expr.kind == ExprKind::Column && expr.qualifier.empty()) {
       const auto named =
           std::find_if(columns.begin(), columns.end(), [&](const ResultColumn& c) { return vb::EqualNoCase(c.name, expr.name); });
@@ -165,7 +170,7 @@ std::string Translator::OrderText(const ast::Query& query, Scope* scope, const s
     } else if (scope) {
       text += Collated(Value(expr, *scope));
     } else {
-      RaiseServer(104, "ORDER BY items must appear in the select list if the statement contains a UNION operator.");
+      RaiseServer(kOrderNotSelected, "ORDER BY items must appear in the select list if the statement contains a UNION operator.");
     }
     if (item.descending) text += " DESC";
   }
@@ -188,10 +193,12 @@ std::string Translator::QueryText(const ast::Query& query, Scope* outer, std::ve
   std::string order;
   std::vector<Part> parts;
   for (const ast::Select& select : query.parts) {
-    if (!alone && select.top) RaiseServer(156, "Incorrect syntax near the keyword 'top': it cannot stand in a union.");
+    if (!alone && select.top)
+      RaiseServer(kSyntaxNearKeyword, "Incorrect syntax near the keyword 'top': it cannot stand in a union.");
     parts.push_back(SelectPart(select, outer, alone && !query.order.empty() ? &query : nullptr, order));
     if (parts.back().columns.size() != parts.front().columns.size()) {
-      RaiseServer(205, "All queries in an SQL statement containing a UNION operator must have an equal number of expressions.");
+      RaiseServer(kUnionOfUnequalColumns,
+                  "All queries in an SQL statement containing a UNION operator must have an equal number of expressions.");
     }
   }
   columns = parts.front().columns;
@@ -202,7 +209,8 @@ std::string Translator::QueryText(const ast::Query& query, Scope* outer, std::ve
     }
   }
   if (targets && targets->size() != columns.size()) {
-    RaiseServer(213, "Insert Error: Column name or number of supplied values does not match table definition.");
+    RaiseServer(kValuesDoNotMatchTable,
+                "Insert Error: Column name or number of supplied values does not match table definition.");
   }
   std::vector<Type> types;
   for (std::size_t i = 0; i < columns.size(); ++i) types.push_back(targets ? (*targets)[i] : columns[i].type);

@@ -13,15 +13,15 @@ std::string ColumnList(const std::vector<std::string>& names) {
 
 std::size_t ColumnNamed(const Relation& table, const std::string& name) {
   const int column = table.Find(name);
-  if (column < 0) RaiseServer(207, "Invalid column name '" + name + "'.");
+  if (column < 0) RaiseServer(kInvalidColumn, "Invalid column name '" + name + "'.");
   return static_cast<std::size_t>(column);
 }
 
 const Relation& TableNamed(const Catalog& catalog, const std::string& name) {
   const Relation& relation = catalog.RelationNamed(name);
-  if (relation.view) RaiseServer(4406, "View '" + relation.name + "' is not updatable.");
+  if (relation.view) RaiseServer(kViewNotUpdatable, "View '" + relation.name + "' is not updatable.");
   if (relation.name == "syscolumns" || relation.name == "sysobjects")
-    RaiseServer(259, "Ad hoc updates to system catalogs are not enabled.");
+    RaiseServer(kSystemCatalog, "Ad hoc updates to system catalogs are not enabled.");
   return relation;
 }
 
@@ -77,7 +77,7 @@ Translation Translator::Insert(const ast::Statement& statement) {
     const ColumnDef& column = table.columns[ColumnNamed(table, name)];
     for (const std::string& other : names) {
       if (vb::EqualNoCase(other, name))
-        RaiseServer(264, "Column name '" + name + "' appears more than once in the result column list.");
+        RaiseServer(kColumnSetTwice, "Column name '" + name + "' appears more than once in the result column list.");
     }
     names.push_back(column.name);
     types.push_back(column.type);
@@ -91,7 +91,7 @@ Translation Translator::Insert(const ast::Statement& statement) {
   for (std::size_t r = 0; r < statement.rows.size(); ++r) {
     const auto& row = statement.rows[r];
     if (row.size() != types.size()) {
-      RaiseServer(row.size() < types.size() ? 109 : 110,
+      RaiseServer(row.size() < types.size() ? kMoreColumnsThanValues : kFewerColumnsThanValues,
                   "There are " + std::string(row.size() < types.size() ? "more" : "fewer") +
                       " columns in the INSERT statement than values specified in the VALUES clause.");
     }
@@ -145,14 +145,15 @@ Translation Translator::View(const ast::Statement& statement) {
   const std::string query = QueryText(*statement.query, nullptr, columns);
   if (!statement.columns.empty()) {
     if (statement.columns.size() != columns.size()) {
-      RaiseServer(8158, "'" + statement.name + "' has more or fewer columns than were specified in the column list.");
+      RaiseServer(kViewColumnCount, "'" + statement.name + "' has more or fewer columns than were specified in the column list.");
     }
     for (std::size_t i = 0; i < columns.size(); ++i) columns[i].name = statement.columns[i];
   }
   std::vector<std::string> names;
   for (const ResultColumn& column : columns) {
     if (column.name.empty())
-      RaiseServer(4511, "Create View failed because no column name was specified for a column of '" + statement.name + "'.");
+      RaiseServer(kViewColumnWithoutName,
+                  "Create View failed because no column name was specified for a column of '" + statement.name + "'.");
     names.push_back(column.name);
   }
   Translation translation = Finish("CREATE VIEW " + Quoted(statement.name) + " " + ColumnList(names) + " AS " + query);

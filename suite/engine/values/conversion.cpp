@@ -39,7 +39,8 @@ std::int64_t CheckedWhole(std::int64_t value, const Type& to, int error = 8115) 
   }
   if (value < least || value > most) {
     if (error == 248)
-      RaiseServer(248, "The conversion of the varchar value '" + std::to_string(value) + "' overflowed an int column.");
+      RaiseServer(kTextOverflowsInt,
+                  "The conversion of the varchar value '" + std::to_string(value) + "' overflowed an int column.");
     RaiseOverflow(TypeName(to));
   }
   return value;
@@ -54,13 +55,14 @@ std::int64_t TextToWhole(std::string_view text, const Type& to) {
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (end != digits.data() + digits.size() || digits.empty()) RaiseConversion(text, TypeName(to));
   if (error == std::errc::result_out_of_range) {
-    RaiseServer(248, "The conversion of the varchar value '" + std::string(text) + "' overflowed an int column.");
+    RaiseServer(kTextOverflowsInt, "The conversion of the varchar value '" + std::string(text) + "' overflowed an int column.");
   }
   return CheckedWhole(value, to, 248);
 }
 
 [[noreturn]] void RaiseNumberConversion(const Type& to) {
-  RaiseServer(8114, "Error converting data type varchar to " + std::string(to.kind == Kind::Float ? "float" : "numeric") + ".");
+  RaiseServer(kInvalidNumberConversion,
+              "Error converting data type varchar to " + std::string(to.kind == Kind::Float ? "float" : "numeric") + ".");
 }
 
 double TextToDouble(std::string_view text, const Type& to) {

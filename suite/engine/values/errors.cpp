@@ -14,37 +14,37 @@ long HResult(unsigned code) {
 /// The HRESULT under which the classic provider reports a native error.
 long NumberOf(int native) {
   switch (native) {
-    case 208:
-    case 2812:
+    case kInvalidObject:
+    case kUnknownProcedure:
       return HResult(0x80040E37);
-    case 241:
-    case 242:
-    case 245:
-    case 8114:
+    case kInvalidDate:
+    case kDateOutOfRange:
+    case kInvalidConversion:
+    case kInvalidNumberConversion:
       return HResult(0x80040E07);
-    case 248:
-    case 8115:
-    case 8152:
+    case kTextOverflowsInt:
+    case kOverflow:
+    case kTruncation:
       return HResult(0x80040E57);
-    case 515:
-    case 2601:
-    case 2627:
+    case kNullNotAllowed:
+    case kDuplicateIndexKey:
+    case kDuplicateKey:
       return HResult(0x80040E2F);
-    case 1222:
+    case kLockTimeout:
       return HResult(0x80040E31);
-    case 3902:
-    case 3903:
+    case kNothingToCommit:
+    case kNothingToRollBack:
       return HResult(0x8004D00E);
-    case 3904:
+    case kTransactionOpen:
       return HResult(0x8004D013);
-    case 229:
-    case 262:
+    case kPermissionDenied:
+    case kMayNotCreate:
       return HResult(0x80040E09);
-    case 16947:
+    case kRowNotFound:
       return HResult(0x80040E38);
-    case 823:
+    case kStoreFailure:
     case kDeadlockVictim:
-    case 10054:  // the connection is broken
+    case kConnectionReset:
       return HResult(kUnspecified);
     default:
       return HResult(0x80040E14);
@@ -92,15 +92,16 @@ std::string Subject(std::string_view message) {
   const std::string column = dot == std::string::npos ? std::string() : subject.substr(dot + 1);
   switch (code) {
     case SQLITE_CONSTRAINT_NOTNULL:
-      RaiseServer(515, "Cannot insert the value NULL into column '" + column + "', table '" + table +
-                           "'; column does not allow nulls. The statement fails.");
+      RaiseServer(kNullNotAllowed, "Cannot insert the value NULL into column '" + column + "', table '" + table +
+                                       "'; column does not allow nulls. The statement fails.");
     case SQLITE_CONSTRAINT_PRIMARYKEY:
-      RaiseServer(2627, "Violation of PRIMARY KEY constraint 'PK_" + table + "'. Cannot insert duplicate key in object '" +
-                            table + "' (" + subject + ").");
+      RaiseServer(kDuplicateKey, "Violation of PRIMARY KEY constraint 'PK_" + table +
+                                     "'. Cannot insert duplicate key in object '" + table + "' (" + subject + ").");
     case SQLITE_CONSTRAINT_UNIQUE:
-      RaiseServer(2601, "Cannot insert duplicate key row in object '" + table + "' with a unique index (" + subject + ").");
+      RaiseServer(kDuplicateIndexKey,
+                  "Cannot insert duplicate key row in object '" + table + "' with a unique index (" + subject + ").");
     default:
-      RaiseServer(547, "The statement conflicted with a constraint: " + message);
+      RaiseServer(kConstraintConflict, "The statement conflicted with a constraint: " + message);
   }
 }
 
@@ -116,22 +117,22 @@ std::string ServerError::SqlState() const {
   switch (native_) {
     case 0:
       return {};
-    case 207:
+    case kInvalidColumn:
       return "42S22";
-    case 208:
+    case kInvalidObject:
       return "42S02";
-    case 515:
-    case 547:
-    case 2601:
-    case 2627:
+    case kNullNotAllowed:
+    case kConstraintConflict:
+    case kDuplicateIndexKey:
+    case kDuplicateKey:
       return "23000";
     case kDeadlockVictim:
       return "40001";
-    case 1222:
+    case kLockTimeout:
       return "HYT00";
-    case 8152:
+    case kTruncation:
       return "22001";
-    case 10054:
+    case kConnectionReset:
       return "08S01";
     default:
       return "42000";
@@ -162,32 +163,32 @@ void RaiseFromStore(sqlite3* store, int code) {
       RaiseConstraint(extended, message);
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-      RaiseServer(1222, "Lock request time out period exceeded: " + message);
+      RaiseServer(kLockTimeout, "Lock request time out period exceeded: " + message);
     case SQLITE_INTERRUPT:
-      RaiseServer(1222, "Timeout expired");
+      RaiseServer(kLockTimeout, "Timeout expired");
     case SQLITE_ERROR:
       if (message == "integer overflow") RaiseOverflow("numeric");
-      RaiseServer(8180, "The statement could not be prepared: " + message);
+      RaiseServer(kNotPrepared, "The statement could not be prepared: " + message);
     default:
-      RaiseServer(823, "The database file cannot be read or written: " + message);
+      RaiseServer(kStoreFailure, "The database file cannot be read or written: " + message);
   }
 }
 
 void RaiseConversion(std::string_view value, std::string_view type) {
-  RaiseServer(245, "Syntax error converting the varchar value '" + std::string(value) + "' to a column of data type " +
-                       std::string(type) + ".");
+  RaiseServer(kInvalidConversion, "Syntax error converting the varchar value '" + std::string(value) +
+                                      "' to a column of data type " + std::string(type) + ".");
 }
 
 void RaiseDateConversion() {
-  RaiseServer(241, "Syntax error converting datetime from character string.");
+  RaiseServer(kInvalidDate, "Syntax error converting datetime from character string.");
 }
 
 void RaiseOverflow(std::string_view type) {
-  RaiseServer(8115, "Arithmetic overflow error converting expression to data type " + std::string(type) + ".");
+  RaiseServer(kOverflow, "Arithmetic overflow error converting expression to data type " + std::string(type) + ".");
 }
 
 void RaiseTruncation() {
-  RaiseServer(8152, "String or binary data would be truncated.");
+  RaiseServer(kTruncation, "String or binary data would be truncated.");
 }
 
 }  // namespace suite

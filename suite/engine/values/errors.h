@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/vb/error.h"
+#include "suite/engine/values/server_error_number.h"
 
 struct sqlite3;
 
@@ -40,9 +41,6 @@ class ServerError : public vb::RunTimeError {
 inline constexpr unsigned kUnspecified = 0x80004005;
 inline constexpr unsigned kRowsNotReleased = 0x80040E25;
 inline constexpr unsigned kCatastrophic = 0x8000FFFF;
-
-inline constexpr int kDeadlockVictim = 1205;
-inline constexpr int kEndedInTrigger = 3609;
 
 // Errors that arise in several places.
 [[noreturn]] void RaiseConversion(std::string_view value, std::string_view type);  // 245

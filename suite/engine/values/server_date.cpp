@@ -105,7 +105,8 @@ void ReadTime(Reader& reader, Parts& parts) {
 }
 
 [[noreturn]] void RaiseOutOfRange() {
-  RaiseServer(242, "The conversion of a char data type to a datetime data type resulted in an out-of-range datetime value.");
+  RaiseServer(kDateOutOfRange,
+              "The conversion of a char data type to a datetime data type resulted in an out-of-range datetime value.");
 }
 
 std::string Print(const char* format, int a, int b, int c) {
@@ -198,7 +199,7 @@ std::string ServerDateText(std::int64_t milliseconds, int style) {
     case 126:
       return Print("%04d-%02d-%02dT", p.year, p.month, p.day) + time + Print(".%03d", static_cast<int>(inSecond), 0, 0);
     default:
-      RaiseServer(281,
+      RaiseServer(kInvalidDateStyle,
                   std::to_string(style) + " is not a valid style number when converting from datetime to a character string.");
   }
 }
