@@ -1,43 +1,52 @@
 #include "src/entry/session.h"
 
-#include <functional>
-#include <utility>
-
 #include "base/vb/text.h"
 
 namespace goods {
 
+namespace {
+
+struct GlobalEntry {
+  std::string_view name;
+  late::Value (*read)(const basGoodsRequest& session);
+};
+
+using Session = const basGoodsRequest&;
+
+constexpr GlobalEntry kGlobals[] = {
+    {"gAdoCon", [](Session session) { return late::Value(session.gAdoCon.Object()); }},
+    {"gIntCompanyID", [](Session session) { return late::Value(session.gIntCompanyID); }},
+    {"gIntUserID", [](Session session) { return late::Value(session.gIntUserID); }},
+    {"gIntShopID", [](Session session) { return late::Value(session.gIntShopID); }},
+    {"gStrMsgboxCaption", [](Session session) { return late::Value(session.gStrMsgboxCaption); }},
+    {"gDtProcessDate", [](Session session) { return late::Value(session.gDtProcessDate); }},
+    {"gLngInterfaceID", [](Session session) { return late::Value(session.gLngInterfaceID); }},
+    {"gStrUserName", [](Session session) { return late::Value(session.gStrUserName); }},
+    {"gDtFromDate", [](Session session) { return late::Value(session.gDtFromDate); }},
+    {"gBlnIntegerQuantity", [](Session session) { return late::Value(session.gBlnIntegerQuantity); }},
+    {"gBlnRequestForNonShopItem", [](Session session) { return late::Value(session.gBlnRequestForNonShopItem); }},
+    {"gBlnPreserveItemDetails", [](Session session) { return late::Value(session.gBlnPreserveItemDetails); }},
+    {"gStrStockView", [](Session session) { return late::Value(session.gStrStockView); }},
+    {"gStrUserRights", [](Session session) { return late::Value(session.gStrUserRights); }},
+    {"gObjFormColor", [](Session session) { return late::Value(session.gObjFormColor); }},
+    {"gObjUserAuditing", [](Session session) { return late::Value(session.gObjUserAuditing); }},
+    {"gStrEntryMode", [](Session session) { return late::Value(session.gStrEntryMode); }},
+    {"gLngRequestID", [](Session session) { return late::Value(session.gLngRequestID); }},
+    {"gStrCancelReason", [](Session session) { return late::Value(session.gStrCancelReason); }},
+    {"gStrDetailMode", [](Session session) { return late::Value(session.gStrDetailMode); }},
+    {"gStrFetchMode", [](Session session) { return late::Value(session.gStrFetchMode); }},
+    {"gRsFetchItems", [](Session session) { return late::Value(session.gRsFetchItems.Object()); }},
+    {"gStrItemTypeFilter", [](Session session) { return late::Value(session.gStrItemTypeFilter); }},
+    {"gBlnAliasEnabled", [](Session session) { return late::Value(session.gBlnAliasEnabled); }},
+    {"gStrGodownAlias", [](Session session) { return late::Value(session.gStrGodownAlias); }},
+    {"gStrShopAlias", [](Session session) { return late::Value(session.gStrShopAlias); }},
+};
+
+}  // namespace
+
 late::Value basGoodsRequest::Global(std::string_view name) const {
-  const std::pair<std::string_view, std::function<late::Value()>> globals[] = {
-      {"gAdoCon", [&] { return late::Value(gAdoCon.Object()); }},
-      {"gIntCompanyID", [&] { return late::Value(gIntCompanyID); }},
-      {"gIntUserID", [&] { return late::Value(gIntUserID); }},
-      {"gIntShopID", [&] { return late::Value(gIntShopID); }},
-      {"gStrMsgboxCaption", [&] { return late::Value(gStrMsgboxCaption); }},
-      {"gDtProcessDate", [&] { return late::Value(gDtProcessDate); }},
-      {"gLngInterfaceID", [&] { return late::Value(gLngInterfaceID); }},
-      {"gStrUserName", [&] { return late::Value(gStrUserName); }},
-      {"gDtFromDate", [&] { return late::Value(gDtFromDate); }},
-      {"gBlnIntegerQuantity", [&] { return late::Value(gBlnIntegerQuantity); }},
-      {"gBlnRequestForNonShopItem", [&] { return late::Value(gBlnRequestForNonShopItem); }},
-      {"gBlnPreserveItemDetails", [&] { return late::Value(gBlnPreserveItemDetails); }},
-      {"gStrStockView", [&] { return late::Value(gStrStockView); }},
-      {"gStrUserRights", [&] { return late::Value(gStrUserRights); }},
-      {"gObjFormColor", [&] { return late::Value(gObjFormColor); }},
-      {"gObjUserAuditing", [&] { return late::Value(gObjUserAuditing); }},
-      {"gStrEntryMode", [&] { return late::Value(gStrEntryMode); }},
-      {"gLngRequestID", [&] { return late::Value(gLngRequestID); }},
-      {"gStrCancelReason", [&] { return late::Value(gStrCancelReason); }},
-      {"gStrDetailMode", [&] { return late::Value(gStrDetailMode); }},
-      {"gStrFetchMode", [&] { return late::Value(gStrFetchMode); }},
-      {"gRsFetchItems", [&] { return late::Value(gRsFetchItems.Object()); }},
-      {"gStrItemTypeFilter", [&] { return late::Value(gStrItemTypeFilter); }},
-      {"gBlnAliasEnabled", [&] { return late::Value(gBlnAliasEnabled); }},
-      {"gStrGodownAlias", [&] { return late::Value(gStrGodownAlias); }},
-      {"gStrShopAlias", [&] { return late::Value(gStrShopAlias); }},
-  };
-  for (const auto& [global, read] : globals) {
-    if (vb::EqualNoCase(global, name)) return read();
+  for (const GlobalEntry& global : kGlobals) {
+    if (vb::EqualNoCase(global.name, name)) return global.read(*this);
   }
   return late::Missing{};
 }
