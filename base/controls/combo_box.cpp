@@ -147,6 +147,11 @@ void ComboBox::SetSelLength(int length) {
   Changed(Aspect::Selection);
 }
 
+void ComboBox::SelectAll() {
+  SetSelStart(0);
+  SetSelLength(Length(text_));
+}
+
 void ComboBox::Pick(int index) {
   EntryAt(index);
   Select(index);

@@ -41,6 +41,7 @@ class ComboBox : public Control {
   int SelLength() const;
   void SetSelStart(int start);
   void SetSelLength(int length);
+  void SelectAll();
 
   /// What a person does: picks an entry (fires Click also for the current one), or edits the text of a DropDown.
   void Pick(int index);

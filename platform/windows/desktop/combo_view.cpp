@@ -35,6 +35,7 @@ void ComboView::ShowEntries() {
 }
 
 void ComboView::ShowText() {
+  if (pasting_) return;
   updating_ = true;
   SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(combo_.ListIndex()), 0);
   if (combo_.Style() == ComboStyle::DropDown) {
@@ -110,7 +111,13 @@ bool ComboView::Cut() {
 bool ComboView::Paste() {
   if (combo_.Style() != ComboStyle::DropDown) return false;
   Pull();
+  const auto keep = combo_.Owner().weak_from_this().lock();
+  const controls::ComboBox& combo = combo_;
+  pasting_ = true;  // shown once it is all there
   combo_.Paste(ClipboardText(Handle()));
+  if (!combo.Owner().IsShown()) return true;  // this view is gone with its form
+  pasting_ = false;
+  ShowText();
   return true;
 }
 

@@ -29,6 +29,7 @@ class ComboView : public ControlView {
 
   controls::ComboBox& combo_;
   bool updating_ = false;
+  bool pasting_ = false;
 };
 
 }  // namespace windows

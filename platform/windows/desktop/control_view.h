@@ -51,6 +51,8 @@ class ControlView {
     return model_.ToolTipText();
   }
   virtual void MouseMoved(POINT point);
+  /// The model has handled a key that came down here: what it reached comes into view.
+  virtual void FollowKey(int keyCode) { (void)keyCode; }
 
  protected:
   HWND CreateChild(HWND parent, int id, const wchar_t* windowClass, const std::string& text, DWORD style,

@@ -1,6 +1,5 @@
 // How key messages of a form's windows become the model's keys.
 
-#include "base/controls/keyboard.h"
 #include "platform/windows/desktop/form_window.h"
 #include "platform/windows/desktop/windows_desktop.h"
 
@@ -15,6 +14,11 @@ bool IsDown(int key) {
 
 int ShiftState() {
   return (IsDown(VK_SHIFT) ? kShift : 0) | (IsDown(VK_CONTROL) ? kCtrl : 0) | (IsDown(VK_MENU) ? kAlt : 0);
+}
+
+/// F10 comes as a system key though Alt is not held: by itself it would open the window's menu.
+bool IsPlainF10(const MSG& message, int shift) {
+  return message.wParam == VK_F10 && shift == 0;
 }
 
 /// The character, or the half of one, that a key-down gives, taken out of the queue; 0 for keys without one.
@@ -88,9 +92,10 @@ bool FormWindow::HandleKey(const MSG& message) {
   key.shift = ShiftState();
   switch (message.message) {
     case WM_SYSKEYDOWN: {
-      // Alt with a letter or digit is an access key; the rest of the system keys (Alt+F4, Alt+blank) stay the system's.
+      // Alt with a letter or digit is an access key, and F10 alone is the form's; the rest of the system keys (Alt+F4, Alt+blank,
+      // Shift+F10) stay the system's.
       const bool access = (message.wParam >= 'A' && message.wParam <= 'Z') || (message.wParam >= '0' && message.wParam <= '9');
-      if (!access || (key.shift & kAlt) == 0) return false;
+      if (!(access && (key.shift & kAlt) != 0) && !IsPlainF10(message, key.shift)) return false;
       key.keyCode = static_cast<int>(message.wParam);
       break;
     }
@@ -117,11 +122,21 @@ bool FormWindow::HandleKey(const MSG& message) {
         SendMessageW(message.hwnd, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(message.hwnd), -1);
       }
       return true;
+    case WM_SYSKEYUP:
+      return IsPlainF10(message, key.shift);
     default:
       return false;
   }
-  PressKey(form_, key);
+  PressKeyAndFollow(key);
   return true;
+}
+
+void FormWindow::PressKeyAndFollow(const KeyStroke& key) {
+  const std::weak_ptr<late::Object> form = form_.weak_from_this();
+  const Control* pressedOn = form_.ActiveControl();
+  PressKey(form_, key);
+  if (form.expired() || !form_.IsShown() || form_.ActiveControl() != pressedOn) return;
+  if (ControlView* view = ViewOf(pressedOn)) view->FollowKey(key.keyCode);
 }
 
 }  // namespace windows

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/controls/form.h"
+#include "base/controls/keyboard.h"
 #include "platform/windows/desktop/control_view.h"
 #include "platform/windows/desktop/metrics.h"
 
@@ -88,6 +89,7 @@ class FormWindow {
   char32_t Whole(char32_t unit);
   bool RunClipboardKey(ControlView& view, WPARAM key, bool control, bool shift);
   void RunNatively(ControlView& view, const MSG& message);
+  void PressKeyAndFollow(const controls::KeyStroke& key);
   HBRUSH BrushFor(controls::Color color);
 
   WindowsDesktop& desktop_;

@@ -63,6 +63,23 @@ void GridView::ScrollToTop(long item) {
   SendMessageW(Handle(), LVM_SCROLL, 0, (item - top) * (row.bottom - row.top));
 }
 
+void GridView::ScrollToColumn(long column) {
+  const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
+  RECT place{};
+  if (!SendMessageW(header, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&place))) return;
+  MapWindowPoints(header, Handle(), reinterpret_cast<POINT*>(&place), 2);
+  RECT inside{};
+  GetClientRect(Handle(), &inside);
+  // Of a column wider than the window the left end is shown.
+  const LONG right = std::min(place.right - inside.right, place.left);
+  const LONG by = place.left < 0 ? place.left : std::max(0L, right);
+  if (by != 0) SendMessageW(Handle(), LVM_SCROLL, static_cast<WPARAM>(by), 0);
+}
+
+void GridView::FollowKey(int keyCode) {
+  if (keyCode == VK_LEFT || keyCode == VK_RIGHT || keyCode == VK_HOME || keyCode == VK_END) ScrollToColumn(grid_.ColSel());
+}
+
 void GridView::ShowCurrentRow() {
   updating_ = true;
   LVITEMW state{};

@@ -16,6 +16,7 @@ class GridView : public ControlView {
   void Update(controls::Aspect aspect) override;
   std::optional<LRESULT> OnNotify(NMHDR& header) override;
   void MouseMoved(POINT point) override;
+  void FollowKey(int keyCode) override;
   std::string ToolTipAt(POINT point) const override;
 
  protected:
@@ -29,6 +30,7 @@ class GridView : public ControlView {
   void ShowRows();
   void ShowCurrentRow();
   void ScrollToTop(long item);
+  void ScrollToColumn(long column);
   void ShowSelection(bool isMoved);
   void RedrawSelected();
   LRESULT Paint(NMLVCUSTOMDRAW& draw) const;

@@ -27,6 +27,7 @@ void TextView::Create(HWND parent, int id) {
 void TextView::Update(controls::Aspect aspect) {
   ControlView::Update(aspect);
   if (aspect != controls::Aspect::Text && aspect != controls::Aspect::Selection && aspect != controls::Aspect::Layout) return;
+  if (pasting_) return;
   updating_ = true;
   const std::string& text = box_.Text();
   const std::wstring wide = Wide(text);
@@ -86,7 +87,14 @@ bool TextView::Cut() {
 
 bool TextView::Paste() {
   Pull();
+  // Shown once it is all there: character by character, a long text would keep everybody waiting.
+  const auto keep = box_.Owner().weak_from_this().lock();
+  const controls::TextBox& box = box_;
+  pasting_ = true;
   box_.Paste(ClipboardText(Handle()));
+  if (!box.Owner().IsShown()) return true;  // this view is gone with its form
+  pasting_ = false;
+  Update(controls::Aspect::Text);
   return true;
 }
 
@@ -96,11 +104,17 @@ bool TextView::SelectAll() {
 }
 
 std::optional<LRESULT> TextView::Intercept(UINT message, WPARAM, LPARAM) {
-  // The box's own menu pastes and cuts, too.
+  // The box's own menu pastes, cuts and undoes, too.
   switch (message) {
     case WM_PASTE:
       Paste();
       return 0;
+    case WM_UNDO:
+    case EM_UNDO:
+      box_.Undo();
+      return TRUE;
+    case EM_CANUNDO:
+      return box_.CanUndo();
     case WM_CUT:
       Cut();
       return 0;

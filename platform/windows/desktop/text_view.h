@@ -26,6 +26,7 @@ class TextView : public ControlView {
  private:
   controls::TextBox& box_;
   bool updating_ = false;
+  bool pasting_ = false;
 };
 
 /// The clipboard's text, empty when it holds none.

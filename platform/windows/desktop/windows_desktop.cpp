@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/controls/combo_box.h"
 #include "base/controls/form.h"
 #include "base/controls/menu.h"
+#include "base/controls/text_box.h"
 #include "platform/windows/desktop/form_window.h"
 #include "platform/windows/wide_text.h"
 
@@ -132,6 +134,7 @@ void WindowsDesktop::RaisePending() {
 }
 
 void WindowsDesktop::Dispatch(MSG& message) {
+  hasBeeped_ = false;
   const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
   if (isKey && ActiveForm() != nullptr) {
     FormWindow* top = WindowOf(*ActiveForm());
@@ -170,6 +173,16 @@ bool WindowsDesktop::IsHighContrast() const {
   contrast.cbSize = sizeof(contrast);
   return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) &&
          (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+void WindowsDesktop::Beep() {
+  if (!std::exchange(hasBeeped_, true)) MessageBeep(MB_OK);
+}
+
+long WindowsDesktop::RowsShown(const controls::Control& list) const {
+  const HWND window = HandleOf(list);
+  const long rows = window != nullptr ? static_cast<long>(SendMessageW(window, LVM_GETCOUNTPERPAGE, 0, 0)) : 0;
+  return rows > 0 ? rows : Desktop::RowsShown(list);
 }
 
 void WindowsDesktop::DoEvents() {
@@ -223,6 +236,12 @@ void WindowsDesktop::FormChanged(controls::Form& form) {
 
 void WindowsDesktop::FocusMoved(controls::Form& form, controls::Control* control) {
   if (FormWindow* window = WindowOf(form)) window->FocusMoved(control);
+}
+
+// What is typed next takes the place of the text, as everywhere in the system.
+void WindowsDesktop::EnteredByKey(controls::Control& control) {
+  if (auto* box = dynamic_cast<controls::TextBox*>(&control); box != nullptr && !box->MultiLine()) box->SelectAll();
+  if (auto* combo = dynamic_cast<controls::ComboBox*>(&control)) combo->SelectAll();
 }
 
 void WindowsDesktop::PointerChanged(controls::Form&, bool hourglass) {

@@ -23,10 +23,14 @@ class WindowsDesktop : public controls::Desktop {
   controls::Menu* PopupMenu(controls::Form& form, controls::Menu& menu) override;
   void DoEvents() override;
   bool IsHighContrast() const override;
+  /// Once a message: a pasted text that is refused throughout sounds it once.
+  void Beep() override;
+  long RowsShown(const controls::Control& list) const override;
 
   void Changed(controls::Control& control, controls::Aspect aspect) override;
   void FormChanged(controls::Form& form) override;
   void FocusMoved(controls::Form& form, controls::Control* control) override;
+  void EnteredByKey(controls::Control& control) override;
   void PointerChanged(controls::Form& form, bool hourglass) override;
 
   /// The window of a form, or of a control of one; null while it is not on the screen.
@@ -66,6 +70,7 @@ class WindowsDesktop : public controls::Desktop {
   std::vector<Showing> leaving_;  // closed inside one of their own window procedures, which must end first
   int depth_ = 0;                 // window procedures under way
   int hourglasses_ = 0;
+  bool hasBeeped_ = false;  // since the last message
   std::exception_ptr pending_;
 };
 
