@@ -295,6 +295,7 @@ void FormWindow::FocusMoved(controls::Control* control) {
 
 void FormWindow::FocusArrived(ControlView& view) {
   if (movingFocus_ || &view.Model() == form_.ActiveControl()) return;
+  view.Pull();  // the click that brings the focus has set the caret already
   if (!form_.MoveFocus(&view.Model())) PostMessageW(handle_, kReturnFocus, 0, 0);
 }
 
