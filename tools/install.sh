@@ -9,7 +9,7 @@ for part in "$@"; do
     native) packages+=(g++ cmake ninja-build libsqlite3-dev) ;;
     tests) packages+=(libgtest-dev googletest) ;;
     windows) packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev
-                        xvfb xauth imagemagick xdotool fonts-wine npm googletest) ;;
+                        xvfb xauth imagemagick xdotool fonts-wine npm googletest debootstrap) ;;
     *) echo "install.sh: no such part: $part" >&2; exit 2 ;;
   esac
 done

@@ -121,7 +121,7 @@ TEST_F(ForeignObject, RaisesItsErrorsWithNumberSourceAndText) {
 
 TEST_F(ForeignObject, FillsInItsErrorLate) {
   witness->answer = [](DISPPARAMS&, VARIANT*, EXCEPINFO* info) {
-    info->pfnDeferredFillIn = [](EXCEPINFO* later) -> HRESULT {
+    info->pfnDeferredFillIn = [](EXCEPINFO* later) STDAPICALLTYPE -> HRESULT {
       later->scode = static_cast<SCODE>(0x800A000D);
       later->bstrDescription = SysAllocString(L"later");
       return S_OK;

@@ -1,7 +1,5 @@
 #include "tests/windows/desktop/leftovers.h"
 
-#include <intrin.h>
-
 #include "platform/windows/windows_gate.h"
 
 namespace counter {
@@ -18,12 +16,16 @@ std::size_t GraphicsObjects() {
   if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return counted;
   // Wine does not count them itself, but keeps the classic table: entries of 24 bytes with the object's type, 0 for a free one,
   // at byte 14.
-  constexpr std::size_t kTableInProcessBlock = 0xF8;
+  constexpr bool kWide = sizeof(void*) == 8;
+  constexpr std::size_t kProcessBlockInThreadBlock = 12 * sizeof(void*);
+  constexpr std::size_t kTableInProcessBlock = kWide ? 0xF8 : 0x94;
   constexpr std::size_t kEntries = 0x10000;
   constexpr std::size_t kEntrySize = 24;
   constexpr std::size_t kType = 14;
-  const auto block = __readgsqword(0x60);
-  const auto* table = *reinterpret_cast<const unsigned char* const*>(block + kTableInProcessBlock);
+  const auto at = [](const void* block, std::size_t offset) {
+    return *reinterpret_cast<const unsigned char* const*>(static_cast<const unsigned char*>(block) + offset);
+  };
+  const unsigned char* table = at(at(NtCurrentTeb(), kProcessBlockInThreadBlock), kTableInProcessBlock);
   std::size_t count = 0;
   for (std::size_t entry = 0; table != nullptr && entry < kEntries; ++entry) count += table[entry * kEntrySize + kType] != 0;
   return count;
@@ -33,7 +35,7 @@ std::size_t Windows() {
   std::size_t count = 0;
   EnumThreadWindows(
       GetCurrentThreadId(),
-      [](HWND window, LPARAM data) -> BOOL {
+      [](HWND window, LPARAM data) CALLBACK -> BOOL {
         EnumChildWindows(window, CountOne, data);
         return CountOne(window, data);
       },

@@ -43,7 +43,7 @@ HWND OpenMessageBox() {
   HWND found = nullptr;
   EnumThreadWindows(
       GetCurrentThreadId(),
-      [](HWND window, LPARAM data) -> BOOL {
+      [](HWND window, LPARAM data) CALLBACK -> BOOL {
         std::array<wchar_t, 16> name{};
         GetClassNameW(window, name.data(), static_cast<int>(name.size()));
         if (std::wstring_view(name.data()) != L"#32770" || !IsWindowVisible(window)) return TRUE;

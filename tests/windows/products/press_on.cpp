@@ -35,7 +35,7 @@ std::string MessageOf(HWND box) {
   std::string text;
   EnumChildWindows(
       box,
-      [](HWND child, LPARAM data) -> BOOL {
+      [](HWND child, LPARAM data) CALLBACK -> BOOL {
         if (ClassOf(child) == "Static") *reinterpret_cast<std::string*>(data) += TextOf(child);
         return TRUE;
       },

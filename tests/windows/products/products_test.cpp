@@ -46,7 +46,7 @@ class PressingOn {
   static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) {
     EnumThreadWindows(
         GetCurrentThreadId(),
-        [](HWND window, LPARAM) -> BOOL {
+        [](HWND window, LPARAM) CALLBACK -> BOOL {
           if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
           if (IsA(window, L"#32770")) {
             ++messages;
