@@ -1,6 +1,5 @@
 // Forms over forms in real windows: owners, refusals, quitting, and what is left behind.
 
-#include <array>
 #include <gtest/gtest.h>
 
 #include "base/vb/error.h"
@@ -9,6 +8,7 @@
 #include "tests/base/controls/counter_form.h"
 #include "tests/windows/desktop/leftovers.h"
 #include "tests/windows/desktop/windows_driver.h"
+#include "tests/windows/desktop/windows_refused.h"
 
 namespace counter {
 namespace {
@@ -30,28 +30,6 @@ class ModalForms : public testing::Test {
     SetActiveWindow(window);
     return window;
   }
-};
-
-/// While it lives, no window of this class can be made on this thread.
-class WindowsRefused {
- public:
-  explicit WindowsRefused(std::wstring windowClass) : hook_(SetWindowsHookExW(WH_CBT, Refuse, nullptr, GetCurrentThreadId())) {
-    refused_ = std::move(windowClass);
-  }
-  WindowsRefused(const WindowsRefused&) = delete;
-  WindowsRefused& operator=(const WindowsRefused&) = delete;
-  ~WindowsRefused() { UnhookWindowsHookEx(hook_); }
-
- private:
-  static LRESULT CALLBACK Refuse(int code, WPARAM window, LPARAM data) {
-    std::array<wchar_t, 64> name{};
-    if (code != HCBT_CREATEWND) return CallNextHookEx(nullptr, code, window, data);
-    GetClassNameW(reinterpret_cast<HWND>(window), name.data(), static_cast<int>(name.size()));
-    return refused_ == name.data() ? 1 : 0;
-  }
-
-  static inline std::wstring refused_;
-  HHOOK hook_;
 };
 
 TEST_F(ModalForms, OnlyTheFormOnTopCanBeUsed) {
