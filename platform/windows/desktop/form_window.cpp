@@ -22,6 +22,7 @@ using controls::ControlKind;
 constexpr UINT kFlush = WM_APP + 1;
 constexpr UINT kReturnFocus = WM_APP + 2;
 constexpr int kFirstId = 100;
+constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 
 DWORD FrameStyle(const controls::Form& form) {
   const DWORD frame = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
@@ -34,6 +35,16 @@ RECT ScreenAround(HWND window) {
   screen.cbSize = sizeof(screen);
   GetMonitorInfoW(MonitorFromWindow(window, window != nullptr ? MONITOR_DEFAULTTONEAREST : MONITOR_DEFAULTTOPRIMARY), &screen);
   return screen.rcWork;
+}
+
+/// The resolution that a form is shown in on this screen.
+int DpiFor(const controls::Form& form, const RECT& screen) {
+  RECT frame{};
+  AdjustWindowRectEx(&frame, FrameStyle(form), FALSE, kExtendedStyle);
+  const SIZE room{screen.right - screen.left - (frame.right - frame.left),
+                  screen.bottom - screen.top - (frame.bottom - frame.top)};
+  // A resizable form gives way in its lists' height.
+  return FittingDpi(ScreenDpi(), room, form.Width(), form.IsResizable() ? 0 : form.Height());
 }
 
 /// Frames and tabs are drawn below what stands on them.
@@ -76,9 +87,9 @@ std::unique_ptr<ControlView> MakeView(FormWindow& window, controls::Control& mod
 }
 
 FormWindow::FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner)
-    : desktop_(desktop), form_(form), keep_(form.weak_from_this().lock()) {
+    : desktop_(desktop), form_(form), keep_(form.weak_from_this().lock()), metrics_(DpiFor(form, ScreenAround(owner))) {
   RECT frame{0, 0, metrics_.Pixels(form.Width()), metrics_.Pixels(form.Height())};
-  AdjustWindowRectEx(&frame, FrameStyle(form), FALSE, WS_EX_DLGMODALFRAME);
+  AdjustWindowRectEx(&frame, FrameStyle(form), FALSE, kExtendedStyle);
   designSize_ = {frame.right - frame.left, frame.bottom - frame.top};
   if (form.IsResizable()) {
     // On a small screen the lists are shorter, so that the buttons below them can be reached.
@@ -86,9 +97,8 @@ FormWindow::FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner
     designSize_ = {std::min(designSize_.cx, screen.right - screen.left), std::min(designSize_.cy, screen.bottom - screen.top)};
   }
   SetLastError(ERROR_SUCCESS);
-  handle_ = CreateWindowExW(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, FormClassName(&FormWindow::Procedure),
-                            Wide(form.Caption()).c_str(), FrameStyle(form), 0, 0, designSize_.cx, designSize_.cy, owner, nullptr,
-                            ThisModule(), this);
+  handle_ = CreateWindowExW(kExtendedStyle, FormClassName(&FormWindow::Procedure), Wide(form.Caption()).c_str(), FrameStyle(form),
+                            0, 0, designSize_.cx, designSize_.cy, owner, nullptr, ThisModule(), this);
   if (handle_ == nullptr) RaiseNoWindow(form.Name());
   for (const WPARAM size : {ICON_SMALL, ICON_BIG})
     SendMessageW(handle_, WM_SETICON, size, reinterpret_cast<LPARAM>(FormIcon(size)));

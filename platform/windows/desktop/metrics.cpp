@@ -1,21 +1,16 @@
 #include "platform/windows/desktop/metrics.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace windows {
 namespace {
 
-int ScreenDpi() {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
-  ReleaseDC(nullptr, screen);
-  return dpi > 0 ? dpi : 96;
-}
-
-HFONT MessageFont() {
+HFONT MessageFont(int dpi) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof(metrics);
   SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+  metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, dpi, ScreenDpi());
   return CreateFontIndirectW(&metrics.lfMessageFont);
 }
 
@@ -25,7 +20,20 @@ int Brightness(COLORREF color) {
 
 }  // namespace
 
-Metrics::Metrics() : dpi_(ScreenDpi()), font_(MessageFont()) {}
+int ScreenDpi() {
+  const HDC screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+  ReleaseDC(nullptr, screen);
+  return dpi > 0 ? dpi : 96;
+}
+
+int FittingDpi(int dpi, SIZE room, int width, int height) {
+  constexpr int kUsual = 96;  // 100 %
+  const auto fitting = [](LONG pixels, int twips) { return static_cast<int>(pixels * 1440 / std::max(1, twips)); };
+  return std::max(std::min({dpi, fitting(room.cx, width), fitting(room.cy, height)}), std::min(dpi, kUsual));
+}
+
+Metrics::Metrics(int dpi) : dpi_(dpi), font_(MessageFont(dpi)) {}
 
 Metrics::~Metrics() {
   DeleteObject(font_);

@@ -5,10 +5,18 @@
 
 namespace windows {
 
-/// Sizes and the font of one form's windows: twips become pixels of the screen's resolution, texts the system's message font.
+/// The screen's resolution in dots an inch, as far as it was asked for by the person: 96 is 100 %.
+int ScreenDpi();
+
+/// The resolution in which a form of this size in twips fits into the room in pixels: the one given, or less where everything was
+/// asked for larger than at 100 %, but never less than that.
+int FittingDpi(int dpi, SIZE room, int width, int height);
+
+/// Sizes and the font of one form's windows: twips become pixels of a resolution, texts the system's message font in it.
 class Metrics {
  public:
-  Metrics();
+  /// With the screen's own resolution, or a smaller one for a form that would not fit on the screen.
+  explicit Metrics(int dpi);
   ~Metrics();
   Metrics(const Metrics&) = delete;
   Metrics& operator=(const Metrics&) = delete;

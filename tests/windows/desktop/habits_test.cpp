@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/windows/desktop/control_view.h"
+#include "platform/windows/desktop/metrics.h"
 #include "platform/windows/wide_text.h"
 #include "tests/base/controls/counter_form.h"
 #include "tests/windows/desktop/windows_driver.h"
@@ -251,6 +252,24 @@ TEST_F(WindowHabits, AFormStaysOnTheScreen) {
     });
     person.Press("Alt+O");
   });
+}
+
+TEST(FormSizes, LargerTextsGiveWayWhereAFormWouldNotFitOnTheScreen) {
+  struct Case {
+    int dpi;
+    SIZE room;
+    int width, height, fits;
+  };
+  for (const Case& screen : {Case{144, {1012, 730}, 10080, 7200, 144},
+                             {144, {1012, 730}, 11400, 0, 127},
+                             {144, {1012, 730}, 9000, 8400, 125},
+                             {192, {1012, 730}, 11400, 0, 127},
+                             {192, {400, 300}, 11400, 7000, 96},
+                             {96, {400, 300}, 11400, 7000, 96},
+                             {72, {400, 300}, 11400, 7000, 72}}) {
+    const int fits = windows::FittingDpi(screen.dpi, screen.room, screen.width, screen.height);
+    EXPECT_EQ(fits, screen.fits) << screen.width << " by " << screen.height << " at " << screen.dpi;
+  }
 }
 
 }  // namespace
