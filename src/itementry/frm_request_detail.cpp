@@ -71,9 +71,7 @@ void frmRequestDetail::Form_Activate() {
     if (Session().gStrDetailMode != "E") {
       cboItem.SetListIndex(cboItem.ListCount() > 0 ? 0 : -1);
     } else {
-      cmdFetch.SetEnabled(false);
-      LoadCurrentLine();
-      if (txtitemcode.Enabled() && txtitemcode.Visible()) txtitemcode.SetEnabled(false);
+      ShowLineToChange();
     }
   }
   FocusEntryField();
@@ -158,7 +156,8 @@ void frmRequestDetail::ClearEntryFields() {
 }
 
 void frmRequestDetail::cboItem_Click() {
-  if (cboItem.ListIndex() == -1) return;
+  if (cboItem.ListIndex() == -1 || restoring_) return;
+  chosenEntry_ = cboItem.ListIndex();
   const std::int32_t itemId = SelectedItemId();
   if (IsAdding()) ProposeReorderQuantity(itemId);
   if (txtavailqty.Visible()) ShowAvailableQuantity(itemId);
@@ -176,16 +175,6 @@ void frmRequestDetail::ProposeReorderQuantity(std::int32_t itemId) {
 void frmRequestDetail::ShowAvailableQuantity(std::int32_t itemId) {
   Trap("GetAvailableQuantity",
        [&] { txtavailqty.SetText(vb::NumberText(GetAvailableQuantity(Session(), objCommonDB_, std::to_string(itemId)))); });
-}
-
-void frmRequestDetail::cboItem_KeyPress(int& character) {
-  if (character != controls::kCharReturn) return;
-  objCommonGen_.SelectComboItemByName(cboItem, cboItem.Text());
-  EnterTo(cmdFetch, character);
-}
-
-void frmRequestDetail::cboItem_Validate(bool& cancel) {
-  cancel = cboItem.ListIndex() == -1 && !cboItem.Text().empty();
 }
 
 void frmRequestDetail::txtQuantity_KeyPress(int& character) {

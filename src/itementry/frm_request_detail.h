@@ -83,8 +83,6 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void cboItem_Click();
   void ProposeReorderQuantity(std::int32_t itemId);
   void ShowAvailableQuantity(std::int32_t itemId);
-  void cboItem_KeyPress(int& character);
-  void cboItem_Validate(bool& cancel);
   void txtQuantity_KeyPress(int& character);
   void txtreqcomments_KeyPress(int& character);
   bool IsAdding() const { return Session().gStrDetailMode == "N"; }
@@ -93,6 +91,10 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   double EnteredQuantity() const;
 
   // Finding the item.
+  void cboItem_KeyPress(int& character);
+  void cboItem_Validate(bool& cancel);
+  /// Selects the combo's whole text, so that what is scanned or typed next takes its place.
+  void SelectItemText();
   void txtitemcode_KeyPress(int& character);
   void cmdFetch_Click();
   void ShowFetchDialog();
@@ -100,6 +102,7 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void TakeFetchedRow();
   void TakeItem(const PickedItem& item);
   void RefuseItemCode();
+  void ForgetItem();
   ItemListMode SelectedList() const override;
   bool TakeItemCode(const PickedItem& item) override;
   void TakeStockOutItem(const PickedItem& item) override;
@@ -120,6 +123,8 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void cmdNext_Click();
   void cmdLast_Click();
   void GoToLine(int line);
+  /// Shows the selected line for change: its item is no longer looked up.
+  void ShowLineToChange();
   void EnableNavigation(bool backwards, bool forwards);
   void LoadCurrentLine();
   void RememberLoadedValues();
@@ -131,8 +136,10 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   std::shared_ptr<FrmFetch> frmFetch_;
   bool firstActivation_ = true;
   bool showAvailability_ = false;
-  bool fetching_ = false;  ///< a lookup of this form is up: its closing activates this form in mid-routine
-  std::string itemCode_;   ///< of the chosen item, for the line's item code column
+  bool fetching_ = false;   ///< a lookup of this form is up: its closing activates this form in mid-routine
+  bool restoring_ = false;  ///< an entry of the combo comes back without being chosen anew
+  int chosenEntry_ = -1;    ///< of the combo, before its text was typed over
+  std::string itemCode_;    ///< of the chosen item, for the line's item code column
 };
 
 }  // namespace goods

@@ -121,6 +121,7 @@ void frmRequestDetail::DesignTabOrder() {
 }
 
 void frmRequestDetail::WireEntryFields() {
+  On(cboItem.GotFocus, "cboItem_GotFocus", [this] { chosenEntry_ = cboItem.ListIndex(); });
   On(cboItem.Click, "cboItem_Click", &frmRequestDetail::cboItem_Click);
   On(cboItem.KeyPress, "cboItem_KeyPress", &frmRequestDetail::cboItem_KeyPress);
   On(cboItem.Validate, "cboItem_Validate", &frmRequestDetail::cboItem_Validate);

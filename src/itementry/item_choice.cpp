@@ -1,4 +1,4 @@
-// How the item of a line is found: by its code, in the item lookup, in the fetch dialog.
+// How the item of a line is found: by its code, by its name, in the item lookup, in the fetch dialog.
 
 #include "base/vb/text.h"
 #include "src/fetch/frm_fetch.h"
@@ -9,13 +9,13 @@
 namespace goods {
 namespace {
 
-/// Says for as long as it lives that a lookup is up.
-class Fetching {
+/// Sets a flag for as long as it lives.
+class FlagSet {
  public:
-  explicit Fetching(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Fetching() { flag_ = false; }
-  Fetching(const Fetching&) = delete;
-  Fetching& operator=(const Fetching&) = delete;
+  explicit FlagSet(bool& flag) : flag_(flag) { flag_ = true; }
+  ~FlagSet() { flag_ = false; }
+  FlagSet(const FlagSet&) = delete;
+  FlagSet& operator=(const FlagSet&) = delete;
 
  private:
   bool& flag_;
@@ -48,7 +48,39 @@ void frmRequestDetail::TakeItem(const PickedItem& item) {
   FocusFirstOf({&txtQuantity});
 }
 
+void frmRequestDetail::cboItem_KeyPress(int& character) {
+  if (character != controls::kCharReturn) return;
+  objCommonGen_.SelectComboItemByName(cboItem, cboItem.Text());
+  EnterTo(cmdFetch, character);
+}
+
+void frmRequestDetail::cboItem_Validate(bool& cancel) {
+  cancel = cboItem.ListIndex() == -1 && !cboItem.Text().empty();
+  if (!cancel || !IsAdding()) return;
+  // The entry from before comes back, so that the next attempt leaves. It was not chosen again: the quantity typed for it stays.
+  {
+    const FlagSet restoring(restoring_);
+    cboItem.SetListIndex(chosenEntry_ < cboItem.ListCount() ? chosenEntry_ : -1);
+  }
+  SelectItemText();
+}
+
+void frmRequestDetail::SelectItemText() {
+  cboItem.SetSelStart(0);
+  cboItem.SetSelLength(static_cast<int>(vb::Len(cboItem.Text())));
+}
+
+void frmRequestDetail::ForgetItem() {
+  cboItem.Clear();
+  itemCode_.clear();
+  txtpartcode.SetText("");
+  txtavailqty.SetText("");
+  lvwpacktype.Clear();
+}
+
 void frmRequestDetail::RefuseItemCode() {
+  // No line may take an item that the box beside it does not show.
+  ForgetItem();
   Tell("Scan valid barcode ");
   txtitemcode.SelectAll();  // the next scan takes the place of this one
   FocusFirstOf({&txtitemcode});
@@ -56,7 +88,7 @@ void frmRequestDetail::RefuseItemCode() {
 
 void frmRequestDetail::cmdFetch_Click() {
   {
-    const Fetching fetching(fetching_);
+    const FlagSet fetching(fetching_);
     FillItemList();
     Desktop().DoEvents();
   }
@@ -65,7 +97,7 @@ void frmRequestDetail::cmdFetch_Click() {
 
 void frmRequestDetail::ShowFetchDialog() {
   {
-    const Fetching fetching(fetching_);
+    const FlagSet fetching(fetching_);
     if (!frmFetch_) frmFetch_ = std::make_shared<FrmFetch>(Session(), static_cast<ItemEntryPort&>(*this));
     frmFetch_->Show(this);
     Desktop().DoEvents();
@@ -105,7 +137,8 @@ bool frmRequestDetail::TakeItemCode(const PickedItem& item) {
   txtitemcode.SetText(item.itemCode);
   const auto found = FindItemByCode(Session(), objCommonDB_, vb::Trim(item.itemCode));
   if (!found && !MayItemCodesRepeat(objCommonDB_)) {
-    RefuseItemCode();
+    // An item of the stock-out list comes as it stands, whether its code is found or not: nothing is refused.
+    if (SelectedList() != ItemListMode::StockOut) RefuseItemCode();
     return false;
   }
   // The code may be another item's barcode or shortcut, or no item's alone: the row that the user picked decides.

@@ -1,5 +1,7 @@
 // Taking the entered line over into the editor's list.
 
+#include <cmath>
+
 #include "base/vb/format.h"
 #include "base/vb/number.h"
 #include "base/vb/text.h"
@@ -7,6 +9,12 @@
 #include "src/shared/item_lookups.h"
 
 namespace goods {
+namespace {
+
+/// The first quantity that the column of a request line, decimal(18,3), does not hold.
+constexpr double kQuantityBeyondColumn = 1e15;
+
+}  // namespace
 
 void frmRequestDetail::cmdOk_Click() {
   objCommonDB_.strTableName("ashops");
@@ -28,15 +36,21 @@ bool frmRequestDetail::RefusesEntry() {
   if (cboItem.ListIndex() == -1) {
     Tell("Select an item");
     FocusFirstOf({&cboItem});
+    SelectItemText();
   } else if (EnteredQuantity() == 0) {
     Tell("Enter quantity");
     FocusFirstOf({&txtQuantity});
   } else if (Session().gBlnIntegerQuantity && vb::InStr(txtQuantity.Text(), ".") > 0) {
     Tell("Only Integer Quantity is allowed");
     FocusFirstOf({&txtQuantity});
+  } else if (std::abs(EnteredQuantity()) >= kQuantityBeyondColumn) {
+    Tell("Quantity is too large: at most 15 digits before the decimal point");
+    FocusFirstOf({&txtQuantity});
+    txtQuantity.SelectAll();
   } else if (IsDuplicateItem()) {
     Tell(cboItem.Text() + " Already Exists");
     FocusFirstOf({&cboItem});
+    SelectItemText();
   } else {
     return false;
   }

@@ -37,7 +37,13 @@ void frmRequestDetail::GoToLine(int line) {
   lines_.lngCurrentLine = line;
   lines_.lvwrequest.Select(line);
   lines_.lvwrequest.EnsureVisible(line);
+  ShowLineToChange();
+}
+
+void frmRequestDetail::ShowLineToChange() {
+  cmdFetch.SetEnabled(false);
   LoadCurrentLine();
+  if (txtitemcode.Enabled() && txtitemcode.Visible()) txtitemcode.SetEnabled(false);
 }
 
 void frmRequestDetail::EnableNavigation(bool backwards, bool forwards) {

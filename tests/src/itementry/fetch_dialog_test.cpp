@@ -59,8 +59,18 @@ TEST_F(FetchDialog, AnItemThatMayNotBeRequestedIsRefused) {
     Scan("KT1012");
     beforeOk = [&](goods::FrmFetch&) { Refused("Scan valid barcode "); };
     Pick("Dinner plate white");  // in the shop's list, not for sale
-    EXPECT_EQ(ChosenItem(), "Chef's knife 20 cm");
-    EXPECT_EQ(Packings(), "Single= Inner box= Dozen=");
+    EXPECT_EQ(form->txtitemcode.Text(), "KT1020");
+    EXPECT_EQ(ChosenItem() + Packings(), "") << "not the item from before, either";
+  });
+}
+
+TEST_F(FetchDialog, NothingIsRefusedOfAStockOutItemThatIsTaken) {
+  shop.Run("update aItem set forsales = 0 where ItemId = 8");
+  Add([&] {
+    support::Click(form->optStockoutitems);
+    Pick("Stock pot 5 l");
+    EXPECT_EQ(ChosenItem(), "Stock pot 5 l");
+    EXPECT_TRUE(form->txtQuantity.HasFocus());
   });
 }
 

@@ -98,9 +98,14 @@ TEST_F(ItemLookup, WhatNoItemHasIsRefusedAndKeptForCorrection) {
       EXPECT_EQ(form->cboItem.ListCount(), 0);
     }
     Scan("KT1001");
+    support::Enter(form->txtQuantity, "7");
     Refused("Scan valid barcode ");
     Scan("1E999");
-    EXPECT_EQ(ChosenItem(), "Frying pan 20 cm") << "a refused scan leaves the item as it was";
+    EXPECT_EQ(ChosenItem() + form->txtpartcode.Text() + Packings(), "") << "no line takes an item that the box does not show";
+    EXPECT_EQ(form->txtQuantity.Text(), "7");
+    Refused("Select an item");
+    support::Click(form->cmdOk);
+    EXPECT_EQ(LineCount(), 0);
   });
 }
 

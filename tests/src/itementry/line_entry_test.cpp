@@ -71,6 +71,56 @@ TEST_F(LineEntry, AnItemIsAddedOnlyOnce) {
   });
 }
 
+TEST_F(LineEntry, AScanIntoARefusedItemsNameHoldsNobody) {
+  GivenLine(1, "2.000");
+  Add([&] {
+    Scan("KT1001");
+    support::Enter(form->txtQuantity, "7");
+    Refused("Frying pan 20 cm Already Exists");
+    support::Click(form->cmdOk);
+    support::Type(form->cboItem, "KT1002");
+    EXPECT_EQ(form->cboItem.Text(), "KT1002") << "typed over the selected name, not into it";
+    support::Press(form->cboItem, "Tab");
+    EXPECT_TRUE(form->cboItem.HasFocus());
+    EXPECT_EQ(ChosenItem(), "Frying pan 20 cm");
+    EXPECT_EQ(form->txtQuantity.Text(), "7") << "the item came back, it was not chosen again";
+    support::Press(form->cboItem, "Tab");
+    EXPECT_TRUE(form->cmdFetch.HasFocus());
+
+    // Where nothing was chosen before, nothing comes back.
+    support::Click(form->optStockoutitems);
+    form->cboItem.SetFocus();
+    support::Type(form->cboItem, "fry");
+    support::Press(form->cboItem, "Tab");
+    EXPECT_EQ(form->cboItem.Text(), "");
+    support::Press(form->cboItem, "Tab");
+    EXPECT_TRUE(form->cmdFetch.HasFocus());
+  });
+}
+
+TEST_F(LineEntry, AQuantityThatNoRequestCanHoldIsRefused) {
+  GivenLine(2, "1.000");
+  const std::string tooLarge = "Quantity is too large: at most 15 digits before the decimal point";
+  Add([&] {
+    Scan("KT1001");
+    support::Enter(form->txtQuantity, "2100001010003210");  // a scan and the beginning of the next
+    Refused(tooLarge);
+    support::Click(form->cmdOk);
+    EXPECT_TRUE(form->txtQuantity.HasFocus());
+    EXPECT_EQ(form->txtQuantity.SelLength(), 16);
+    EXPECT_EQ(LineCount(), 1);
+    support::Type(form->txtQuantity, "999999999999999");
+    support::Click(form->cmdOk);
+    EXPECT_EQ(editor->lvwrequest.Item(2).SubItem(goods::kLineQty), "999999999999999.000");
+  });
+  Edit(1, [&] {
+    support::Enter(form->txtQuantity, "1000000000000000");
+    Refused(tooLarge);
+    support::Click(form->cmdOk);
+  });
+  EXPECT_EQ(editor->lvwrequest.Item(1).SubItem(goods::kLineQty), "1.000");
+}
+
 TEST_F(LineEntry, ARequestHasNoMoreLinesThanTheShopAllows) {
   shop.Run("update aShops set MaxRequestItemsToHQ = 2 where ShopID = 1");
   GivenLine(1, "2.000");
