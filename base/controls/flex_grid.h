@@ -63,7 +63,8 @@ class FlexGrid : public Control {
   /// Wipes text and cell formatting; keeps rows, columns, widths.
   void Clear();
 
-  /// "<Code|^Name|>Qty": aligns the columns, writes row 0, sets widths by the text's length. Grows the grid, never shrinks it.
+  /// "<Code|^Name|>Qty": aligns the columns, writes row 0, sets widths by the text, in which a blank is narrower than other
+  /// characters. Grows the grid, never shrinks it.
   void SetFormatString(std::string_view format);
   const std::string& FormatString() const { return formatString_; }
   int ColWidth(long col) const;  ///< twips; -1 asked for the default gives the default width

@@ -1,5 +1,6 @@
 // How the grid looks: headings, widths and alignments of its columns, colours of its cells.
 
+#include <algorithm>
 #include <utility>
 
 #include "base/controls/flex_grid.h"
@@ -13,9 +14,15 @@ namespace {
 
 constexpr long kBadCol = 30010;
 constexpr int kDefaultColWidth = 960;  // twips
-/// Width of a heading: so much a character, and a margin on both sides together.
+/// Width of a heading: so much a character, less a blank, and a margin on both sides together.
 constexpr int kCharacterWidth = 105;
+constexpr int kBlankWidth = 45;
 constexpr int kHeadingMargin = 120;
+
+int HeadingWidth(std::string_view text) {
+  const auto blanks = static_cast<int>(std::ranges::count(text, ' '));
+  return blanks * kBlankWidth + (static_cast<int>(vb::Len(text)) - blanks) * kCharacterWidth + kHeadingMargin;
+}
 
 void CheckColumn(const FlexGrid& grid, long col) {
   if (col < 0 || col >= grid.Cols()) vb::Raise(kBadCol, "Invalid Col value");
@@ -42,7 +49,7 @@ void FlexGrid::SetFormatString(std::string_view format) {
       text.remove_prefix(1);
     }
     // Blanks behind the mark and the text widen the column; the heading itself stands without them.
-    if (!text.empty()) column.width = static_cast<int>(vb::Len(text)) * kCharacterWidth + kHeadingMargin;
+    if (!text.empty()) column.width = HeadingWidth(text);
     SetTextMatrix(0, static_cast<long>(col), vb::Trim(text));
   }
   Changed(Aspect::Layout);

@@ -9,12 +9,14 @@
 #include "src/shared/cell_text.h"
 #include "src/shared/form_color.h"
 #include "src/shared/grid_search.h"
+#include "src/shared/heading_sort.h"
 #include "src/shared/list_views.h"
 
 namespace goods {
 namespace {
 
 constexpr int kHourglassPointer = 11;
+constexpr int kDescriptionEntry = 1;  // of the lists of columns to filter on and to search in
 
 /// The hourglass on the grid. Does not touch a grid whose form was unloaded meanwhile: that would load it again.
 class GridHourglass {
@@ -141,7 +143,6 @@ void FrmFetch::Form_Activate() {
   objCommonDB_.strTableName("lossettings");
   const late::Value preferred = objCommonDB_.fnReturnField("defaultfetch", "ShopID=" + std::to_string(Session().gIntShopID));
   if (!preferred.IsNull() && !preferred.IsEmpty()) objCommonGen_.SelectComboItemByName(cboFetch, preferred.ToText());
-  constexpr int kDescriptionEntry = 1;
   if (cboFetch.ListIndex() < 0) cboFetch.SetListIndex(kDescriptionEntry);
   txtFetch.SetFocus();
 }
@@ -187,6 +188,7 @@ bool FrmFetch::GridPopulate(std::string_view query) {
     Rows rows = ReadRows(recordset);
     recordset.Close();
 
+    flexMaster.ShowSortedBy(-1, true);
     flexMaster.SetFormatString(FilledHeadings());
     if (rows.empty()) {
       ShowEmptyGrid();
@@ -220,7 +222,7 @@ void FrmFetch::SelectAllColumns() {
 }
 
 void FrmFetch::txtFetch_KeyUp(int& keyCode, int) {
-  if (keyCode != controls::kKeyUp) return;
+  if (keyCode != controls::kKeyUp && keyCode != controls::kKeyDown) return;
   flexMaster.SetRow(flexMaster.Row());
   SelectAllColumns();
   flexMaster.SetRowSel(flexMaster.Rows() - 1);
@@ -228,7 +230,8 @@ void FrmFetch::txtFetch_KeyUp(int& keyCode, int) {
 }
 
 void FrmFetch::txtsearch_KeyUp(int&, int) {
-  if (cboSearch.ListIndex() < 0 || vb::Trim(txtsearch.Text()).empty()) return;
+  if (vb::Trim(txtsearch.Text()).empty()) return;
+  if (cboSearch.ListIndex() < 0) cboSearch.SetListIndex(kDescriptionEntry);
   SearchInGrid(flexMaster, cboSearch.ItemData(cboSearch.ListIndex()), txtsearch.Text());
 }
 
@@ -236,11 +239,46 @@ void FrmFetch::cboColNames_Click() {
   if (cboColNames.ListIndex() < 0) return;
   const controls::Hourglass hourglass(*this);
   const SortRange range = SortRangeOf(cboColNames.ItemData(cboColNames.ListIndex()));
-  flexMaster.SetRow(flexMaster.Row());  // gives a selection over several rows up, so that all of them are sorted
-  flexMaster.SetCol(range.first);
-  flexMaster.SetColSel(range.last);
-  flexMaster.Sort(optAscend.Value() ? controls::GridSort::GenericAscending : controls::GridSort::GenericDescending);
+  SortGrid(range.first, range.last);
   GoToLastRow();
+  SelectAllColumns();
+}
+
+void FrmFetch::SortGrid(long firstColumn, long lastColumn) {
+  flexMaster.SetRow(flexMaster.Row());  // gives a selection over several rows up, so that all of them are sorted
+  flexMaster.SetCol(firstColumn);
+  flexMaster.SetColSel(lastColumn);
+  flexMaster.Sort(optAscend.Value() ? controls::GridSort::GenericAscending : controls::GridSort::GenericDescending);
+  flexMaster.ShowSortedBy(-1, true);  // the list beside it says what it is sorted on
+}
+
+int FrmFetch::SortEntryOf(long column) const {
+  for (int entry = 0; entry < cboColNames.ListCount(); ++entry) {
+    const SortRange range = SortRangeOf(cboColNames.ItemData(entry));
+    if (range.first == column && range.last == column) return entry;
+  }
+  return -1;
+}
+
+void FrmFetch::flexMaster_HeadingClick(long column) {
+  const controls::Hourglass hourglass(*this);
+  const std::string current = flexMaster.TextMatrix(flexMaster.Row(), kItemId);
+  const bool ascending = SetHeadingDirection(flexMaster, column, optAscend, optDescend);
+  // The list follows the click; its choice sorts. A column that it does not name is sorted all the same.
+  cboColNames.SetListIndex(-1);
+  const int entry = SortEntryOf(column);
+  if (entry >= 0) {
+    cboColNames.SetListIndex(entry);
+  } else {
+    SortGrid(column, column);
+  }
+  flexMaster.ShowSortedBy(column, ascending);
+  for (long row = flexMaster.FixedRows(); row < flexMaster.Rows(); ++row) {
+    if (flexMaster.TextMatrix(row, kItemId) != current) continue;
+    flexMaster.SetRow(row);
+    flexMaster.SetTopRow(row);
+    break;
+  }
   SelectAllColumns();
 }
 

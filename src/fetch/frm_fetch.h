@@ -59,6 +59,10 @@ class FrmFetch : public ModuleForm {
   void txtFetch_KeyUp(int& keyCode, int shift);
   void txtsearch_KeyUp(int& keyCode, int shift);
   void cboColNames_Click();
+  void SortGrid(long firstColumn, long lastColumn);
+  /// The entry of the sort list that sorts on this column alone; -1 when there is none.
+  int SortEntryOf(long column) const;
+  void flexMaster_HeadingClick(long column);
   void flexMaster_KeyPress(int& character);
   void Confirm();
 

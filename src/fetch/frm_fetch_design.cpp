@@ -17,20 +17,20 @@ FrmFetch::FrmFetch(basGoodsRequest& session, ItemEntryPort& itemEntry) : ModuleF
 
 void FrmFetch::Design() {
   SetCaption("Fetch Item");
-  SetSize(11400, 7200);
+  SetSize(14700, 7200);  // wide enough for every column of the list
   SetResizable(true);
   SetKeyPreview(true);
   DesignFetchFrame();
   DesignBrowseFrame();
 
-  flexMaster.Move(120, 1200, 11160, 5280);
+  flexMaster.Move(120, 1200, 14460, 5280);
   flexMaster.SetAnchors(kAnchorLeft | kAnchorTop | kAnchorRight | kAnchorBottom);
   flexMaster.SetFixedCols(0);  // the first column is the hidden item id, and an empty list has no other
   CmdOk.SetCaption("&Ok");
-  CmdOk.Move(8820, 6660, 1200, 420);
+  CmdOk.Move(12120, 6660, 1200, 420);
   CmdOk.SetAnchors(kAnchorRight | kAnchorBottom);
   CmdClose.SetCaption("&Close");
-  CmdClose.Move(10080, 6660, 1200, 420);
+  CmdClose.Move(13380, 6660, 1200, 420);
   CmdClose.SetAnchors(kAnchorRight | kAnchorBottom);
   CmdClose.SetCancel(true);
 
@@ -44,15 +44,15 @@ void FrmFetch::Design() {
 
 void FrmFetch::DesignFetchFrame() {
   fraFetch.SetCaption("Fetch");
-  fraFetch.Move(120, 60, 4500, 1020);
+  fraFetch.Move(120, 60, 5400, 1020);
   lblFetch.SetContainer(&fraFetch);
   lblFetch.SetCaption("&Fetch On:");
   lblFetch.Move(120, 300, 1800, 240);
   cboFetch.SetContainer(&fraFetch);
   cboFetch.SetStyle(controls::ComboStyle::DropDownList);
-  cboFetch.Move(120, 570, 1800, 315);
+  cboFetch.Move(120, 570, 2100, 315);
   txtFetch.SetContainer(&fraFetch);
-  txtFetch.Move(2040, 570, 2340, 315);
+  txtFetch.Move(2340, 570, 2940, 315);
   txtFetch.SetToolTipText("Press Enter to list the items that contain this text");
   // A pasted apostrophe stays in the box, so that a pasted O'Brien finds O'Brien: the filter doubles it for the statement.
   // Doubled here already, it would be doubled twice.
@@ -61,26 +61,26 @@ void FrmFetch::DesignFetchFrame() {
 
 void FrmFetch::DesignBrowseFrame() {
   fraBrowse.SetCaption("Browse");
-  fraBrowse.Move(4740, 60, 6540, 1020);
+  fraBrowse.Move(5640, 60, 8940, 1020);
   lblsearch.SetContainer(&fraBrowse);
   lblsearch.SetCaption("&Search On:");
   lblsearch.Move(120, 300, 1500, 240);
   cboSearch.SetContainer(&fraBrowse);
   cboSearch.SetStyle(controls::ComboStyle::DropDownList);
-  cboSearch.Move(120, 570, 1500, 315);
+  cboSearch.Move(120, 570, 2100, 315);
   txtsearch.SetContainer(&fraBrowse);
-  txtsearch.Move(1680, 570, 1500, 315);
+  txtsearch.Move(2340, 570, 2580, 315);
   cboColNames.SetContainer(&fraBrowse);
   cboColNames.SetStyle(controls::ComboStyle::DropDownList);
   cboColNames.SetToolTipText("Sort on");
-  cboColNames.Move(3240, 570, 1920, 315);
+  cboColNames.Move(5040, 570, 2400, 315);
   optAscend.SetContainer(&fraBrowse);
   optAscend.SetCaption("Ascending");
-  optAscend.Move(5220, 300, 1260, 300);
+  optAscend.Move(7560, 300, 1260, 300);
   optAscend.SetValue(true);
   optDescend.SetContainer(&fraBrowse);
   optDescend.SetCaption("Descending");
-  optDescend.Move(5220, 600, 1260, 300);
+  optDescend.Move(7560, 600, 1260, 300);
 }
 
 void FrmFetch::WireEvents() {
@@ -105,6 +105,7 @@ void FrmFetch::WireEvents() {
   }
 
   On(flexMaster.KeyPress, "flexMaster_KeyPress", &FrmFetch::flexMaster_KeyPress);
+  On(flexMaster.HeadingClick, "flexMaster_HeadingClick", &FrmFetch::flexMaster_HeadingClick);
   On(flexMaster.DblClick, "flexMaster_DblClick", &FrmFetch::Confirm);
   On(CmdOk.Click, "CmdOk_Click", &FrmFetch::Confirm);
   On(CmdClose.Click, "CmdClose_Click", [this] { Unload(); });

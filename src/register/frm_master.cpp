@@ -31,6 +31,7 @@ void frmMaster::WireCommands() {
 void frmMaster::WireGrid() {
   On(flexMaster.RowColChange, "flexMaster_RowColChange", &frmMaster::flexMaster_RowColChange);
   On(flexMaster.SelChange, "flexMaster_SelChange", &frmMaster::flexMaster_SelChange);
+  On(flexMaster.HeadingClick, "flexMaster_HeadingClick", &frmMaster::flexMaster_HeadingClick);
   On(flexMaster.DblClick, "flexMaster_DblClick", &frmMaster::flexMaster_DblClick);
   On(flexMaster.KeyDown, "flexMaster_KeyDown", &frmMaster::flexMaster_KeyDown);
   On(flexMaster.KeyPress, "flexMaster_KeyPress", &frmMaster::flexMaster_KeyPress);

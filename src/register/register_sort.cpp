@@ -2,6 +2,7 @@
 #include "base/vb/text.h"
 #include "src/register/frm_master.h"
 #include "src/shared/grid_search.h"
+#include "src/shared/heading_sort.h"
 
 namespace goods {
 
@@ -26,6 +27,7 @@ void frmMaster::SortGrid(long column) {
   flexMaster.SetRowSel(row);  // one row alone stands for all of them
   flexMaster.SetColSel(column);
   flexMaster.Sort(optAscend.Value() ? ascending : descending);
+  flexMaster.ShowSortedBy(-1, true);  // the list below says what it is sorted on
 
   // The request that was current stays current, wherever the sort put it.
   long moved = row;
@@ -54,6 +56,17 @@ void frmMaster::GoToSearch() {
   }
   txtsearch.SetFocus();
   txtsearch.SelectAll();
+}
+
+void frmMaster::flexMaster_HeadingClick(long column) {
+  for (int entry = 0; entry < cboColNames.ListCount(); ++entry) {
+    if (cboColNames.ItemData(entry) != column) continue;
+    // The list follows the click, and its choice sorts.
+    const bool ascending = SetHeadingDirection(flexMaster, column, optAscend, optDescend);
+    cboColNames.Pick(entry);
+    flexMaster.ShowSortedBy(column, ascending);
+    return;
+  }
 }
 
 void frmMaster::txtsearch_KeyUp(int&, int) {

@@ -1,5 +1,6 @@
 #include "src/shared/grid_search.h"
 
+#include <algorithm>
 #include <cctype>
 #include <string>
 #include <vector>
@@ -110,6 +111,7 @@ void SortKeepingCurrentLine(controls::FlexGrid& grid, long column) {
   grid.SetCol(column);
   grid.SetColSel(column);
   grid.Sort(controls::GridSort::GenericAscending);
+  grid.ShowSortedBy(-1, true);  // the arrow of a heading clicked before would be wrong now
   for (long line = 1; hasCurrent && line < grid.Rows(); ++line) {
     if (!HasCells(grid, line, current)) continue;
     grid.SetRow(line);
@@ -122,7 +124,8 @@ void SortKeepingCurrentLine(controls::FlexGrid& grid, long column) {
 }  // namespace
 
 bool SearchInGrid(controls::FlexGrid& grid, long column, std::string_view typed) {
-  const std::int16_t last = vb::CInt(static_cast<double>(grid.Rows() - 1));  // rows are numbered in 16 bits
+  constexpr long kLastSearched = 32767;  // rows are numbered in 16 bits
+  const long last = std::min(grid.Rows() - 1, kLastSearched);
   SortKeepingCurrentLine(grid, column);
   const long found = FirstMatch(grid, column, TypedText(typed), last);
   if (found == kNoRow) return false;

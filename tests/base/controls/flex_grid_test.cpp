@@ -131,6 +131,9 @@ TEST_P(GridStory, TheFormatStringNamesAlignsAndWidensColumns) {
   EXPECT_EQ(Grid().ColAlignment(1), controls::GridAlignment::Center);
   EXPECT_EQ(Grid().ColAlignment(2), controls::GridAlignment::Right);
   EXPECT_GT(Grid().ColWidth(1), 2 * Grid().ColWidth(0)) << "blanks widen";
+  Grid().SetFormatString("<Code|^Codemmmmmmmmmm|>Code          ||");
+  const int code = Grid().ColWidth(0);
+  EXPECT_LT(2 * (Grid().ColWidth(2) - code), Grid().ColWidth(1) - code) << "though less than half as much as letters do";
   const int defaultWidth = Grid().ColWidth(3);
   Grid().SetColWidth(3, 0);
   EXPECT_EQ(Grid().ColWidth(3), 0);

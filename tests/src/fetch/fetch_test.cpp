@@ -255,6 +255,48 @@ TEST_F(Fetch, SortingFollowsTheListAndTheDirection) {
   });
 }
 
+TEST_F(Fetch, AHeadingSortsAndKeepsTheItemThatWasSelected) {
+  Open(ItemListMode::AllInShop, [&] {
+    controls::FlexGrid& grid = dialog->flexMaster;
+    Filter("rim");
+    support::GoToRow(grid, 1);
+    const std::string selected = grid.TextMatrix(1, FrmFetch::kItemCode);
+    const auto clicked = [&](FrmFetch::Column column) {
+      grid.ClickHeading(column);
+      EXPECT_EQ(grid.TextMatrix(grid.Row(), FrmFetch::kItemCode), selected);
+      EXPECT_EQ(grid.SortedCol(), column);
+      EXPECT_EQ(grid.SortedAscending(), dialog->optAscend.Value());
+      return Column(FrmFetch::kItemCode) + " " + dialog->cboColNames.Text();
+    };
+    EXPECT_EQ(clicked(FrmFetch::kItemDescription), "KT1026;KT1021;KT1024; ItemDescription");
+    EXPECT_EQ(clicked(FrmFetch::kItemDescription), "KT1024;KT1021;KT1026; ItemDescription");
+    EXPECT_EQ(clicked(FrmFetch::kItemCode), "KT1021;KT1024;KT1026; ItemCode");
+    EXPECT_TRUE(clicked(FrmFetch::kBrand).ends_with(" ItemCode,ItemDescription")) << "the entry that sorts on the brand";
+    EXPECT_TRUE(clicked(FrmFetch::kPartCode).ends_with(" Part_code"));
+    EXPECT_TRUE(clicked(FrmFetch::kModelNo).ends_with("; ")) << "which the list does not name";
+
+    support::Choose(dialog->cboColNames, "ItemCode");
+    EXPECT_EQ(grid.SortedCol(), -1) << "no arrow is left where the list was sorted otherwise";
+    grid.ClickHeading(FrmFetch::kItemCode);
+    Filter("rim");
+    EXPECT_EQ(grid.SortedCol(), -1);
+    grid.ClickHeading(FrmFetch::kItemCode);
+    support::Click(dialog->CmdOk);
+  });
+  EXPECT_EQ(entry.lines.size(), 2U) << "a click on a heading before OK takes the item all the same";
+}
+
+TEST_F(Fetch, EveryColumnIsInSight) {
+  Open(ItemListMode::AllInShop, [&] {
+    for (const auto* text : {"rim", "no such thing"}) {
+      int width = 0;
+      for (long column = 0; column < dialog->flexMaster.Cols(); ++column) width += dialog->flexMaster.ColWidth(column);
+      EXPECT_LT(width, dialog->flexMaster.Place().width) << "before " << text;
+      Filter(text);
+    }
+  });
+}
+
 TEST_F(Fetch, SortCodesNameRangesOfColumns) {
   Open(ItemListMode::AllInShop, [&] {
     controls::FlexGrid& grid = dialog->flexMaster;
@@ -275,8 +317,9 @@ TEST_F(Fetch, SortCodesNameRangesOfColumns) {
 TEST_F(Fetch, TypingJumpsToTheFirstRowThatBeginsSo) {
   Open(ItemListMode::AllInShop, [&] {
     Filter("frying pan");
-    support::Type(dialog->txtsearch, "KT1003");
-    EXPECT_EQ(dialog->flexMaster.Row(), RowsShown()) << "no column to search on yet";
+    support::Type(dialog->txtsearch, "frying pan 24");
+    EXPECT_EQ(dialog->cboSearch.Text(), "ItemDescription") << "where no column is chosen";
+    EXPECT_EQ(dialog->flexMaster.TextMatrix(dialog->flexMaster.Row(), FrmFetch::kItemCode), "KT1002");
     support::Choose(dialog->cboSearch, "ItemCode");
     support::Enter(dialog->txtsearch, "kt1002");
     EXPECT_EQ(dialog->flexMaster.TextMatrix(dialog->flexMaster.Row(), FrmFetch::kItemDescription), "Frying pan 24 cm");
@@ -363,6 +406,9 @@ TEST_F(Fetch, KeysLeadThroughTheDialog) {
     EXPECT_EQ(dialog->flexMaster.Row(), 2);
     EXPECT_EQ(dialog->flexMaster.RowSel(), RowsShown());
     EXPECT_EQ(dialog->flexMaster.ColSel(), FrmFetch::kPartCode);
+    support::Press(dialog->txtFetch, "Down");
+    EXPECT_TRUE(dialog->flexMaster.HasFocus());
+    EXPECT_EQ(dialog->flexMaster.Row(), 2);
     support::Press(dialog->txtsearch, "Ctrl+D");
     EXPECT_TRUE(dialog->flexMaster.HasFocus());
     for (const auto& [here, next] :
