@@ -74,6 +74,7 @@ class frmMaster : public ModuleForm {
 
   // Rights.
   void USerRights();
+  void EnableCommands(bool enabled);
   /// Whether the user has the right of that letter; the letter is trimmed and put in capitals in place. False after an error.
   bool fnUSerRights(std::string& letter);
   bool HasRight(std::string letter) { return fnUSerRights(letter); }
@@ -114,6 +115,7 @@ class frmMaster : public ModuleForm {
   void GoToSearch();
   void cboColNames_Click();
   void SortDirection_Click();
+  void flexMaster_HeadingClick(long column);
   void txtsearch_KeyUp(int& keyCode, int shift);
   void SortGrid(long column);
 

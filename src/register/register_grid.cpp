@@ -40,7 +40,11 @@ void frmMaster::Form_Activate() {
 void frmMaster::flexMaster_RowColChange() {
   if (flexMaster.Row() == evaluatedRow_) return;  // a change of column
   evaluatedRow_ = flexMaster.Row();
-  CmdDelete.SetEnabled(CurrentCell(kRegisterCancelled) != "Yes" && HasRight("D"));
+  // As on activation: Edit is left as it was on a cancelled request.
+  const bool cancelled = CurrentCell(kRegisterCancelled) == "Yes";
+  if (!cancelled) CmdEdit.SetEnabled(HasRight("E"));
+  CmdDelete.SetEnabled(!cancelled && HasRight("D"));
+  Cmdprev.SetEnabled(HasRight("P"));
   ApplySelectionColor();
 }
 

@@ -31,6 +31,7 @@ void frmMaster::Form_Load() {
   evaluatedRow_ = flexMaster.Row();
   searchAnswer_.Forget();
   session.gStrUserRights.clear();  // of whoever used the component before
+  EnableCommands(false);           // until the rights are read: after an error on the way nothing may be done
   objCommonDB_ = CommonDb(session, "ShopCommon.clscommonDB");
   session.gObjFormColor = session.services.factory.Create("Theme.clsFormcolor");
   Applyformcolor(session, *this);

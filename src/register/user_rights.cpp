@@ -23,11 +23,15 @@ void frmMaster::USerRights() {
   const bool hasRights = rows.RecordCount() > 0;
   if (hasRights) Session().gStrUserRights = rows.Field("FunctionRights").TextOrEmpty();  // null rights are empty rights
   rows.Close();
-  if (!hasRights) return;
+  if (!hasRights) return EnableCommands(true);  // nothing restricts this user until the first judgement of a request
   cmdnew.SetEnabled(HasRight("N"));
   CmdEdit.SetEnabled(HasRight("E"));
   CmdDelete.SetEnabled(HasRight("D"));
   Cmdprev.SetEnabled(HasRight("P"));
+}
+
+void frmMaster::EnableCommands(bool enabled) {
+  for (controls::CommandButton* command : {&cmdnew, &CmdEdit, &CmdDelete, &Cmdprev}) command->SetEnabled(enabled);
 }
 
 bool frmMaster::fnUSerRights(std::string& letter) {

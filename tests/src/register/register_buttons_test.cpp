@@ -45,7 +45,35 @@ TEST_F(RegisterButtons, AUserWithoutARightsRowIsUnrestrictedUntilTheFirstJudgeme
   Register().Load();
   EXPECT_EQ("NEDP", Enabled());
   Grid().SetRow(3);
-  EXPECT_EQ("NEP", Enabled());
+  EXPECT_EQ("N", Enabled());
+}
+
+TEST_F(RegisterButtons, NobodyWithoutRightsGetsToALiveRequestByWayOfACancelledOne) {
+  shop.Run("update mosGoodsRequestHeader set GRHcancel = 1 where GRHshopID = 1 and GRHrequestID = 13");
+  Open({5, 1, 1}, [&] {
+    EXPECT_EQ("NE", Enabled()) << "on a cancelled request Edit stays what it was";
+    GoTo(18);
+    EXPECT_EQ("N", Enabled());
+    GoTo(13);
+    EXPECT_EQ("N", Enabled());
+  });
+  Open({1, 1, 1}, [&] {
+    EXPECT_EQ("NEP", Enabled());
+    GoTo(18);
+    EXPECT_EQ("NEDP", Enabled());
+  });
+}
+
+TEST_F(RegisterButtons, RightsThatCannotBeReadAllowNothing) {
+  shop.Run("drop table louserrights");
+  Open([&] {
+    EXPECT_NE("", Listed());
+    EXPECT_EQ("", Enabled());
+    GoTo(18);
+    EXPECT_EQ("", Enabled());
+  });
+  ASSERT_EQ(1u, errors->lines.size());
+  EXPECT_TRUE(errors->lines[0].starts_with("frmMaster |Form_Load|")) << errors->lines[0];
 }
 
 TEST_F(RegisterButtons, ACancelledRequestCanBeLookedAtAndPrintedButNotDeleted) {

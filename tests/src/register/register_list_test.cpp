@@ -205,7 +205,7 @@ TEST_F(RegisterList, AFailureInLoadIsReportedOnceAndLeavesTheRegisterOpen) {
   shop.registry.Unregister("Audit.clsUserAuditing");
   Open([&] {
     EXPECT_EQ(2, Grid().Rows());
-    EXPECT_EQ("N", Enabled());
+    EXPECT_EQ("", Enabled());
   });
   EXPECT_EQ(std::vector<std::string>{"frmMaster |Form_Load|429|"}, errors->lines);
 }
