@@ -69,7 +69,7 @@ void Form::Load() {
 void Form::Show(Form* owner) {
   const auto& stack = desktop_.Stack();
   if (std::find(stack.begin(), stack.end(), this) != stack.end()) {
-    vb::Raise(kAlreadyShown, "Form already displayed; can't show modally");
+    vb::Raise(kAlreadyShown);
   }
   const auto keep = weak_from_this().lock();
   if (abandoned_) BecomeUnloaded();

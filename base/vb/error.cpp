@@ -36,11 +36,13 @@ constexpr std::array kTexts = {
     NumberedText{94, "Invalid use of Null"},
     NumberedText{380, "Invalid property value"},
     NumberedText{381, "Invalid property array index"},
+    NumberedText{400, "Form already displayed; can't show modally"},
     NumberedText{424, "Object required"},
     NumberedText{429, "ActiveX component can't create object"},
     NumberedText{438, "Object doesn't support this property or method"},
     NumberedText{449, "Argument not optional"},
     NumberedText{450, "Wrong number of arguments or invalid property assignment"},
+    NumberedText{458, "Variable uses an Automation type not supported"},
 };
 
 }  // namespace

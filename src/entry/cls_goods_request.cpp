@@ -7,6 +7,7 @@ using late::Arguments;
 using late::Value;
 
 constexpr std::int32_t kInterfaceId = 1503;  // this component's id in the suite
+constexpr long kAlreadyShown = 400;
 
 /// Nothing is taken too: it brings back the state in which the host has set none.
 late::ObjectPtr ObjectOrNothing(const Value& value) {
@@ -46,7 +47,14 @@ const late::ObjectPtr& clsGoodsRequest::adocon() {
   return connection_;
 }
 
+Module::Showing::Showing(Module& module) : module_(module) {
+  if (module.isShowing_) vb::Raise(kAlreadyShown);
+  module.isShowing_ = true;
+}
+
 void clsGoodsRequest::Show() {
+  // A register that is open goes on with the session it was opened for.
+  const Module::Showing showing(module_);
   basGoodsRequest& session = module_.Session();
   session.gAdoCon = ado::Connection(adocon());
   session.gIntCompanyID = intCompanyID;
@@ -55,6 +63,7 @@ void clsGoodsRequest::Show() {
   session.gStrMsgboxCaption = strMsgboxCaption;
   session.gLngInterfaceID = kInterfaceId;
   session.gDtProcessDate = dtProcessDate;
+  session.gRsFetchItems = {};  // of the shop and the connection before
   module_.Register().Show();
 }
 

@@ -24,7 +24,8 @@ class clsGoodsRequest : public late::TableObject<clsGoodsRequest> {
   vb::Date dtProcessDate;
 
   /// Hands the session values over, the last caller's win, and opens the register modally; returns when it closes. Checks
-  /// nothing: what is wrong with the connection shows in the register. Error 400 while the register is open already.
+  /// nothing: what is wrong with the connection shows in the register. Error 400 while the register is open already; its session
+  /// then stays as it is.
   void Show();
 
   static const late::MemberTable<clsGoodsRequest>& Members();

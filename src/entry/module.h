@@ -18,9 +18,22 @@ class Module {
     return *register_;
   }
 
+  /// The one showing of the register, from the moment its session values are set. Error 400 while there is one already.
+  class Showing {
+   public:
+    explicit Showing(Module& module);
+    ~Showing() { module_.isShowing_ = false; }
+    Showing(const Showing&) = delete;
+    Showing& operator=(const Showing&) = delete;
+
+   private:
+    Module& module_;
+  };
+
  private:
   basGoodsRequest session_;
   std::shared_ptr<frmMaster> register_;
+  bool isShowing_ = false;
 };
 
 }  // namespace goods

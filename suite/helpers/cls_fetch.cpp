@@ -109,8 +109,22 @@ void clsFetch::setRecordSet(Arguments& arguments) {
   }
 }
 
-bool clsFetch::CanReuseRows() {
-  return !forcedRefresh_ && preserveData_ && heldIdentifier_ == dataIdentifier_ && recordset_.IsOpen() && rows_.Count() > 0;
+bool clsFetch::HasRows() {
+  if (forcedRefresh_ || !preserveData_ || !recordset_.IsOpen()) return false;
+  if (!heldIdentifier_) TakeHandedRows();
+  return heldIdentifier_ == dataIdentifier_ && rows_.Count() > 0;
+}
+
+void clsFetch::TakeHandedRows() {
+  try {
+    const std::string source = recordset_.Object()->Get("Source").ToText();
+    if (vb::Trim(source) != vb::Trim(strQuery_) || (recordset_.Bof() && recordset_.Eof())) return;
+    recordset_.MoveFirst();
+    rows_.Read(recordset_, FieldNames());
+    heldIdentifier_ = dataIdentifier_;
+  } catch (const vb::RunTimeError&) {
+    // Rows that cannot be read once more are read from the database.
+  }
 }
 
 void clsFetch::LoadRows() {
@@ -142,7 +156,7 @@ std::vector<LookupColumn> clsFetch::Columns() {
 void clsFetch::Show() {
   cancelled_ = true;
   if (!recordset_) recordset_ = ado::Recordset::Create(surroundings_->factory);
-  if (!CanReuseRows()) LoadRows();
+  if (!HasRows()) LoadRows();
   // What the user typed and sorted last time is not remembered: every showing starts with all rows as they came.
   if (!window_) window_ = std::make_shared<frmLookup>(surroundings_->desktop);
   const std::optional<std::size_t> taken =

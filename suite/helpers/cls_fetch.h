@@ -15,8 +15,9 @@
 namespace suite {
 
 /// Stand-in of the suite's item lookup: configured member by member, shown modally. The row taken is the current record of the
-/// recordset it was handed (or made, where it was handed none). Rows are kept from one Show to the next only when PreserveData
-/// says so, for the same data identifier, and unless a refresh is forced.
+/// recordset it was handed (or made, where it was handed none). Unless a refresh is forced, and only when PreserveData says so,
+/// rows are kept from one Show to the next for the same data identifier, and an open recordset of the same query is shown as it
+/// is handed over.
 class clsFetch : public late::TableObject<clsFetch> {
  public:
   explicit clsFetch(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
@@ -27,7 +28,9 @@ class clsFetch : public late::TableObject<clsFetch> {
  private:
   void setRecordSet(late::Arguments& arguments);
   void Show();
-  bool CanReuseRows();
+  /// Whether the rows there are can be shown once more.
+  bool HasRows();
+  void TakeHandedRows();
   void LoadRows();
   /// The fields told, or else all that the query has.
   std::vector<std::string> FieldNames();

@@ -85,8 +85,27 @@ TEST_F(Host, TakesAnyObjectAsConnectionAndNothingBringsBackAFreshOne) {
 
 TEST_F(Host, CannotOpenTheRegisterTwiceAtOnce) {
   request->PutRef("adocon", connection);
-  shop.desktop.ExpectForm("frmMaster", [&](controls::Form&) { EXPECT_THROW(request->Call("Show"), vb::RunTimeError); });
+  request->Put("intShopID", std::int32_t{1});
+  request->Put("strMsgboxCaption", "Harbour Street");
+  const late::ObjectPtr other = std::make_shared<goods::clsGoodsRequest>(shop.module);
+  other->Put("intShopID", std::int32_t{2});
+  shop.desktop.ExpectForm("frmMaster", [&](controls::Form&) {
+    for (const late::ObjectPtr& host : {request, other}) {
+      try {
+        host->Call("Show");
+        ADD_FAILURE() << "the register was opened twice";
+      } catch (const vb::RunTimeError& error) {
+        EXPECT_EQ(400, error.Number());
+      }
+    }
+    EXPECT_EQ(1, shop.session.gIntShopID) << "the register goes on for the shop that it lists";
+    EXPECT_EQ("Harbour Street", shop.session.gStrMsgboxCaption);
+    EXPECT_EQ(connection, shop.session.gAdoCon.Object());
+  });
   request->Call("Show");
+  shop.desktop.ExpectForm("frmMaster");
+  other->Call("Show");
+  EXPECT_EQ(2, shop.session.gIntShopID);
 }
 
 }  // namespace

@@ -280,6 +280,17 @@ TEST_F(SuiteLookupRows, AnItemIsOutOfStockByTheSumOfItsStockRows) {
   });
 }
 
+TEST_F(SuiteLookupRows, AFormOpenedAgainInTheSameModeShowsTheListItHas) {
+  std::string listed;
+  Add([&] {
+    support::Click(form->optItemsNotInShop);
+    listed = Listed();
+  });
+  shop.log.Clear();
+  Add([&] { EXPECT_EQ(Listed(), listed); });
+  EXPECT_EQ(shop.log.Starting("select i.ItemId").size(), 0U);
+}
+
 TEST_F(SuiteLookupRows, AListThatTheServerFailsIsReadAtTheNextAttempt) {
   Add([&] {
     support::Click(form->optItemsNotInShop);

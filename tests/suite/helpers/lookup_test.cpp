@@ -182,6 +182,39 @@ TEST_F(Lookup, WhatWasTakenBeforeIsNotTakenAgainByCancellingOrByAnError) {
             1);
 }
 
+TEST_F(Lookup, AnOpenListHandedOverIsShownWithoutAskingTheDatabaseAgain) {
+  const auto statements = [&] { return shop.log.Starting("select a.itemid").size(); };
+  const auto another = [&] {
+    fetch = shop.Helper("Lookup.clsFetch");  // as a form opened again makes its own
+    fetch->Call("setFieldNames", {"ItemID,ItemCode,ItemDescription"});
+    fetch->Put("DataIdentifier", "03");
+    fetch->Put("PreserveData", true);
+    Query("a.itemid <= 6");
+  };
+  Show([](suite::frmLookup& window) { window.Unload(); });
+  another();
+  EXPECT_EQ(Show([](suite::frmLookup& window) {
+              EXPECT_EQ(window.flexMaster.Rows(), 7);
+              support::GoToRow(window.flexMaster, 4);
+              support::Press(window.flexMaster, "Enter");
+            }),
+            4);
+  EXPECT_EQ(statements(), 1u);
+
+  another();
+  fetch->Put("PreserveData", false);
+  Show([](suite::frmLookup& window) { window.Unload(); });
+  EXPECT_EQ(statements(), 2u) << "every list anew, where the shop wants it so";
+  another();
+  fetch->Put("ForcedRefresh", true);
+  Show([](suite::frmLookup& window) { window.Unload(); });
+  EXPECT_EQ(statements(), 3u);
+  another();
+  Query("a.itemid <= 5");
+  Show([](suite::frmLookup& window) { EXPECT_EQ(window.flexMaster.Rows(), 6); });
+  EXPECT_EQ(statements(), 4u) << "of another shop, say";
+}
+
 TEST_F(Lookup, KeepsItsRowsOnlyAsLongAsItIsToldTo) {
   const auto statements = [&] { return shop.log.Starting("select a.itemid").size(); };
   const auto look = [](suite::frmLookup& window) { window.Unload(); };
