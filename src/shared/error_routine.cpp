@@ -19,15 +19,26 @@ std::string UserNameForReport(basGoodsRequest& session) {
   }
 }
 
+/// The component's own message, for a shop whose error component is missing or fails.
+void TellInItsPlace(basGoodsRequest& session, std::string_view module, std::string_view routine, const vb::RunTimeError& error) {
+  std::string text = error.Description();
+  text.append("\n(").append(module).append(routine).append(", ").append(std::to_string(error.Number()));
+  if (!error.Source().empty()) text.append(", ").append(error.Source());
+  controls::Desktop& desktop = session.services.desktop;
+  const std::string& caption = session.gStrMsgboxCaption;
+  desktop.MsgBox(desktop.ActiveForm(), {text + ")", controls::kExclamation, caption.empty() ? "Error" : caption});
+}
+
 }  // namespace
 
 void ReportError(basGoodsRequest& session, std::string_view module, std::string_view routine, const vb::RunTimeError& error) {
-  // Nothing may leave an error trap; where even reporting fails there is nobody left to tell.
+  // Nothing may leave an error trap.
   try {
     const late::ObjectPtr log = session.services.factory.Create("ErrLog.ErrorDetails");
     log->Call("ErrorTrack", {module, UserNameForReport(session), routine, static_cast<std::int32_t>(error.Number()),
                              error.Source(), error.Description(), session.gStrEntryMode, true});
   } catch (const vb::RunTimeError&) {
+    TellInItsPlace(session, module, routine, error);
   }
 }
 

@@ -24,11 +24,7 @@ const late::MemberTable<ErrorDetails>& ErrorDetails::Members() {
   static const late::MemberTable<ErrorDetails> table{
       {"ErrorTrack",
        [](ErrorDetails& self, Arguments& arguments) {
-         // A full disk must not hide the error itself.
-         try {
-           self.Append(arguments);
-         } catch (const vb::RunTimeError&) {
-         }
+         self.Log(arguments);
          self.Tell(arguments);
          return Value(true);
        },
@@ -38,25 +34,36 @@ const late::MemberTable<ErrorDetails>& ErrorDetails::Members() {
 }
 
 void ErrorDetails::Note(std::string_view module, std::string_view routine, const vb::RunTimeError& error) const {
-  try {
-    std::vector<Value> values{
-        module, "", routine, static_cast<std::int32_t>(error.Number()), error.Source(), error.Description(), "", true};
-    Arguments arguments(values);
-    Append(arguments);
-  } catch (const vb::RunTimeError&) {
-    // What is noted is no error of the user's: without a log there is nobody to notify.
-  }
+  std::vector<Value> values{
+      module, "", routine, static_cast<std::int32_t>(error.Number()), error.Source(), error.Description(), "", true};
+  Arguments arguments(values);
+  Log(arguments);
 }
 
-void ErrorDetails::Append(Arguments& arguments) const {
+void ErrorDetails::Log(Arguments& arguments) const {
+  const std::string line = LineOf(arguments);
   controls::Workstation& workstation = surroundings_->workstation;
-  std::string line = vb::FormatDate(workstation.Now(), "yyyy-mm-dd hh:nn:ss");
+  // An application folder that may not be written, or a full disk, must not hide the error itself.
+  if (!Append(workstation.ApplicationFolder(), line)) Append(workstation.TempFolder(), line);
+}
+
+std::string ErrorDetails::LineOf(Arguments& arguments) const {
+  std::string line = vb::FormatDate(surroundings_->workstation.Now(), "yyyy-mm-dd hh:nn:ss");
   for (const std::size_t field : {kUser, kForm, kRoutine, kNumber, kSource, kDescription, kMode}) {
     line += "\t" + OneLine(std::string(vb::Trim(arguments[field].TextOrEmpty())));
   }
-  const auto log = workstation.OpenForAppend(workstation.ApplicationFolder() + "\\errors.log");
-  log->Write(line + "\r\n");
-  log->Close();
+  return line + "\r\n";
+}
+
+bool ErrorDetails::Append(const std::string& folder, const std::string& line) const {
+  try {
+    const auto log = surroundings_->workstation.OpenForAppend(folder + "\\errors.log");
+    log->Write(line);
+    log->Close();
+    return true;
+  } catch (const vb::RunTimeError&) {
+    return false;
+  }
 }
 
 void ErrorDetails::Tell(Arguments& arguments) const {

@@ -9,7 +9,8 @@
 
 namespace suite {
 
-/// Stand-in of the suite's error log: appends to errors.log in the application folder and tells the user.
+/// Stand-in of the suite's error log: appends to errors.log in the application folder, or in the
+/// user's temporary folder where the first cannot be written, and tells the user.
 class ErrorDetails : public late::TableObject<ErrorDetails> {
  public:
   explicit ErrorDetails(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
@@ -21,7 +22,10 @@ class ErrorDetails : public late::TableObject<ErrorDetails> {
   void Note(std::string_view module, std::string_view routine, const vb::RunTimeError& error) const;
 
  private:
-  void Append(late::Arguments& arguments) const;
+  void Log(late::Arguments& arguments) const;
+  /// Whether the line could be written.
+  bool Append(const std::string& folder, const std::string& line) const;
+  std::string LineOf(late::Arguments& arguments) const;
   void Tell(late::Arguments& arguments) const;
 
   std::shared_ptr<Surroundings> surroundings_;

@@ -55,6 +55,7 @@ std::unique_ptr<controls::OutputFile> TestWorkstation::OpenForOutput(std::string
 }
 
 std::unique_ptr<controls::OutputFile> TestWorkstation::OpenForAppend(std::string_view path) {
+  if (refusedPaths.contains(std::string(path))) vb::Raise(vb::kPermissionDenied);
   return std::make_unique<Writer>(files[std::string(path)]);
 }
 

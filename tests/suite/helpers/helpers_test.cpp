@@ -158,4 +158,21 @@ TEST(ErrorLog, SpeaksAndAppends) {
             "2024-03-15 10:30:05\tNora\tfrmRequest\tcmdOK_Click\t3704\tADO\tConnection lost\tN\r\n");
 }
 
+TEST(ErrorLog, IsKeptInTheTemporaryFolderWhereTheApplicationsMayNotBeWritten) {
+  HelperShop shop;
+  const late::ObjectPtr log = shop.registry.Create("ErrLog.ErrorDetails");
+  const auto track = [&] {
+    shop.desktop.ExpectMessage("Lost\n(frmRequest cmdOK_Click, 5)");
+    log->Call("ErrorTrack", {"frmRequest ", "Nora", "cmdOK_Click", 5, "", "Lost", "N", true});
+    shop.desktop.Verify();
+  };
+  shop.workstation.refusedPaths = {"C:\\shop\\errors.log"};
+  track();
+  EXPECT_FALSE(shop.workstation.files.contains("C:\\shop\\errors.log"));
+  EXPECT_EQ(shop.workstation.files["C:\\temp\\errors.log"],
+            "2024-03-15 10:30:05\tNora\tfrmRequest\tcmdOK_Click\t5\t\tLost\tN\r\n");
+  shop.workstation.refusedPaths.insert("C:\\temp\\errors.log");
+  track();
+}
+
 }  // namespace
