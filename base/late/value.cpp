@@ -31,11 +31,21 @@ vb::Decimal AsDecimal(Currency value) {
   return {value.units, 4};
 }
 
-/// What an object stands for where a plain value is wanted. Error 91 for Nothing, 13 when it has no default member.
-Value DefaultOf(const ObjectPtr& object) {
-  if (!object) vb::Raise(vb::kObjectNotSet);
-  if (!object->Has("")) vb::Raise(vb::kTypeMismatch);
-  return object->Get("");
+constexpr long kUnsupportedType = 458;
+
+/// What an object stands for where a plain value is wanted: its default member, or that of the object which this is, and so on.
+/// Error 91 for Nothing, 13 when it has no default member, 458 when there is no end of objects.
+Value DefaultOf(ObjectPtr object) {
+  constexpr int kMostObjects = 64;
+  for (int depth = 0; depth < kMostObjects; ++depth) {
+    if (!object) vb::Raise(vb::kObjectNotSet);
+    if (!object->Has("")) vb::Raise(vb::kTypeMismatch);
+    Value value = object->Get("");
+    const auto* next = value.If<ObjectPtr>();
+    if (!next) return value;
+    object = ObjectPtr(*next);
+  }
+  vb::Raise(kUnsupportedType);
 }
 
 template <class Integer>

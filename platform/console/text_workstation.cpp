@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "base/vb/error.h"
+#include "base/vb/file_error.h"
 #include "base/vb/text.h"
 #include "platform/console/escape.h"
 
@@ -36,15 +37,16 @@ class TextInput : public controls::InputFile {
 
 class TextOutput : public controls::OutputFile {
  public:
-  explicit TextOutput(std::ofstream stream) : stream_(std::move(stream)) {}
+  TextOutput(std::ofstream stream, std::string_view path) : stream_(std::move(stream)), path_(path) {}
   void Write(std::string_view text) override { stream_.write(text.data(), static_cast<std::streamsize>(text.size())); }
   void Close() override {
     stream_.close();
-    if (stream_.fail()) vb::Raise(vb::kPathFileAccess);
+    if (stream_.fail()) vb::RaiseFileError(vb::kPathFileAccess, path_);
   }
 
  private:
   std::ofstream stream_;
+  std::string path_;
 };
 
 std::string WithSlashes(std::string_view path) {
@@ -127,21 +129,21 @@ bool TextWorkstation::FileExists(std::string_view path) {
 std::unique_ptr<controls::InputFile> TextWorkstation::OpenForInput(std::string_view path) {
   const auto file = Locate(path);
   std::error_code ignored;
-  if (!file) vb::Raise(vb::kPathNotFound);
-  if (!fs::is_regular_file(*file, ignored)) vb::Raise(vb::kFileNotFound);
+  if (!file) vb::RaiseFileError(vb::kPathNotFound, path);
+  if (!fs::is_regular_file(*file, ignored)) vb::RaiseFileError(vb::kFileNotFound, path);
   return std::make_unique<TextInput>(ReadAll(*file));
 }
 
 std::unique_ptr<controls::OutputFile> TextWorkstation::OpenToWrite(std::string_view path, bool append) {
   const auto file = Locate(path);
-  if (!file) vb::Raise(vb::kPathNotFound);
+  if (!file) vb::RaiseFileError(vb::kPathNotFound, path);
   std::error_code ignored;
   if (vb::EqualNoCase(file->parent_path().filename().string(), "TEMP")) fs::create_directories(file->parent_path(), ignored);
-  if (!fs::is_directory(file->parent_path(), ignored)) vb::Raise(vb::kPathNotFound);
+  if (!fs::is_directory(file->parent_path(), ignored)) vb::RaiseFileError(vb::kPathNotFound, path);
   errno = 0;
   std::ofstream stream(*file, append ? std::ios::binary | std::ios::app : std::ios::binary | std::ios::trunc);
-  if (!stream) vb::Raise(errno == EACCES || errno == EROFS ? vb::kPermissionDenied : vb::kPathFileAccess);
-  return std::make_unique<TextOutput>(std::move(stream));
+  if (!stream) vb::RaiseFileError(errno == EACCES || errno == EROFS ? vb::kPermissionDenied : vb::kPathFileAccess, path);
+  return std::make_unique<TextOutput>(std::move(stream), path);
 }
 
 std::unique_ptr<controls::OutputFile> TextWorkstation::OpenForOutput(std::string_view path) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/vb/error.h"
+#include "base/vb/file_error.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_gate.h"
 
@@ -12,24 +13,25 @@ namespace windows {
 namespace {
 
 constexpr DWORD kReadBlock = 64 * 1024;
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 /// The classic number for what the system says about a file.
-[[noreturn]] void RaiseFileError(DWORD error) {
+long FileErrorNumber(DWORD error) {
   switch (error) {
     case ERROR_FILE_NOT_FOUND:
-      vb::Raise(vb::kFileNotFound);
+      return vb::kFileNotFound;
     case ERROR_PATH_NOT_FOUND:
     case ERROR_BAD_NETPATH:
     case ERROR_INVALID_DRIVE:
-      vb::Raise(vb::kPathNotFound);
+      return vb::kPathNotFound;
     case ERROR_ACCESS_DENIED:
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION:
-      vb::Raise(vb::kPermissionDenied);
+      return vb::kPermissionDenied;
     case ERROR_INVALID_NAME:
-      vb::Raise(vb::kBadFileName);
+      return vb::kBadFileName;
     default:
-      vb::Raise(vb::kPathFileAccess);
+      return vb::kPathFileAccess;
   }
 }
 
@@ -53,10 +55,10 @@ std::string ToAnsi(std::wstring_view text) {
 /// A system file handle that closes itself.
 class FileHandle {
  public:
-  FileHandle(std::string_view path, DWORD access, DWORD disposition) {
+  FileHandle(std::string_view path, DWORD access, DWORD disposition) : path_(path) {
     if (path.empty()) vb::Raise(vb::kBadFileName);
     handle_ = CreateFileW(Wide(path).c_str(), access, FILE_SHARE_READ, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle_ == INVALID_HANDLE_VALUE) RaiseFileError(GetLastError());
+    if (handle_ == INVALID_HANDLE_VALUE) RaiseLastError();
   }
   ~FileHandle() { Close(); }
   FileHandle(const FileHandle&) = delete;
@@ -67,8 +69,11 @@ class FileHandle {
     handle_ = INVALID_HANDLE_VALUE;
     return closed;
   }
+  /// What the system said last about this file.
+  [[noreturn]] void RaiseLastError() const { vb::RaiseFileError(FileErrorNumber(GetLastError()), path_); }
 
  private:
+  std::string path_;
   HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
@@ -78,9 +83,11 @@ class Reader : public controls::InputFile {
     const FileHandle file(path, GENERIC_READ, OPEN_EXISTING);
     std::vector<char> block(kReadBlock);
     for (DWORD read = kReadBlock; read > 0;) {
-      if (!ReadFile(file.Get(), block.data(), kReadBlock, &read, nullptr)) RaiseFileError(GetLastError());
+      if (!ReadFile(file.Get(), block.data(), kReadBlock, &read, nullptr)) file.RaiseLastError();
       text_.append(block.data(), read);
     }
+    isUtf8_ = text_.starts_with(kUtf8Mark);
+    if (isUtf8_) position_ = kUtf8Mark.size();
   }
   std::optional<std::string> ReadLine() override {
     if (position_ >= text_.size()) return std::nullopt;
@@ -88,12 +95,13 @@ class Reader : public controls::InputFile {
     const std::string_view line = std::string_view(text_).substr(position_, end - position_);
     position_ = end + 1;
     if (end + 1 < text_.size() && text_[end] == '\r' && text_[end + 1] == '\n') ++position_;
-    return Utf8(FromAnsi(line));
+    return isUtf8_ ? std::string(line) : Utf8(FromAnsi(line));
   }
 
  private:
   std::string text_;
   std::size_t position_ = 0;
+  bool isUtf8_ = false;
 };
 
 class Writer : public controls::OutputFile {
@@ -106,12 +114,12 @@ class Writer : public controls::OutputFile {
       DWORD written = 0;
       const bool done =
           WriteFile(file_.Get(), bytes.data() + sent, static_cast<DWORD>(bytes.size() - sent), &written, nullptr) != 0;
-      if (!done || written == 0) RaiseFileError(GetLastError());
+      if (!done || written == 0) file_.RaiseLastError();
       sent += written;
     }
   }
   void Close() override {
-    if (!file_.Close()) RaiseFileError(GetLastError());
+    if (!file_.Close()) file_.RaiseLastError();
   }
 
  private:
@@ -184,7 +192,7 @@ void WindowsWorkstation::StartProgram(std::string_view commandLine, int style) {
   start.wShowWindow = static_cast<WORD>(style == 3 ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
   PROCESS_INFORMATION process{};
   if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process)) {
-    vb::Raise(GetLastError() == ERROR_ACCESS_DENIED ? vb::kPermissionDenied : vb::kFileNotFound);
+    vb::RaiseFileError(GetLastError() == ERROR_ACCESS_DENIED ? vb::kPermissionDenied : vb::kFileNotFound, commandLine);
   }
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);

@@ -22,6 +22,14 @@ class Box : public late::Object {
   Value text_;
 };
 
+/// Its default member is another box, of that box another, without end.
+class EndlessBox : public late::Object {
+ public:
+  Value Invoke(std::string_view, late::Access, std::span<Value>) override { return std::make_shared<EndlessBox>(); }
+  bool Has(std::string_view member) const override { return member.empty(); }
+  std::string TypeName() const override { return "EndlessBox"; }
+};
+
 class Bare : public late::Object {
  public:
   Value Invoke(std::string_view, late::Access, std::span<Value>) override { return {}; }
@@ -60,6 +68,7 @@ TEST(Value, ConvertsByTheRulesOfTheRuntime) {
       {"12.5", "12.5", 12, 12.5, true},
       {" 0 ", " 0 ", 0, 0, false},
       {std::make_shared<Box>("17"), "17", 17, 17, true},
+      {std::make_shared<Box>(std::make_shared<Box>(std::make_shared<Box>("17"))), "17", 17, 17, true},
   };
   for (const auto& test : cases) {
     Value target = test.value;
@@ -83,6 +92,8 @@ TEST(Value, RefusesWhatHasNoConversion) {
   EXPECT_EQ(errors(late::Array::List({1})), std::vector<long>(5, vb::kTypeMismatch));
   EXPECT_EQ(errors(late::ObjectPtr()), std::vector<long>(5, vb::kObjectNotSet));
   EXPECT_EQ(errors(std::make_shared<Bare>()), std::vector<long>(5, vb::kTypeMismatch));
+  EXPECT_EQ(errors(std::make_shared<EndlessBox>()), std::vector<long>(5, 458));
+  EXPECT_FALSE(Value(std::make_shared<EndlessBox>()).TrueOrFalse());
   EXPECT_EQ(errors("soon"), (std::vector<long>{0, vb::kTypeMismatch, vb::kTypeMismatch, vb::kTypeMismatch, vb::kTypeMismatch}));
   EXPECT_EQ(ErrorOf([] { Value(40000).ToInt16(); }), vb::kOverflow);
   EXPECT_EQ(ErrorOf([] { Value(vb::Decimal::Parse("99999999999")).ToInt32(); }), vb::kOverflow);

@@ -73,7 +73,13 @@ TEST_F(Workstation, OnlyTheEditorIsInTheWindowsDirectory) {
   EXPECT_EQ(printed_.str(), "run: \"C:\\\\WINDOWS\\\\command\\\\edit.com  c:\\\\Reqtohq.txt\" style=3\n");
 }
 
-TEST_F(Workstation, ErrorsCarryTheClassicNumbers) {
+TEST_F(Workstation, ErrorsCarryTheClassicNumbersAndNameTheFile) {
+  try {
+    workstation_->OpenForInput("C:\\none.txt");
+    ADD_FAILURE() << "a file that is not there was opened";
+  } catch (const vb::RunTimeError& error) {
+    EXPECT_EQ(error.Description(), "File not found: C:\\none.txt");
+  }
   fs::create_directories(folder_ / "Locked.txt");
   EXPECT_EQ(ErrorOf([&] { workstation_->OpenForInput("C:\\none.txt"); }), vb::kFileNotFound);
   EXPECT_EQ(ErrorOf([&] { workstation_->OpenForInput("D:\\none.txt"); }), vb::kPathNotFound);

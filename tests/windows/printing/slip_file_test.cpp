@@ -40,7 +40,29 @@ TEST(SlipFile, IsWrittenInTheWorkstationsCharacterSetAndReplacesTheLastOne) {
   }
 }
 
-TEST(SlipFile, APortThatIsNotThereIsAnError) {
+TEST(SlipFile, APortThatIsNotThereIsAnErrorThatNamesIt) {
   windows::WindowsWorkstation workstation("C:\\shop");
-  EXPECT_THROW(workstation.OpenForOutput("LPT7"), vb::RunTimeError);
+  try {
+    workstation.OpenForOutput("LPT7");
+    ADD_FAILURE() << "a port that is not there was opened";
+  } catch (const vb::RunTimeError& error) {
+    EXPECT_EQ(error.Description(), std::string(vb::ErrorText(error.Number())) + ": LPT7");
+  }
+}
+
+TEST(SettingsFile, OfAnEditorThatMarksItsFilesAsUtf8IsReadFromItsFirstKeyOn) {
+  windows::WindowsWorkstation workstation("C:\\shop");
+  const std::string path = workstation.TempFolder() + "\\MarkedSetting.txt";
+  const HANDLE file = CreateFileW(windows::Wide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+  constexpr std::string_view kBytes = "\xEF\xBB\xBFport :=LPT1\r\nTitle :=Caf\xC3\xA9";
+  DWORD written = 0;
+  WriteFile(file, kBytes.data(), static_cast<DWORD>(kBytes.size()), &written, nullptr);
+  CloseHandle(file);
+  {
+    const auto settings = workstation.OpenForInput(path);
+    EXPECT_EQ(settings->ReadLine(), "port :=LPT1");
+    EXPECT_EQ(settings->ReadLine(), "Title :=Caf\xC3\xA9");
+    EXPECT_EQ(settings->ReadLine(), std::nullopt);
+  }
+  DeleteFileW(windows::Wide(path).c_str());
 }
