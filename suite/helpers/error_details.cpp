@@ -34,8 +34,8 @@ const late::MemberTable<ErrorDetails>& ErrorDetails::Members() {
 }
 
 void ErrorDetails::Note(std::string_view module, std::string_view routine, const vb::RunTimeError& error) const {
-  std::vector<Value> values{
-      module, "", routine, static_cast<std::int32_t>(error.Number()), error.Source(), error.Description(), "", true};
+  std::vector<Value> values{module, "",  routine, static_cast<std::int32_t>(error.Number()), error.Source(), error.Description(),
+                            "",     true};
   Arguments arguments(values);
   Log(arguments);
 }
