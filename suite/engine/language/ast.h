@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <type_traits>
+#include <variant>
 #include <vector>
 
 #include "suite/engine/values/types.h"
@@ -11,46 +13,136 @@
 namespace suite::ast {
 
 struct Query;
+struct Expr;
+using ExprPtr = std::unique_ptr<Expr>;
+using QueryPtr = std::unique_ptr<Query>;
 
-enum class ExprKind : std::uint8_t {
-  Literal,  // `token`
-  Null,
-  Column,   // `qualifier`, `name`
-  Unary,    // `op` '-' '+' '~'
-  Binary,   // `op` + - * / % & | ^
-  Compare,  // `op` = < > L G N
-  And,
-  Or,
-  Not,
-  Like,     // text, pattern, [escape]
-  In,       // value, candidates...
-  InQuery,  // value, query
-  Between,  // value, low, high
-  IsNull,
-  Exists,
-  Case,      // [operand when `flag`], (when, then)..., [else when `hasElse`]
-  Function,  // `name`, arguments
-  Cast,      // value, [style]; `type`
-  Scalar,    // query
-  Star,      // the argument of count(*)
+enum class UnaryOperator : std::uint8_t { Plus, Minus, BitNot };
+enum class BinaryOperator : std::uint8_t { Add, Subtract, Multiply, Divide, Remainder, BitAnd, BitOr, BitXor };
+enum class Comparison : std::uint8_t { Equal, NotEqual, Less, LessOrEqual, Greater, GreaterOrEqual };
+
+// Values.
+
+struct Literal {
+  std::uint32_t token;
 };
+struct Null {};
+struct ColumnName {
+  std::string qualifier;  ///< empty when there is none
+  std::string name;
+};
+struct Unary {
+  UnaryOperator op;
+  ExprPtr operand;
+};
+struct Binary {
+  BinaryOperator op;
+  ExprPtr left, right;
+};
+struct Case {
+  struct Branch {
+    ExprPtr when;  ///< a value to compare with the operand, or a condition
+    ExprPtr then;
+  };
+  ExprPtr operand;  ///< may be missing
+  std::vector<Branch> branches;
+  ExprPtr otherwise;  ///< may be missing
+};
+struct Function {
+  std::string name;  ///< in lower case
+  bool distinct = false;
+  std::vector<ExprPtr> arguments;
+};
+struct CountAll {};  ///< count(*)
+/// dateadd and its kind: the first argument names a part of a date.
+struct DateFunction {
+  std::string name;  ///< in lower case
+  std::string part;  ///< in lower case
+  std::vector<ExprPtr> arguments;
+};
+struct Cast {
+  Type type;
+  int style = 0;
+  ExprPtr value;
+};
+struct Scalar {
+  QueryPtr query;
+};
+
+// Conditions.
+
+struct Compare {
+  Comparison op;
+  ExprPtr left, right;
+};
+struct And {
+  std::vector<ExprPtr> terms;
+};
+struct Or {
+  std::vector<ExprPtr> terms;
+};
+struct Not {
+  ExprPtr term;
+};
+struct Like {
+  bool negated = false;
+  ExprPtr text, pattern;
+  ExprPtr escape;  ///< may be missing
+};
+struct In {
+  bool negated = false;
+  ExprPtr value;
+  std::vector<ExprPtr> candidates;
+};
+struct InQuery {
+  bool negated = false;
+  ExprPtr value;
+  QueryPtr query;
+};
+struct Between {
+  bool negated = false;
+  ExprPtr value, low, high;
+};
+struct IsNull {
+  bool negated = false;
+  ExprPtr value;
+};
+struct Exists {
+  QueryPtr query;
+};
+
+using Node = std::variant<Literal, Null, ColumnName, Unary, Binary, Case, Function, CountAll, DateFunction, Cast, Scalar, Compare,
+                          And, Or, Not, Like, In, InQuery, Between, IsNull, Exists>;
+
+template <class T, class... Others>
+inline constexpr bool kIsOneOf = (std::is_same_v<T, Others> || ...);
 
 struct Expr {
-  ExprKind kind = ExprKind::Null;
-  char op = 0;
-  bool negated = false;  ///< not like, not in, not between, is not null
-  bool flag = false;     ///< distinct aggregate; a case with operand
-  bool hasElse = false;
-  std::uint32_t token = 0;  ///< where it begins: literals and messages
-  std::string qualifier;
-  std::string name;  ///< functions in lower case
-  Type type;
-  std::vector<std::unique_ptr<Expr>> children;
-  std::unique_ptr<Query> query;
+  std::uint32_t token = 0;  ///< where messages about it point
+  Node node;
 
-  bool IsPredicate() const { return (kind >= ExprKind::Compare && kind <= ExprKind::Exists); }
+  /// The node when it is of this kind; null otherwise.
+  template <class Kind>
+  const Kind* If() const {
+    return std::get_if<Kind>(&node);
+  }
+  /// A condition, where the others are values.
+  bool IsPredicate() const {
+    return std::visit(
+        [](const auto& each) {
+          return kIsOneOf<std::decay_t<decltype(each)>, Compare, And, Or, Not, Like, In, InQuery, Between, IsNull, Exists>;
+        },
+        node);
+  }
 };
-using ExprPtr = std::unique_ptr<Expr>;
+
+/// Calls the function that fits the node.
+template <class... Functions>
+struct Overloaded : Functions... {
+  using Functions::operator()...;
+};
+template <class... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
 
 struct SelectItem {
   ExprPtr value;          ///< none for a star

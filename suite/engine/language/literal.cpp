@@ -91,11 +91,12 @@ std::string LiteralText(const Lexed& lexed, const Parameter& parameter) {
 
 late::Value ArgumentValue(const Lexed& lexed, const ast::Expr* argument) {
   if (!argument) return late::Missing{};
-  if (argument->kind == ast::ExprKind::Null) return late::Null{};
-  if (argument->kind == ast::ExprKind::Unary) {
-    const late::Value value = ArgumentValue(lexed, argument->children[0].get());
-    if (argument->op != '-' || value.IsText())
-      RaiseServer(kSyntaxNear, "Incorrect syntax near '" + std::string(1, argument->op) + "'.");
+  if (argument->If<ast::Null>()) return late::Null{};
+  if (const auto* sign = argument->If<ast::Unary>()) {
+    const late::Value value = ArgumentValue(lexed, sign->operand.get());
+    if (sign->op != ast::UnaryOperator::Minus || value.IsText()) {
+      RaiseServer(kSyntaxNear, "Incorrect syntax near '" + std::string(lexed.TextOf(lexed.tokens[argument->token])) + "'.");
+    }
     if (const auto* whole = value.If<std::int32_t>()) return -*whole;
     if (const auto* exact = value.If<vb::Decimal>()) return vb::Decimal{-exact->units, exact->scale};
     return -value.ToDouble();

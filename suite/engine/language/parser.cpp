@@ -164,13 +164,6 @@ std::vector<std::string> Parser::NameList() {
   return names;
 }
 
-ast::ExprPtr Parser::Node(ast::ExprKind kind) const {
-  auto node = std::make_unique<ast::Expr>();
-  node->kind = kind;
-  node->token = static_cast<std::uint32_t>(position_);
-  return node;
-}
-
 void Parser::SkipSeparators() {
   while (TakeSymbol(';')) {
   }

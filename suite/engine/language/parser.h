@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "suite/engine/language/ast.h"
@@ -47,22 +49,34 @@ class Parser {
   /// A type; character types without a length get the one given.
   Type TypeNamed(int lengthWhenNone);
   std::vector<std::string> NameList();
-  ast::ExprPtr Node(ast::ExprKind kind) const;
+  std::uint32_t Here() const { return static_cast<std::uint32_t>(position_); }
+  static ast::ExprPtr Node(std::uint32_t token, ast::Node node) {
+    return std::make_unique<ast::Expr>(ast::Expr{token, std::move(node)});
+  }
 
   // Expressions (parser_expression.cpp)
   ast::ExprPtr Value();
   ast::ExprPtr Predicate();
+  void RequirePredicate(const ast::Expr& expr) const;
+  template <class Chain>
+  ast::ExprPtr Joined(std::string_view word, ast::ExprPtr (Parser::*term)());
+  template <std::size_t N>
+  ast::ExprPtr LeftToRight(const std::array<std::pair<char, ast::BinaryOperator>, N>& operators,
+                           ast::ExprPtr (Parser::*operand)());
   ast::ExprPtr Or();
   ast::ExprPtr And();
   ast::ExprPtr NotTerm();
   ast::ExprPtr Comparison();
   ast::ExprPtr ComparisonTail(ast::ExprPtr left);
+  ast::ExprPtr InTail(std::uint32_t token, bool negated, ast::ExprPtr value);
   ast::ExprPtr Sum();
   ast::ExprPtr Product();
   ast::ExprPtr Sign();
   ast::ExprPtr Primary();
   ast::ExprPtr WordPrimary();
+  std::vector<ast::ExprPtr> Arguments();
   ast::ExprPtr Function(std::string name);
+  ast::ExprPtr DateFunction(std::string name);
   ast::ExprPtr CaseExpression();
   ast::ExprPtr CastExpression(bool convert);
   ast::ExprPtr ColumnReference();

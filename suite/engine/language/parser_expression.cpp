@@ -1,14 +1,17 @@
+#include <array>
+#include <utility>
+
 #include "suite/engine/language/parser.h"
 #include "suite/engine/values/errors.h"
 
 namespace suite {
 
-using ast::ExprKind;
 using ast::ExprPtr;
 
 namespace {
 
 constexpr int kCastLength = 30;  // of a character type named without a length
+constexpr int kGreatestStyle = 127;
 
 std::string LowerWord(std::string_view word) {
   std::string lower(word);
@@ -18,10 +21,43 @@ std::string LowerWord(std::string_view word) {
   return lower;
 }
 
+template <class Operator, std::size_t N>
+const Operator* OperatorOf(const Token& token, const std::array<std::pair<char, Operator>, N>& operators) {
+  if (token.kind != TokenKind::Symbol) return nullptr;
+  for (const auto& [symbol, op] : operators) {
+    if (symbol == token.symbol) return &op;
+  }
+  return nullptr;
+}
+
+using ast::BinaryOperator;
+using ast::Comparison;
+using ast::UnaryOperator;
+
+constexpr std::array<std::pair<char, Comparison>, 6> kComparisons = {{{'=', Comparison::Equal},
+                                                                      {'<', Comparison::Less},
+                                                                      {'>', Comparison::Greater},
+                                                                      {kLessOrEqual, Comparison::LessOrEqual},
+                                                                      {kGreaterOrEqual, Comparison::GreaterOrEqual},
+                                                                      {kNotEqual, Comparison::NotEqual}}};
+constexpr std::array<std::pair<char, BinaryOperator>, 5> kSums = {{{'+', BinaryOperator::Add},
+                                                                   {'-', BinaryOperator::Subtract},
+                                                                   {'&', BinaryOperator::BitAnd},
+                                                                   {'|', BinaryOperator::BitOr},
+                                                                   {'^', BinaryOperator::BitXor}}};
+constexpr std::array<std::pair<char, BinaryOperator>, 3> kProducts = {
+    {{'*', BinaryOperator::Multiply}, {'/', BinaryOperator::Divide}, {'%', BinaryOperator::Remainder}}};
+constexpr std::array<std::pair<char, UnaryOperator>, 3> kSigns = {
+    {{'+', UnaryOperator::Plus}, {'-', UnaryOperator::Minus}, {'~', UnaryOperator::BitNot}}};
+
+bool TakesDatePart(std::string_view function) {
+  return function == "datepart" || function == "dateadd" || function == "datediff" || function == "datename";
+}
+
 }  // namespace
 
 ExprPtr Parser::Value() {
-  const auto begin = static_cast<std::uint32_t>(position_);
+  const std::uint32_t begin = Here();
   ExprPtr value = Or();
   if (value->IsPredicate()) UnexpectedAt(begin);
   return value;
@@ -29,163 +65,140 @@ ExprPtr Parser::Value() {
 
 ExprPtr Parser::Predicate() {
   ExprPtr predicate = Or();
-  if (!predicate->IsPredicate()) Unexpected();  // a value where a condition belongs
+  RequirePredicate(*predicate);  // a value where a condition belongs
   return predicate;
 }
 
-ExprPtr Parser::Or() {
-  ExprPtr left = And();
-  while (PeekWord("or")) {
-    ExprPtr node = Node(ExprKind::Or);
-    if (!left->IsPredicate()) Unexpected();
+void Parser::RequirePredicate(const ast::Expr& expr) const {
+  if (!expr.IsPredicate()) Unexpected();
+}
+
+/// The terms of a chain of conditions, joined by `word`; a single one is itself.
+template <class Chain>
+ExprPtr Parser::Joined(std::string_view word, ExprPtr (Parser::*term)()) {
+  ExprPtr first = (this->*term)();
+  if (!PeekWord(word)) return first;
+  const std::uint32_t token = Here();
+  Chain chain;
+  chain.terms.push_back(std::move(first));
+  while (PeekWord(word)) {
+    RequirePredicate(*chain.terms.back());
     ++position_;
-    node->children.push_back(std::move(left));
-    node->children.push_back(And());
-    if (!node->children.back()->IsPredicate()) Unexpected();
-    left = std::move(node);
+    chain.terms.push_back((this->*term)());
+    RequirePredicate(*chain.terms.back());
   }
-  return left;
+  return Node(token, std::move(chain));
+}
+
+ExprPtr Parser::Or() {
+  return Joined<ast::Or>("or", &Parser::And);
 }
 
 ExprPtr Parser::And() {
-  ExprPtr left = NotTerm();
-  while (PeekWord("and")) {
-    ExprPtr node = Node(ExprKind::And);
-    if (!left->IsPredicate()) Unexpected();
-    ++position_;
-    node->children.push_back(std::move(left));
-    node->children.push_back(NotTerm());
-    if (!node->children.back()->IsPredicate()) Unexpected();
-    left = std::move(node);
-  }
-  return left;
+  return Joined<ast::And>("and", &Parser::NotTerm);
 }
 
 ExprPtr Parser::NotTerm() {
   if (!PeekWord("not")) return Comparison();
-  ExprPtr node = Node(ExprKind::Not);
+  const std::uint32_t token = Here();
   ++position_;
-  node->children.push_back(NotTerm());
-  if (!node->children.back()->IsPredicate()) Unexpected();
-  return node;
+  ExprPtr term = NotTerm();
+  RequirePredicate(*term);
+  return Node(token, ast::Not{std::move(term)});
 }
 
 ExprPtr Parser::Comparison() {
   ExprPtr left = Sum();
   if (left->IsPredicate()) return left;
-  const Token& token = Peek();
-  constexpr std::string_view kComparisons = "=<>LGN";
-  if (token.kind == TokenKind::Symbol && kComparisons.find(token.symbol) != std::string_view::npos) {
-    ExprPtr node = Node(ExprKind::Compare);
-    node->op = token.symbol;
-    ++position_;
-    node->children.push_back(std::move(left));
-    node->children.push_back(Sum());
-    if (node->children.back()->IsPredicate()) Unexpected();
-    return node;
-  }
-  return ComparisonTail(std::move(left));
+  const ast::Comparison* op = OperatorOf(Peek(), kComparisons);
+  if (!op) return ComparisonTail(std::move(left));
+  const std::uint32_t token = Here();
+  ++position_;
+  ExprPtr right = Sum();
+  if (right->IsPredicate()) Unexpected();
+  return Node(token, ast::Compare{*op, std::move(left), std::move(right)});
 }
 
 ExprPtr Parser::ComparisonTail(ExprPtr left) {
-  if (PeekWord("is")) {
-    ExprPtr node = Node(ExprKind::IsNull);
-    ++position_;
-    node->negated = TakeWord("not");
+  const std::uint32_t token = Here();
+  if (TakeWord("is")) {
+    const bool negated = TakeWord("not");
     ExpectWord("null");
-    node->children.push_back(std::move(left));
-    return node;
+    return Node(token, ast::IsNull{negated, std::move(left)});
   }
   const bool negated = PeekWord("not") && (PeekWord("like", 1) || PeekWord("in", 1) || PeekWord("between", 1));
   if (negated) ++position_;
-  ExprPtr node = Node(ExprKind::Like);
-  node->negated = negated;
-  node->children.push_back(std::move(left));
   if (TakeWord("like")) {
-    node->children.push_back(Sum());
-    if (TakeWord("escape")) node->children.push_back(Sum());
-    return node;
+    ExprPtr pattern = Sum();
+    ExprPtr escape = TakeWord("escape") ? Sum() : nullptr;
+    return Node(token, ast::Like{negated, std::move(left), std::move(pattern), std::move(escape)});
   }
   if (TakeWord("between")) {
-    node->kind = ExprKind::Between;
-    node->children.push_back(Sum());
+    ExprPtr low = Sum();
     ExpectWord("and");
-    node->children.push_back(Sum());
-    return node;
+    ExprPtr high = Sum();
+    return Node(token, ast::Between{negated, std::move(left), std::move(low), std::move(high)});
   }
-  if (!TakeWord("in")) return std::move(node->children.front());
+  if (!TakeWord("in")) return left;
+  return InTail(token, negated, std::move(left));
+}
+
+ExprPtr Parser::InTail(std::uint32_t token, bool negated, ExprPtr value) {
   ExpectSymbol('(');
-  node->kind = PeekWord("select") ? ExprKind::InQuery : ExprKind::In;
-  if (node->kind == ExprKind::InQuery) {
-    node->query = Query();
-  } else {
-    do {
-      node->children.push_back(Value());
-    } while (TakeSymbol(','));
+  if (PeekWord("select")) {
+    ast::InQuery in{negated, std::move(value), Query()};
+    ExpectSymbol(')');
+    return Node(token, std::move(in));
   }
+  ast::In in{negated, std::move(value), {}};
+  do {
+    in.candidates.push_back(Value());
+  } while (TakeSymbol(','));
   ExpectSymbol(')');
-  return node;
+  return Node(token, std::move(in));
 }
 
-ExprPtr Parser::Sum() {
-  ExprPtr left = Product();
-  for (;;) {
-    const Token& token = Peek();
-    constexpr std::string_view kOperators = "+-&|^";
-    if (token.kind != TokenKind::Symbol || kOperators.find(token.symbol) == std::string_view::npos) return left;
-    ExprPtr node = Node(ExprKind::Binary);
+/// Operands joined by operators of one rank, from left to right.
+template <std::size_t N>
+ExprPtr Parser::LeftToRight(const std::array<std::pair<char, BinaryOperator>, N>& operators, ExprPtr (Parser::*operand)()) {
+  ExprPtr left = (this->*operand)();
+  while (const BinaryOperator* op = OperatorOf(Peek(), operators)) {
     if (left->IsPredicate()) Unexpected();
-    node->op = token.symbol;
+    const std::uint32_t token = Here();
     ++position_;
-    node->children.push_back(std::move(left));
-    node->children.push_back(Product());
-    left = std::move(node);
-  }
-}
-
-ExprPtr Parser::Product() {
-  ExprPtr left = Sign();
-  while (PeekSymbol('*') || PeekSymbol('/') || PeekSymbol('%')) {
-    ExprPtr node = Node(ExprKind::Binary);
-    if (left->IsPredicate()) Unexpected();
-    node->op = Peek().symbol;
-    ++position_;
-    node->children.push_back(std::move(left));
-    node->children.push_back(Sign());
-    left = std::move(node);
+    left = Node(token, ast::Binary{*op, std::move(left), (this->*operand)()});
   }
   return left;
 }
 
+ExprPtr Parser::Sum() {
+  return LeftToRight(kSums, &Parser::Product);
+}
+
+ExprPtr Parser::Product() {
+  return LeftToRight(kProducts, &Parser::Sign);
+}
+
 ExprPtr Parser::Sign() {
-  if (!PeekSymbol('-') && !PeekSymbol('+') && !PeekSymbol('~')) return Primary();
-  ExprPtr node = Node(ExprKind::Unary);
-  node->op = Peek().symbol;
+  const UnaryOperator* op = OperatorOf(Peek(), kSigns);
+  if (!op) return Primary();
+  const std::uint32_t token = Here();
   ++position_;
-  node->children.push_back(Sign());
-  return node;
+  return Node(token, ast::Unary{*op, Sign()});
 }
 
 ExprPtr Parser::Primary() {
-  const Token& token = Peek();
-  switch (token.kind) {
+  const std::uint32_t token = Here();
+  switch (Peek().kind) {
     case TokenKind::Integer:
     case TokenKind::Decimal:
     case TokenKind::Float:
-    case TokenKind::Text: {
-      ExprPtr node = Node(ExprKind::Literal);
+    case TokenKind::Text:
       ++position_;
-      return node;
-    }
+      return Node(token, ast::Literal{token});
     case TokenKind::Symbol: {
       ExpectSymbol('(');
-      ExprPtr inner;
-      if (PeekWord("select")) {
-        inner = Node(ExprKind::Scalar);
-        inner->query = Query();
-      } else {
-        inner = Or();
-      }
+      ExprPtr inner = PeekWord("select") ? Node(token + 1, ast::Scalar{Query()}) : Or();
       ExpectSymbol(')');
       return inner;
     }
@@ -199,103 +212,109 @@ ExprPtr Parser::Primary() {
 }
 
 ExprPtr Parser::WordPrimary() {
+  const std::uint32_t token = Here();
   const std::string word = LowerWord(lexed_.TextOf(Peek()));
   if (word == "null") {
-    ExprPtr node = Node(ExprKind::Null);
     ++position_;
-    return node;
+    return Node(token, ast::Null{});
   }
   if (word == "exists") {
-    ExprPtr node = Node(ExprKind::Exists);
     ++position_;
     ExpectSymbol('(');
-    node->query = Query();
+    ast::Exists exists{Query()};
     ExpectSymbol(')');
-    return node;
+    return Node(token, std::move(exists));
   }
   if (word == "case") return CaseExpression();
   if (word == "current_timestamp") {
-    ExprPtr node = Node(ExprKind::Function);
     ++position_;
-    node->name = "getdate";
-    return node;
+    return Node(token, ast::Function{"getdate", false, {}});
   }
   if (PeekSymbol('(', 1)) {
     if (word == "cast" || word == "convert") return CastExpression(word == "convert");
+    if (TakesDatePart(word)) return DateFunction(word);
     const bool functionWord = word == "left" || word == "right" || word == "coalesce" || word == "nullif";
     if (functionWord || !IsReserved(word)) return Function(word);
   }
   return ColumnReference();
 }
 
-ExprPtr Parser::Function(std::string name) {
-  ExprPtr node = Node(ExprKind::Function);
-  node->name = std::move(name);
-  ++position_;
-  ExpectSymbol('(');
-  if (TakeSymbol(')')) return node;
-  node->flag = TakeWord("distinct");
-  if (!node->flag) TakeWord("all");
-  const bool part = node->name == "datepart" || node->name == "dateadd" || node->name == "datediff" || node->name == "datename";
+std::vector<ExprPtr> Parser::Arguments() {
+  std::vector<ExprPtr> arguments;
   do {
-    if (PeekSymbol('*') && node->name == "count") {
-      node->children.push_back(Node(ExprKind::Star));
-      ++position_;
-    } else if (part && node->children.empty()) {
-      ExprPtr word = Node(ExprKind::Column);  // the name of a part of a date
-      word->name = LowerWord(Name());
-      node->children.push_back(std::move(word));
-    } else {
-      node->children.push_back(Value());
-    }
+    arguments.push_back(Value());
   } while (TakeSymbol(','));
   ExpectSymbol(')');
-  return node;
+  return arguments;
+}
+
+ExprPtr Parser::Function(std::string name) {
+  const std::uint32_t token = Here();
+  position_ += 2;
+  if (name == "count" && TakeSymbol('*')) {
+    ExpectSymbol(')');
+    return Node(token, ast::CountAll{});
+  }
+  ast::Function function{std::move(name), false, {}};
+  if (TakeSymbol(')')) return Node(token, std::move(function));
+  function.distinct = TakeWord("distinct");
+  if (!function.distinct) TakeWord("all");
+  function.arguments = Arguments();
+  return Node(token, std::move(function));
+}
+
+ExprPtr Parser::DateFunction(std::string name) {
+  const std::uint32_t token = Here();
+  position_ += 2;
+  ast::DateFunction function{std::move(name), LowerWord(Name()), {}};
+  ExpectSymbol(',');
+  function.arguments = Arguments();
+  return Node(token, std::move(function));
 }
 
 ExprPtr Parser::CaseExpression() {
-  ExprPtr node = Node(ExprKind::Case);
+  const std::uint32_t token = Here();
   ExpectWord("case");
-  node->flag = !PeekWord("when");
-  if (node->flag) node->children.push_back(Value());
+  ast::Case node;
+  if (!PeekWord("when")) node.operand = Value();
   if (!PeekWord("when")) Unexpected();
   while (TakeWord("when")) {
-    node->children.push_back(node->flag ? Value() : Predicate());
+    ExprPtr when = node.operand ? Value() : Predicate();
     ExpectWord("then");
-    node->children.push_back(Value());
+    node.branches.push_back({std::move(when), Value()});
   }
-  node->hasElse = TakeWord("else");
-  if (node->hasElse) node->children.push_back(Value());
+  if (TakeWord("else")) node.otherwise = Value();
   ExpectWord("end");
-  return node;
+  return Node(token, std::move(node));
 }
 
 ExprPtr Parser::CastExpression(bool convert) {
-  ExprPtr node = Node(ExprKind::Cast);
+  const std::uint32_t token = Here();
+  ast::Cast cast;
   ++position_;
   ExpectSymbol('(');
   if (convert) {
-    node->type = TypeNamed(kCastLength);
+    cast.type = TypeNamed(kCastLength);
     ExpectSymbol(',');
-    node->children.push_back(Value());
-    if (TakeSymbol(',')) node->op = static_cast<char>(StructuralNumber(127));
+    cast.value = Value();
+    if (TakeSymbol(',')) cast.style = StructuralNumber(kGreatestStyle);
   } else {
-    node->children.push_back(Value());
+    cast.value = Value();
     ExpectWord("as");
-    node->type = TypeNamed(kCastLength);
+    cast.type = TypeNamed(kCastLength);
   }
   ExpectSymbol(')');
-  return node;
+  return Node(token, std::move(cast));
 }
 
 ExprPtr Parser::ColumnReference() {
-  ExprPtr node = Node(ExprKind::Column);
-  node->name = Name();
+  const std::uint32_t token = Here();
+  ast::ColumnName column{{}, Name()};
   while (TakeSymbol('.')) {
-    node->qualifier = std::move(node->name);
-    node->name = Name();
+    column.qualifier = std::move(column.name);
+    column.name = Name();
   }
-  return node;
+  return Node(token, std::move(column));
 }
 
 }  // namespace suite

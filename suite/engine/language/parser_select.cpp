@@ -23,7 +23,9 @@ ast::Select Parser::Select() {
   select.distinct = TakeWord("distinct");
   if (!select.distinct) TakeWord("all");
   if (TakeWord("top")) {
+    const std::uint32_t count = Here();
     select.top = Primary();
+    if (!select.top->If<ast::Literal>()) UnexpectedAt(count);
     if (PeekWord("percent")) Unexpected();
   }
   do {

@@ -86,19 +86,23 @@ class Translator {
   // Values (translator_expression.cpp)
   Emitted Value(const ast::Expr& expr, Scope& scope);
   Emitted ValueUngrouped(const ast::Expr& expr, Scope& scope);
-  Emitted Literal(const ast::Expr& expr);
-  Emitted Column(const ast::Expr& expr, Scope& scope);
-  Emitted Unary(const ast::Expr& expr, Scope& scope);
-  Emitted Case(const ast::Expr& expr, Scope& scope);
-  Emitted Scalar(const ast::Expr& expr, Scope& scope);
-  Place Resolve(const ast::Expr& expr, Scope& scope) const;
+  Emitted Literal(const ast::Literal& literal);
+  Emitted Column(const ast::ColumnName& name, Scope& scope);
+  Emitted Unary(const ast::Expr& expr, const ast::Unary& sign, Scope& scope);
+  Emitted Case(const ast::Case& choice, Scope& scope);
+  std::string CaseCondition(const ast::Case& choice, const ast::Expr& when, Scope& scope);
+  Emitted Scalar(const ast::Scalar& subquery, Scope& scope);
+  Place Resolve(const ast::ColumnName& name, Scope& scope) const;
+  /// Whether two expressions are the same text for a group by. Those with a query never are.
   bool Same(const ast::Expr& a, const ast::Expr& b, Scope& scope);
+  bool SameLiteral(const ast::Literal& a, const ast::Literal& b);
 
   // Operators and conversions (translator_operator.cpp)
-  Emitted Binary(const ast::Expr& expr, Scope& scope);
-  Emitted Arithmetic(char op, Emitted left, Emitted right);
-  Emitted DateArithmetic(char op, const Emitted& left, const Emitted& right);
-  Emitted Divide(char op, Emitted left, Emitted right);
+  Emitted Binary(const ast::Expr& expr, const ast::Binary& binary, Scope& scope);
+  Emitted Arithmetic(ast::BinaryOperator op, Emitted left, Emitted right);
+  Emitted Bitwise(ast::BinaryOperator op, const Emitted& left, const Emitted& right);
+  Emitted DateArithmetic(ast::BinaryOperator op, const Emitted& left, const Emitted& right);
+  Emitted Divide(ast::BinaryOperator op, Emitted left, Emitted right);
   Emitted Coerce(Emitted value, const Type& target, int style = 0);
   Emitted CoerceAssigned(Emitted value, const Type& target);
   Emitted CastTo(Emitted value, const Type& target, int style);
@@ -106,22 +110,34 @@ class Translator {
 
   // Conditions (translator_predicate.cpp)
   std::string Predicate(const ast::Expr& expr, Scope& scope);
-  std::string Compare(const ast::Expr& expr, Scope& scope);
-  std::string Like(const ast::Expr& expr, Scope& scope);
-  std::string In(const ast::Expr& expr, Scope& scope);
-  std::string Between(const ast::Expr& expr, Scope& scope);
+  std::string Chain(const std::vector<ast::ExprPtr>& terms, const char* word, Scope& scope);
+  std::string Compare(const ast::Compare& comparison, Scope& scope);
+  std::string Like(const ast::Like& like, Scope& scope);
+  std::string In(const ast::In& in, Scope& scope);
+  std::string InQuery(const ast::InQuery& in, Scope& scope);
+  std::string Between(const ast::Between& between, Scope& scope);
 
   // Functions (translator_function.cpp)
   struct FunctionEntry;
+  struct FunctionUse {
+    const ast::Expr& expr;
+    const ast::Function& function;
+    const FunctionEntry& entry;
+  };
   static const FunctionEntry* FindFunction(std::string_view name);
-  Emitted Function(const ast::Expr& expr, Scope& scope);
-  Emitted Aggregate(const ast::Expr& expr, Scope& scope);
-  Emitted IsNull(const ast::Expr& expr, Scope& scope);
-  Emitted Coalesce(const ast::Expr& expr, Scope& scope);
-  Emitted NullIf(const ast::Expr& expr, Scope& scope);
-  Emitted IsNumeric(const ast::Expr& expr, Scope& scope);
-  Emitted Rounding(const ast::Expr& expr, Scope& scope);
-  Emitted DateFunction(const ast::Expr& expr, Scope& scope);
+  static bool IsAggregate(const ast::Expr& expr);
+  Emitted Function(const ast::Expr& expr, const ast::Function& function, Scope& scope);
+  Emitted StoreFunction(const FunctionUse& use, Scope& scope);
+  Emitted CountAll(Scope& scope);
+  static void RequireAggregateAllowed(const std::string& name, const Scope& scope);
+  Emitted Aggregate(const FunctionUse& use, Scope& scope);
+  Emitted Average(const std::string& argument, const Type& type);
+  Emitted IsNull(const FunctionUse& use, Scope& scope);
+  Emitted Coalesce(const FunctionUse& use, Scope& scope);
+  Emitted NullIf(const FunctionUse& use, Scope& scope);
+  Emitted IsNumeric(const FunctionUse& use, Scope& scope);
+  Emitted Rounding(const FunctionUse& use, Scope& scope);
+  Emitted DateFunction(const ast::DateFunction& function, Scope& scope);
 
   // Selects (translator_select.cpp)
   std::string QueryText(const ast::Query& query, Scope* outer, std::vector<ResultColumn>& columns,

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "base/vb/text.h"
 #include "suite/engine/translation/translator.h"
 #include "suite/engine/values/errors.h"
@@ -5,7 +7,7 @@
 namespace suite {
 
 using ast::Expr;
-using ast::ExprKind;
+using ast::Overloaded;
 
 std::string Quoted(std::string_view name) {
   return "\"" + vb::Replace(name, "\"", "\"\"") + "\"";
@@ -33,32 +35,27 @@ Translator::Emitted Translator::Value(const Expr& expr, Scope& scope) {
 }
 
 Translator::Emitted Translator::ValueUngrouped(const Expr& expr, Scope& scope) {
-  switch (expr.kind) {
-    case ExprKind::Literal:
-      return Literal(expr);
-    case ExprKind::Null:
-      return Emitted{"NULL", Type{}};
-    case ExprKind::Column:
-      return Column(expr, scope);
-    case ExprKind::Unary:
-      return Unary(expr, scope);
-    case ExprKind::Binary:
-      return Binary(expr, scope);
-    case ExprKind::Case:
-      return Case(expr, scope);
-    case ExprKind::Function:
-      return Function(expr, scope);
-    case ExprKind::Cast:
-      return CastTo(Value(*expr.children[0], scope), expr.type, expr.op);
-    case ExprKind::Scalar:
-      return Scalar(expr, scope);
-    default:
-      Unknown(expr, "a value is expected");
-  }
+  return std::visit(Overloaded{
+                        [&](const ast::Literal& node) { return Literal(node); },
+                        [](const ast::Null&) {
+                          return Emitted{"NULL", Type{}};
+                        },
+                        [&](const ast::ColumnName& node) { return Column(node, scope); },
+                        [&](const ast::Unary& node) { return Unary(expr, node, scope); },
+                        [&](const ast::Binary& node) { return Binary(expr, node, scope); },
+                        [&](const ast::Case& node) { return Case(node, scope); },
+                        [&](const ast::Function& node) { return Function(expr, node, scope); },
+                        [&](const ast::CountAll&) { return CountAll(scope); },
+                        [&](const ast::DateFunction& node) { return DateFunction(node, scope); },
+                        [&](const ast::Cast& node) { return CastTo(Value(*node.value, scope), node.type, node.style); },
+                        [&](const ast::Scalar& node) { return Scalar(node, scope); },
+                        [&](const auto&) -> Emitted { Unknown(expr, "a value is expected"); },
+                    },
+                    expr.node);
 }
 
-Translator::Emitted Translator::Literal(const Expr& expr) {
-  const Token& token = lexed_.tokens[expr.token];
+Translator::Emitted Translator::Literal(const ast::Literal& literal) {
+  const Token& token = lexed_.tokens[literal.token];
   Emitted value;
   value.type = LiteralType(token);
   value.parameter = static_cast<int>(parameters_.size());
@@ -68,34 +65,34 @@ Translator::Emitted Translator::Literal(const Expr& expr) {
   return value;
 }
 
-Translator::Place Translator::Resolve(const Expr& expr, Scope& scope) const {
+Translator::Place Translator::Resolve(const ast::ColumnName& name, Scope& scope) const {
   bool qualifierFound = false;
   for (Scope* at = &scope; at; at = at->outer) {
     Place place;
     for (std::size_t s = 0; s < at->sources.size(); ++s) {
       const SourceInfo& source = at->sources[s];
-      if (!expr.qualifier.empty()) {
-        if (!vb::EqualNoCase(source.alias, expr.qualifier)) continue;
+      if (!name.qualifier.empty()) {
+        if (!vb::EqualNoCase(source.alias, name.qualifier)) continue;
         qualifierFound = true;
       }
       for (std::size_t c = 0; c < source.columns.size(); ++c) {
-        if (!vb::EqualNoCase(source.columns[c].name, expr.name)) continue;
-        if (place.scope) RaiseServer(kAmbiguousColumn, "Ambiguous column name '" + expr.name + "'.");
+        if (!vb::EqualNoCase(source.columns[c].name, name.name)) continue;
+        if (place.scope) RaiseServer(kAmbiguousColumn, "Ambiguous column name '" + name.name + "'.");
         place = Place{at, s, c};
         break;
       }
     }
     if (place.scope) return place;
   }
-  if (!expr.qualifier.empty() && !qualifierFound) {
+  if (!name.qualifier.empty() && !qualifierFound) {
     RaiseServer(kUnknownPrefix,
-                "The column prefix '" + expr.qualifier + "' does not match with a table name or alias name used in the query.");
+                "The column prefix '" + name.qualifier + "' does not match with a table name or alias name used in the query.");
   }
-  RaiseServer(kInvalidColumn, "Invalid column name '" + expr.name + "'.");
+  RaiseServer(kInvalidColumn, "Invalid column name '" + name.name + "'.");
 }
 
-Translator::Emitted Translator::Column(const Expr& expr, Scope& scope) {
-  const Place place = Resolve(expr, scope);
+Translator::Emitted Translator::Column(const ast::ColumnName& name, Scope& scope) {
+  const Place place = Resolve(name, scope);
   const SourceInfo& source = place.scope->sources[place.source];
   const ColumnDef& column = source.columns[place.column];
   if (place.scope->grouped && !place.scope->inAggregate) {
@@ -113,15 +110,15 @@ Translator::Emitted Translator::Column(const Expr& expr, Scope& scope) {
   return value;
 }
 
-Translator::Emitted Translator::Unary(const Expr& expr, Scope& scope) {
-  Emitted value = Value(*expr.children[0], scope);
-  if (expr.op == '~') {
+Translator::Emitted Translator::Unary(const Expr& expr, const ast::Unary& sign, Scope& scope) {
+  Emitted value = Value(*sign.operand, scope);
+  if (sign.op == ast::UnaryOperator::BitNot) {
     if (!value.type.IsWhole()) Unknown(expr, "~ needs a whole number");
     value.sql = value.type.kind == Kind::Bit ? "(1 - " + value.sql + ")" : "(~" + value.sql + ")";
   } else {
     if (value.type.IsText()) value = Coerce(std::move(value), Type::Of(Kind::Int));
     if (!value.type.IsNumber() && value.type.kind != Kind::Null) Unknown(expr, "a number is expected");
-    if (expr.op == '-') value.sql = "(-" + value.sql + ")";
+    if (sign.op == ast::UnaryOperator::Minus) value.sql = "(-" + value.sql + ")";
   }
   value.parameter = -1;
   value.tableColumn = -1;
@@ -129,30 +126,29 @@ Translator::Emitted Translator::Unary(const Expr& expr, Scope& scope) {
   return value;
 }
 
-Translator::Emitted Translator::Case(const Expr& expr, Scope& scope) {
-  std::size_t next = expr.flag ? 1 : 0;
-  const std::size_t pairsEnd = expr.children.size() - (expr.hasElse ? 1 : 0);
+std::string Translator::CaseCondition(const ast::Case& choice, const Expr& when, Scope& scope) {
+  if (!choice.operand) return Predicate(when, scope);
+  // Each comparison is written out, so that every pair is brought to its own common type.
+  Emitted operand = Value(*choice.operand, scope);
+  Emitted value = Value(when, scope);
+  const Type common = CommonType(operand.type, value.type);
+  operand = Coerce(std::move(operand), common);
+  value = Coerce(std::move(value), common);
+  const bool text = common.IsText() && !value.collated;
+  return (text ? Collated(operand) : operand.sql) + " = " + value.sql;
+}
+
+Translator::Emitted Translator::Case(const ast::Case& choice, Scope& scope) {
   std::vector<std::string> conditions;
   std::vector<Emitted> results;
   Type type;
-  for (; next + 1 < pairsEnd; next += 2) {
-    if (expr.flag) {
-      // Each comparison is written out, so that every pair is brought to its own common type.
-      Emitted operand = Value(*expr.children[0], scope);
-      Emitted when = Value(*expr.children[next], scope);
-      const Type common = CommonType(operand.type, when.type);
-      operand = Coerce(std::move(operand), common);
-      when = Coerce(std::move(when), common);
-      const bool text = common.IsText() && !when.collated;
-      conditions.push_back((text ? Collated(operand) : operand.sql) + " = " + when.sql);
-    } else {
-      conditions.push_back(Predicate(*expr.children[next], scope));
-    }
-    results.push_back(Value(*expr.children[next + 1], scope));
+  for (const ast::Case::Branch& branch : choice.branches) {
+    conditions.push_back(CaseCondition(choice, *branch.when, scope));
+    results.push_back(Value(*branch.then, scope));
     type = CommonType(type, results.back().type);
   }
-  if (expr.hasElse) {
-    results.push_back(Value(*expr.children.back(), scope));
+  if (choice.otherwise) {
+    results.push_back(Value(*choice.otherwise, scope));
     type = CommonType(type, results.back().type);
   }
   Emitted value;
@@ -161,15 +157,15 @@ Translator::Emitted Translator::Case(const Expr& expr, Scope& scope) {
   for (std::size_t i = 0; i < conditions.size(); ++i) {
     value.sql += " WHEN " + conditions[i] + " THEN " + Coerce(results[i], type).sql;
   }
-  if (expr.hasElse) value.sql += " ELSE " + Coerce(results.back(), type).sql;
+  if (choice.otherwise) value.sql += " ELSE " + Coerce(results.back(), type).sql;
   value.sql = "(" + value.sql + " END)";
   return value;
 }
 
-Translator::Emitted Translator::Scalar(const Expr& expr, Scope& scope) {
+Translator::Emitted Translator::Scalar(const ast::Scalar& subquery, Scope& scope) {
   std::vector<ResultColumn> columns;
   Emitted value;
-  value.sql = "(" + QueryText(*expr.query, &scope, columns) + ")";
+  value.sql = "(" + QueryText(*subquery.query, &scope, columns) + ")";
   if (columns.size() != 1) {
     RaiseServer(kSubqueryOfManyColumns,
                 "Only one expression can be specified in the select list when the subquery is not introduced with EXISTS.");
@@ -178,27 +174,68 @@ Translator::Emitted Translator::Scalar(const Expr& expr, Scope& scope) {
   return value;
 }
 
+bool Translator::SameLiteral(const ast::Literal& a, const ast::Literal& b) {
+  const Token &left = lexed_.tokens[a.token], &right = lexed_.tokens[b.token];
+  // Which literals are equal shapes the statement.
+  structural_.push_back(left.literal);
+  structural_.push_back(right.literal);
+  return left.kind == right.kind && lexed_.TextOf(left) == lexed_.TextOf(right);
+}
+
 bool Translator::Same(const Expr& a, const Expr& b, Scope& scope) {
-  if (a.kind != b.kind || a.op != b.op || a.negated != b.negated || a.flag != b.flag || a.children.size() != b.children.size()) {
-    return false;
-  }
-  if (a.kind == ExprKind::Column) {
-    if (!vb::EqualNoCase(a.name, b.name)) return false;
-    const Place left = Resolve(a, scope), right = Resolve(b, scope);
-    return left.scope == right.scope && left.source == right.source && left.column == right.column;
-  }
-  if (a.kind == ExprKind::Literal) {
-    const Token &left = lexed_.tokens[a.token], &right = lexed_.tokens[b.token];
-    // Which literals are equal shapes the statement.
-    structural_.push_back(left.literal);
-    structural_.push_back(right.literal);
-    return left.kind == right.kind && lexed_.TextOf(left) == lexed_.TextOf(right);
-  }
-  if (a.name != b.name || a.query || b.query || TypeName(a.type) != TypeName(b.type)) return false;
-  for (std::size_t i = 0; i < a.children.size(); ++i) {
-    if (!Same(*a.children[i], *b.children[i], scope)) return false;
-  }
-  return true;
+  if (a.node.index() != b.node.index()) return false;
+  const auto both = [&](const ast::ExprPtr& left, const ast::ExprPtr& right) {
+    return left && right ? Same(*left, *right, scope) : !left && !right;
+  };
+  const auto all = [&](const std::vector<ast::ExprPtr>& left, const std::vector<ast::ExprPtr>& right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), both);
+  };
+  const auto branches = [&](const ast::Case::Branch& left, const ast::Case::Branch& right) {
+    return both(left.when, right.when) && both(left.then, right.then);
+  };
+  const Overloaded same{
+      [](const ast::Null&, const ast::Null&) { return true; },
+      [](const ast::CountAll&, const ast::CountAll&) { return true; },
+      [&](const ast::Literal& x, const ast::Literal& y) { return SameLiteral(x, y); },
+      [&](const ast::ColumnName& x, const ast::ColumnName& y) {
+        if (!vb::EqualNoCase(x.name, y.name)) return false;
+        const Place left = Resolve(x, scope), right = Resolve(y, scope);
+        return left.scope == right.scope && left.source == right.source && left.column == right.column;
+      },
+      [&](const ast::Unary& x, const ast::Unary& y) { return x.op == y.op && both(x.operand, y.operand); },
+      [&](const ast::Binary& x, const ast::Binary& y) { return x.op == y.op && both(x.left, y.left) && both(x.right, y.right); },
+      [&](const ast::Case& x, const ast::Case& y) {
+        return both(x.operand, y.operand) && both(x.otherwise, y.otherwise) &&
+               std::equal(x.branches.begin(), x.branches.end(), y.branches.begin(), y.branches.end(), branches);
+      },
+      [&](const ast::Function& x, const ast::Function& y) {
+        return x.name == y.name && x.distinct == y.distinct && all(x.arguments, y.arguments);
+      },
+      [&](const ast::DateFunction& x, const ast::DateFunction& y) {
+        return x.name == y.name && x.part == y.part && all(x.arguments, y.arguments);
+      },
+      [&](const ast::Cast& x, const ast::Cast& y) {
+        return x.style == y.style && TypeName(x.type) == TypeName(y.type) && both(x.value, y.value);
+      },
+      [&](const ast::Compare& x, const ast::Compare& y) {
+        return x.op == y.op && both(x.left, y.left) && both(x.right, y.right);
+      },
+      [&](const ast::And& x, const ast::And& y) { return all(x.terms, y.terms); },
+      [&](const ast::Or& x, const ast::Or& y) { return all(x.terms, y.terms); },
+      [&](const ast::Not& x, const ast::Not& y) { return both(x.term, y.term); },
+      [&](const ast::Like& x, const ast::Like& y) {
+        return x.negated == y.negated && both(x.text, y.text) && both(x.pattern, y.pattern) && both(x.escape, y.escape);
+      },
+      [&](const ast::In& x, const ast::In& y) {
+        return x.negated == y.negated && both(x.value, y.value) && all(x.candidates, y.candidates);
+      },
+      [&](const ast::Between& x, const ast::Between& y) {
+        return x.negated == y.negated && both(x.value, y.value) && both(x.low, y.low) && both(x.high, y.high);
+      },
+      [&](const ast::IsNull& x, const ast::IsNull& y) { return x.negated == y.negated && both(x.value, y.value); },
+      [](const auto&, const auto&) { return false; },
+  };
+  return std::visit([&](const auto& left) { return same(left, std::get<std::decay_t<decltype(left)>>(b.node)); }, a.node);
 }
 
 }  // namespace suite

@@ -4,10 +4,39 @@
 #include "suite/engine/values/errors.h"
 
 namespace suite {
+
+using ast::BinaryOperator;
+
 namespace {
 
 constexpr int kQuotientScale = 6;  // the least digits behind the point of a decimal quotient
 constexpr const char* kDayText = "86400000";
+
+std::string Symbol(BinaryOperator op) {
+  switch (op) {
+    case BinaryOperator::Add:
+      return "+";
+    case BinaryOperator::Subtract:
+      return "-";
+    case BinaryOperator::Multiply:
+      return "*";
+    case BinaryOperator::Divide:
+      return "/";
+    case BinaryOperator::Remainder:
+      return "%";
+    case BinaryOperator::BitAnd:
+      return "&";
+    case BinaryOperator::BitOr:
+      return "|";
+    case BinaryOperator::BitXor:
+      return "^";
+  }
+  return {};
+}
+
+std::string TextOf(BinaryOperator op) {
+  return " " + Symbol(op) + " ";
+}
 
 std::string Power(int exponent) {
   return std::to_string(PowerOfTen(exponent));
@@ -73,30 +102,32 @@ Translator::Emitted Translator::CastTo(Emitted value, const Type& target, int st
   return value;
 }
 
-Translator::Emitted Translator::Binary(const ast::Expr& expr, Scope& scope) {
-  Emitted left = Value(*expr.children[0], scope);
-  Emitted right = Value(*expr.children[1], scope);
+Translator::Emitted Translator::Binary(const ast::Expr& expr, const ast::Binary& binary, Scope& scope) {
+  Emitted left = Value(*binary.left, scope);
+  Emitted right = Value(*binary.right, scope);
   Emitted value;
   const bool anyNumber = left.type.kind > Kind::Guid || right.type.kind > Kind::Guid;
-  if (expr.op == '+' && !anyNumber && (left.type.IsText() || right.type.IsText())) {
+  if (binary.op == BinaryOperator::Add && !anyNumber && (left.type.IsText() || right.type.IsText())) {
     const int length = left.type.length && right.type.length ? left.type.length + right.type.length : 0;
     value.type = Type::TextOf(length);
     value.sql = "(" + left.sql + " || " + right.sql + ")";
     return value;
   }
   if (left.type.kind == Kind::DateTime || right.type.kind == Kind::DateTime) {
-    if (expr.op != '+' && expr.op != '-') Unknown(expr, "dates can only be added to and subtracted from");
-    return DateArithmetic(expr.op, left, right);
+    if (binary.op != BinaryOperator::Add && binary.op != BinaryOperator::Subtract) {
+      Unknown(expr, "dates can only be added to and subtracted from");
+    }
+    return DateArithmetic(binary.op, left, right);
   }
   if (left.type.IsText()) left = Coerce(std::move(left), right.type.IsNumber() ? right.type : Type::Of(Kind::Int));
   if (right.type.IsText()) right = Coerce(std::move(right), left.type.IsNumber() ? left.type : Type::Of(Kind::Int));
   if (left.type.kind == Kind::Null) left.type = right.type;
   if (right.type.kind == Kind::Null) right.type = left.type;
   if (left.type.kind == Kind::Null) left.type = right.type = Type::Of(Kind::Int);
-  return Arithmetic(expr.op, std::move(left), std::move(right));
+  return Arithmetic(binary.op, std::move(left), std::move(right));
 }
 
-Translator::Emitted Translator::DateArithmetic(char op, const Emitted& left, const Emitted& right) {
+Translator::Emitted Translator::DateArithmetic(BinaryOperator op, const Emitted& left, const Emitted& right) {
   const auto days = [&](const Emitted& number) {
     if (number.type.kind == Kind::Float) return "CAST(round(" + number.sql + " * " + kDayText + ") AS INTEGER)";
     const std::string units = "(" + number.sql + " * " + kDayText + ")";
@@ -110,26 +141,38 @@ Translator::Emitted Translator::DateArithmetic(char op, const Emitted& left, con
                                         " are incompatible in the operator; use datediff.");
   }
   const bool dateFirst = left.type.kind == Kind::DateTime;
-  value.sql = "(" + (dateFirst ? left.sql : days(left)) + " " + op + " " + (dateFirst ? days(right) : right.sql) + ")";
+  value.sql = "(" + (dateFirst ? left.sql : days(left)) + TextOf(op) + (dateFirst ? days(right) : right.sql) + ")";
   return value;
 }
 
-Translator::Emitted Translator::Arithmetic(char op, Emitted left, Emitted right) {
+Translator::Emitted Translator::Bitwise(BinaryOperator op, const Emitted& left, const Emitted& right) {
+  if (!left.type.IsWhole() || !right.type.IsWhole()) {
+    RaiseServer(kIncompatibleTypes, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
+                                        " are incompatible in the operator '" + Symbol(op) + "'.");
+  }
+  Emitted value;
+  value.type = CommonType(left.type, right.type);
+  const std::string both = left.sql + " & " + right.sql;
+  value.sql = op == BinaryOperator::BitXor ? "((" + left.sql + " | " + right.sql + ") - (" + both + "))"
+                                           : "(" + left.sql + TextOf(op) + right.sql + ")";
+  return value;
+}
+
+Translator::Emitted Translator::Arithmetic(BinaryOperator op, Emitted left, Emitted right) {
+  switch (op) {
+    case BinaryOperator::BitAnd:
+    case BinaryOperator::BitOr:
+    case BinaryOperator::BitXor:
+      return Bitwise(op, left, right);
+    case BinaryOperator::Divide:
+    case BinaryOperator::Remainder:
+      return Divide(op, std::move(left), std::move(right));
+    default:
+      break;
+  }
   Emitted value;
   const Type common = CommonType(left.type, right.type);
-  if (op == '&' || op == '|' || op == '^') {
-    if (!left.type.IsWhole() || !right.type.IsWhole()) {
-      RaiseServer(kIncompatibleTypes, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
-                                          " are incompatible in the operator '" + std::string(1, op) + "'.");
-    }
-    value.type = common;
-    const std::string both = left.sql + " & " + right.sql;
-    value.sql = op == '^' ? "((" + left.sql + " | " + right.sql + ") - (" + both + "))"
-                          : "(" + left.sql + " " + op + " " + right.sql + ")";
-    return value;
-  }
-  if (op == '/' || op == '%') return Divide(op, std::move(left), std::move(right));
-  if (common.kind == Kind::Decimal && op == '*') {
+  if (common.kind == Kind::Decimal && op == BinaryOperator::Multiply) {
     const int scale =
         (left.type.kind == Kind::Decimal ? left.type.scale : 0) + (right.type.kind == Kind::Decimal ? right.type.scale : 0);
     if (scale > kMostDigits) RaiseOverflow("decimal");
@@ -139,14 +182,14 @@ Translator::Emitted Translator::Arithmetic(char op, Emitted left, Emitted right)
   }
   value.type = common.IsWhole() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
   if (common.kind == Kind::Decimal) value.type = Type::DecimalOf(std::min<int>(common.precision + 1, 38), common.scale);
-  value.sql = "(" + Coerce(std::move(left), common).sql + " " + op + " " + Coerce(std::move(right), common).sql + ")";
+  value.sql = "(" + Coerce(std::move(left), common).sql + TextOf(op) + Coerce(std::move(right), common).sql + ")";
   return value;
 }
 
-Translator::Emitted Translator::Divide(char op, Emitted left, Emitted right) {
+Translator::Emitted Translator::Divide(BinaryOperator op, Emitted left, Emitted right) {
   Emitted value;
   const Type common = CommonType(left.type, right.type);
-  if (common.kind == Kind::Decimal && op == '/') {
+  if (common.kind == Kind::Decimal && op == BinaryOperator::Divide) {
     const int leftScale = left.type.kind == Kind::Decimal ? left.type.scale : 0;
     const int rightScale = right.type.kind == Kind::Decimal ? right.type.scale : 0;
     const int scale = std::max(kQuotientScale, leftScale + 1);
@@ -155,8 +198,8 @@ Translator::Emitted Translator::Divide(char op, Emitted left, Emitted right) {
     return value;
   }
   value.type = common.IsWhole() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
-  value.sql = std::string(op == '/' ? "srv_divide(" : "srv_remainder(") + Coerce(std::move(left), common).sql + ", " +
-              Coerce(std::move(right), common).sql + ")";
+  value.sql = std::string(op == BinaryOperator::Divide ? "srv_divide(" : "srv_remainder(") + Coerce(std::move(left), common).sql +
+              ", " + Coerce(std::move(right), common).sql + ")";
   return value;
 }
 

@@ -3,97 +3,88 @@
 
 namespace suite {
 
+using ast::Comparison;
 using ast::Expr;
-using ast::ExprKind;
+using ast::Overloaded;
 
 namespace {
 
-std::string OperatorText(char op) {
+std::string TextOf(Comparison op) {
   switch (op) {
-    case kLessOrEqual:
-      return " <= ";
-    case kGreaterOrEqual:
-      return " >= ";
-    case kNotEqual:
+    case Comparison::Equal:
+      return " = ";
+    case Comparison::NotEqual:
       return " <> ";
-    default:
-      return std::string(" ") + op + " ";
+    case Comparison::Less:
+      return " < ";
+    case Comparison::LessOrEqual:
+      return " <= ";
+    case Comparison::Greater:
+      return " > ";
+    case Comparison::GreaterOrEqual:
+      return " >= ";
   }
+  return {};
 }
 
 }  // namespace
 
 std::string Translator::Predicate(const Expr& expr, Scope& scope) {
-  switch (expr.kind) {
-    case ExprKind::And:
-    case ExprKind::Or:
-      return "(" + Predicate(*expr.children[0], scope) + (expr.kind == ExprKind::And ? " AND " : " OR ") +
-             Predicate(*expr.children[1], scope) + ")";
-    case ExprKind::Not:
-      return "(NOT " + Predicate(*expr.children[0], scope) + ")";
-    case ExprKind::Compare:
-      return Compare(expr, scope);
-    case ExprKind::Like:
-      return Like(expr, scope);
-    case ExprKind::In:
-    case ExprKind::InQuery:
-      return In(expr, scope);
-    case ExprKind::Between:
-      return Between(expr, scope);
-    case ExprKind::IsNull:
-      return Value(*expr.children[0], scope).sql + (expr.negated ? " IS NOT NULL" : " IS NULL");
-    case ExprKind::Exists: {
-      std::vector<ResultColumn> columns;
-      return "EXISTS (" + QueryText(*expr.query, &scope, columns) + ")";
-    }
-    default:
-      Unknown(expr, "a condition is expected");
-  }
+  return std::visit(
+      Overloaded{
+          [&](const ast::And& node) { return Chain(node.terms, " AND ", scope); },
+          [&](const ast::Or& node) { return Chain(node.terms, " OR ", scope); },
+          [&](const ast::Not& node) { return "(NOT " + Predicate(*node.term, scope) + ")"; },
+          [&](const ast::Compare& node) { return Compare(node, scope); },
+          [&](const ast::Like& node) { return Like(node, scope); },
+          [&](const ast::In& node) { return In(node, scope); },
+          [&](const ast::InQuery& node) { return InQuery(node, scope); },
+          [&](const ast::Between& node) { return Between(node, scope); },
+          [&](const ast::IsNull& node) { return Value(*node.value, scope).sql + (node.negated ? " IS NOT NULL" : " IS NULL"); },
+          [&](const ast::Exists& node) {
+            std::vector<ResultColumn> columns;
+            return "EXISTS (" + QueryText(*node.query, &scope, columns) + ")";
+          },
+          [&](const auto&) -> std::string { Unknown(expr, "a condition is expected"); },
+      },
+      expr.node);
 }
 
-std::string Translator::Compare(const Expr& expr, Scope& scope) {
-  Emitted left = Value(*expr.children[0], scope);
-  Emitted right = Value(*expr.children[1], scope);
+/// In one pair of brackets: the store's parser bounds how deep they nest.
+std::string Translator::Chain(const std::vector<ast::ExprPtr>& terms, const char* word, Scope& scope) {
+  std::string text;
+  for (const ast::ExprPtr& term : terms) text += (text.empty() ? "(" : word) + Predicate(*term, scope);
+  return text + ")";
+}
+
+std::string Translator::Compare(const ast::Compare& comparison, Scope& scope) {
+  Emitted left = Value(*comparison.left, scope);
+  Emitted right = Value(*comparison.right, scope);
   const Type common = CommonType(left.type, right.type);
   left = Coerce(std::move(left), common);
   right = Coerce(std::move(right), common);
   // One side's collation serves both; a column brings its own, which lets an index be used.
   const std::string leftText = common.IsText() && !right.collated ? Collated(left) : left.sql;
-  return "(" + leftText + OperatorText(expr.op) + right.sql + ")";
+  return "(" + leftText + TextOf(comparison.op) + right.sql + ")";
 }
 
-std::string Translator::Like(const Expr& expr, Scope& scope) {
-  std::string text = "srv_like(";
-  for (std::size_t i = 0; i < expr.children.size(); ++i) {
-    if (i) text += ", ";
-    text += Coerce(Value(*expr.children[i], scope), Type::TextOf(0)).sql;
-  }
-  return (expr.negated ? "(NOT " : "(") + text + "))";
+std::string Translator::Like(const ast::Like& like, Scope& scope) {
+  const auto text = [&](const Expr& expr) { return Coerce(Value(expr, scope), Type::TextOf(0)).sql; };
+  std::string call = "srv_like(" + text(*like.text);
+  call += ", " + text(*like.pattern);
+  if (like.escape) call += ", " + text(*like.escape);
+  return (like.negated ? "(NOT " : "(") + call + "))";
 }
 
-std::string Translator::In(const Expr& expr, Scope& scope) {
-  Emitted value = Value(*expr.children[0], scope);
-  const std::string word = expr.negated ? " NOT IN (" : " IN (";
-  if (expr.kind == ExprKind::InQuery) {
-    std::vector<ResultColumn> columns;
-    std::vector<ResultColumn> settled;
-    QueryText(*expr.query, &scope, columns);
-    if (columns.size() != 1) {
-      RaiseServer(kSubqueryOfManyColumns,
-                  "Only one expression can be specified in the select list when the subquery is not introduced with EXISTS.");
-    }
-    const Type common = CommonType(value.type, columns[0].type);
-    const std::vector<Type> targets{common};
-    const std::string query = QueryText(*expr.query, &scope, settled, &targets);
-    return "(" + Collated(Coerce(std::move(value), common)) + word + query + "))";
-  }
+std::string Translator::In(const ast::In& in, Scope& scope) {
+  Emitted value = Value(*in.value, scope);
   Type common = value.type;
   std::vector<Emitted> candidates;
-  for (std::size_t i = 1; i < expr.children.size(); ++i) {
-    candidates.push_back(Value(*expr.children[i], scope));
+  for (const ast::ExprPtr& candidate : in.candidates) {
+    candidates.push_back(Value(*candidate, scope));
     common = CommonType(common, candidates.back().type);
   }
-  std::string text = "(" + Collated(Coerce(std::move(value), common)) + word;
+  std::string text = "(" + Collated(Coerce(std::move(value), common)) + (in.negated ? " NOT IN (" : " IN (");
   for (std::size_t i = 0; i < candidates.size(); ++i) {
     if (i) text += ", ";
     text += Coerce(std::move(candidates[i]), common).sql;
@@ -101,12 +92,27 @@ std::string Translator::In(const Expr& expr, Scope& scope) {
   return text + "))";
 }
 
-std::string Translator::Between(const Expr& expr, Scope& scope) {
-  Emitted value = Value(*expr.children[0], scope);
-  Emitted low = Value(*expr.children[1], scope);
-  Emitted high = Value(*expr.children[2], scope);
+std::string Translator::InQuery(const ast::InQuery& in, Scope& scope) {
+  Emitted value = Value(*in.value, scope);
+  std::vector<ResultColumn> columns;
+  QueryText(*in.query, &scope, columns);
+  if (columns.size() != 1) {
+    RaiseServer(kSubqueryOfManyColumns,
+                "Only one expression can be specified in the select list when the subquery is not introduced with EXISTS.");
+  }
+  const Type common = CommonType(value.type, columns[0].type);
+  const std::vector<Type> targets{common};
+  std::vector<ResultColumn> converted;
+  const std::string query = QueryText(*in.query, &scope, converted, &targets);
+  return "(" + Collated(Coerce(std::move(value), common)) + (in.negated ? " NOT IN (" : " IN (") + query + "))";
+}
+
+std::string Translator::Between(const ast::Between& between, Scope& scope) {
+  Emitted value = Value(*between.value, scope);
+  Emitted low = Value(*between.low, scope);
+  Emitted high = Value(*between.high, scope);
   const Type common = CommonType(CommonType(value.type, low.type), high.type);
-  const std::string text = Collated(Coerce(std::move(value), common)) + (expr.negated ? " NOT BETWEEN " : " BETWEEN ") +
+  const std::string text = Collated(Coerce(std::move(value), common)) + (between.negated ? " NOT BETWEEN " : " BETWEEN ") +
                            Coerce(std::move(low), common).sql + " AND " + Coerce(std::move(high), common).sql;
   return "(" + text + ")";
 }

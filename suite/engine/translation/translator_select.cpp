@@ -7,7 +7,6 @@
 namespace suite {
 
 using ast::Expr;
-using ast::ExprKind;
 using ast::JoinKind;
 
 void Translator::Sources(const ast::Source& source, Scope& scope) {
@@ -90,7 +89,8 @@ void Translator::Items(const ast::Select& select, Scope& scope, Part& part) {
     }
     Emitted value = Value(*item.value, scope);
     ResultColumn column;
-    column.name = !item.alias.empty() ? item.alias : item.value->kind == ExprKind::Column ? item.value->name : std::string();
+    const auto* named = item.value->If<ast::ColumnName>();
+    column.name = !item.alias.empty() ? item.alias : named ? named->name : std::string();
     column.type = value.type;
     column.nullable = value.nullable;
     column.tableColumn = value.tableColumn;
@@ -136,7 +136,7 @@ Translator::Part Translator::SelectPart(const ast::Select& select, Scope* outer,
   part.tail = Tail(select, scope);
   part.distinct = select.distinct;
   if (select.top) {
-    Emitted top = Coerce(Literal(*select.top), Type::Of(Kind::BigInt));
+    Emitted top = Coerce(Literal(*select.top->If<ast::Literal>()), Type::Of(Kind::BigInt));
     part.limit = " LIMIT " + top.sql;
   }
   if (!scope.grouped && !select.distinct && scope.sources.size() == 1 && scope.sources[0].table) {
@@ -153,16 +153,17 @@ std::string Translator::OrderText(const ast::Query& query, Scope* scope, const s
     const Expr& expr = *item.value;
     text += text.empty() ? " ORDER BY " : ", ";
     std::size_t position = columns.size();
-    if (expr.kind == ExprKind::Literal) {
-      const std::string digits = Near(expr.token);
+    const auto* column = expr.If<ast::ColumnName>();
+    if (const auto* literal = expr.If<ast::Literal>()) {
+      const std::string digits = Near(literal->token);
       position = digits.size() < 6 && digits.find_first_not_of("0123456789") == std::string::npos
                      ? static_cast<std::size_t>(std::stoi(digits)) - 1
                      : columns.size();
       if (position >= columns.size())
         RaiseServer(kOrderPositionOutOfRange, "The ORDER BY position number " + digits + " is out of range.");
-    } else if (expr.kind == ExprKind::Column && expr.qualifier.empty()) {
-      const auto named =
-          std::find_if(columns.begin(), columns.end(), [&](const ResultColumn& c) { return vb::EqualNoCase(c.name, expr.name); });
+    } else if (column && column->qualifier.empty()) {
+      const auto named = std::find_if(columns.begin(), columns.end(),
+                                      [&](const ResultColumn& each) { return vb::EqualNoCase(each.name, column->name); });
       position = static_cast<std::size_t>(named - columns.begin());
     }
     if (position < columns.size()) {

@@ -37,6 +37,7 @@ enum ServerErrorNumber : int {
   kColumnSetTwice = 264,
   kInvalidDateStyle = 281,
   kIncompatibleTypes = 402,
+  kNotToBeSummed = 409,
   kInvalidEscape = 506,
   kNullNotAllowed = 515,
   kDateOverflow = 517,
