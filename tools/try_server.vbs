@@ -142,8 +142,11 @@ End Function
 
 ' Which provider and server the lines are about.
 Function Describes()
+  Dim version
   Describes = "Provider " & con.Provider & ", ADO " & con.Version
-  If Not embedded Then Describes = Describes & ", " & Split(FirstValue("select @@version"), vbLf)(0)
+  If embedded Then Exit Function
+  version = Split(FirstValue("select @@version"), vbLf)
+  Describes = Describes & ", " & version(0)
 End Function
 
 ' The next pass's connection.
@@ -173,10 +176,11 @@ End Sub
 
 ' All that schema.sql makes but indexes, and what the trial and the stand-ins of the suite's helpers make.
 Function ObjectNames()
-  Dim batch, names
+  Dim batch, names, words
   names = "smpUserAudit smpGridSettings tryThree tryTriggered tryTwo tryDates"
   For Each batch In Batches("schema.sql")
-    If MadeBy(batch) <> "" Then names = names & " " & Split(MadeBy(batch), " ")(1)
+    words = Split(MadeBy(batch), " ")
+    If UBound(words) = 1 Then names = names & " " & words(1)
   Next
   ObjectNames = Split(names, " ")
 End Function

@@ -20,7 +20,8 @@ case $step in
     server /u shopsuite || true
     # Without a window manager a window waits seconds to be shown; in Wine's own desktop it does not.
     "$wine" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v tests /d 1280x1000 /f >/dev/null
-    for program in press_on test_windows_products test_windows_shop_day test_windows_report test_windows_bad_hosts; do
+    for program in press_on test_windows_products test_windows_shop_day test_windows_server_trial test_windows_report \
+                   test_windows_bad_hosts; do
       "$wine" reg add "HKCU\\Software\\Wine\\AppDefaults\\$program.exe\\Explorer" /v Desktop /d tests /f >/dev/null
     done
     # The script host registers itself when it is first used; that is none of ours.

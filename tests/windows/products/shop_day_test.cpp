@@ -1,36 +1,11 @@
 // A shop's day at the real windows: the host in a process of its own, somebody at its mouse and keyboard.
-#include <array>
 #include <gtest/gtest.h>
 
-#include "platform/windows/wide_text.h"
 #include "tests/windows/products/person/hands.h"
+#include "tests/windows/products/person/shop_folder.h"
 
 namespace person {
 namespace {
-
-/// A folder of its own for the shop's database, gone afterwards.
-class ShopFolder {
- public:
-  ShopFolder() {
-    std::array<wchar_t, MAX_PATH> temporary{};
-    GetTempPathW(static_cast<DWORD>(temporary.size()), temporary.data());
-    path_ = std::wstring(temporary.data()) + L"shop" + std::to_wstring(GetCurrentProcessId()) + L"_" +
-            std::to_wstring(GetTickCount64());
-    CreateDirectoryW(path_.c_str(), nullptr);
-  }
-  ShopFolder(const ShopFolder&) = delete;
-  ShopFolder& operator=(const ShopFolder&) = delete;
-  ~ShopFolder() {
-    for (const wchar_t* file : {L"\\shop.db", L"\\shop.db-wal", L"\\shop.db-shm", L"\\shop.db-journal"}) {
-      DeleteFileW((path_ + file).c_str());
-    }
-    RemoveDirectoryW(path_.c_str());
-  }
-  std::string Database() const { return windows::Utf8(path_ + L"\\shop.db"); }
-
- private:
-  std::wstring path_;
-};
 
 std::string Host(const ShopFolder& folder, const std::string& switches) {
   return std::string("\"") + HOST_PROGRAM + "\" --database \"" + folder.Database() + "\" " + switches;
