@@ -208,46 +208,96 @@ struct ProcedureParameter {
   ExprPtr initial;
 };
 
-enum class StatementKind : std::uint8_t {
-  Query,
-  Insert,
-  Update,
-  Delete,
-  CreateTable,
-  CreateView,
-  CreateIndex,
-  CreateProcedure,
-  AddColumn,
-  Drop,
-  Execute,
-  Begin,
-  Commit,
-  Rollback,
-  If,
-  Block,
-  CountRows,
-  CountNoRows,
-  Nothing,  // a setting that has no meaning here
+struct Statement;
+using StatementPtr = std::unique_ptr<Statement>;
+
+// Statements on rows.
+
+struct QueryStatement {
+  QueryPtr query;
+};
+struct Insert {
+  std::string table;
+  std::vector<std::string> columns;        ///< none: all of the table
+  std::vector<std::vector<ExprPtr>> rows;  ///< or
+  QueryPtr query;
+};
+struct Update {
+  struct Assignment {
+    std::string column;
+    ExprPtr value;
+  };
+  std::string table;
+  std::vector<Assignment> assignments;
+  ExprPtr where;  ///< may be missing
+};
+struct Delete {
+  std::string table;
+  ExprPtr where;  ///< may be missing
+};
+struct Execute {
+  std::string procedure;
+  std::vector<ExprPtr> arguments;  ///< literals, signed or not, and null
 };
 
-struct Statement {
-  StatementKind kind = StatementKind::Nothing;
-  std::uint32_t token = 0;
-  std::uint32_t end = 0;   ///< the token behind it
-  std::string name;        ///< table, view, index, procedure
-  std::string target;      ///< table of an index
-  std::string objectType;  ///< of a drop
-  bool unique = false;
-  std::vector<std::string> columns;  ///< of an insert, a view, an index, an update
-  std::vector<std::vector<ExprPtr>>
-      rows;  ///< of an insert's values; one row of new values for an update; arguments of an execute
-  std::unique_ptr<Query> query;
-  ExprPtr where;  ///< also the condition of an if
-  std::vector<ColumnDefinition> definitions;
+// Definitions.
+
+struct CreateTable {
+  std::string name;
+  std::vector<ColumnDefinition> columns;
   std::vector<Key> keys;
-  std::vector<ProcedureParameter> parameters;
-  std::vector<std::unique_ptr<Statement>> inner;  ///< of a block; then and else of an if
 };
-using StatementPtr = std::unique_ptr<Statement>;
+struct CreateView {
+  std::string name;
+  std::vector<std::string> columns;  ///< none: the query's own names
+  QueryPtr query;
+};
+struct CreateIndex {
+  bool unique = false;
+  std::string name;
+  std::string table;
+  std::vector<std::string> columns;
+};
+struct CreateProcedure {
+  std::string name;
+  std::vector<ProcedureParameter> parameters;
+};
+struct AddColumns {
+  std::string table;
+  std::vector<ColumnDefinition> columns;
+};
+struct Drop {
+  std::string objectType;  ///< table, view, procedure, index
+  std::string name;
+  std::string table;  ///< of an index
+};
+
+// Control.
+
+struct Begin {};
+struct Commit {};
+struct Rollback {};
+struct If {
+  ExprPtr condition;
+  StatementPtr then;
+  StatementPtr otherwise;  ///< may be missing
+};
+struct Block {
+  std::vector<StatementPtr> statements;
+};
+struct SetNoCount {
+  bool on;
+};
+struct OtherSetting {};  ///< one that has no meaning here
+
+using StatementNode =
+    std::variant<QueryStatement, Insert, Update, Delete, Execute, CreateTable, CreateView, CreateIndex, CreateProcedure,
+                 AddColumns, Drop, Begin, Commit, Rollback, If, Block, SetNoCount, OtherSetting>;
+
+struct Statement {
+  std::uint32_t token = 0;
+  std::uint32_t end = 0;  ///< the token after it
+  StatementNode node;
+};
 
 }  // namespace suite::ast

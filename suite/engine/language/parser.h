@@ -92,25 +92,25 @@ class Parser {
   std::vector<ast::OrderItem> OrderBy();
 
   // Statements (parser_statement.cpp, parser_definition.cpp)
-  ast::StatementPtr Make(ast::StatementKind kind) const;
-  ast::StatementPtr Insert();
-  ast::StatementPtr Update();
-  ast::StatementPtr Delete();
-  ast::StatementPtr ExecuteProcedure();
-  ast::StatementPtr BeginStatement();
-  ast::StatementPtr CommitOrRollback(ast::StatementKind kind);
-  ast::StatementPtr If();
-  ast::StatementPtr Set();
-  ast::StatementPtr Create();
-  ast::StatementPtr CreateTable();
-  ast::StatementPtr CreateView();
-  ast::StatementPtr CreateIndex(bool unique);
-  ast::StatementPtr CreateProcedure();
-  ast::StatementPtr Alter();
-  ast::StatementPtr Drop();
+  ast::StatementNode StatementBody(bool first);
+  ast::Insert Insert();
+  ast::Update Update();
+  ast::Delete Delete();
+  ast::Execute ExecuteProcedure();
+  ast::StatementNode Begin();
+  void TransactionWord();
+  ast::If If();
+  ast::StatementNode Set();
+  ast::StatementNode Create();
+  ast::CreateTable CreateTable();
+  ast::CreateView CreateView();
+  ast::CreateIndex CreateIndex(bool unique);
+  ast::CreateProcedure CreateProcedure();
+  ast::AddColumns Alter();
+  ast::Drop Drop();
   ast::ColumnDefinition Column();
   bool ColumnOption(ast::ColumnDefinition& column);
-  bool TableKey(ast::Statement& statement);
+  bool TableKey(ast::CreateTable& table);
   void SkipClustering();
 
   const Lexed& lexed_;

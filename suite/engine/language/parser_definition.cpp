@@ -4,11 +4,7 @@
 
 namespace suite {
 
-using ast::StatementKind;
-using ast::StatementPtr;
-
-StatementPtr Parser::Create() {
-  ExpectWord("create");
+ast::StatementNode Parser::Create() {
   if (PeekWord("table")) return CreateTable();
   if (PeekWord("view")) return CreateView();
   if (PeekWord("procedure") || PeekWord("proc")) return CreateProcedure();
@@ -22,19 +18,19 @@ void Parser::SkipClustering() {
   if (!TakeWord("clustered")) TakeWord("nonclustered");
 }
 
-StatementPtr Parser::CreateTable() {
-  StatementPtr statement = Make(StatementKind::CreateTable);
+ast::CreateTable Parser::CreateTable() {
   ExpectWord("table");
-  statement->name = ObjectName();
+  ast::CreateTable table;
+  table.name = ObjectName();
   ExpectSymbol('(');
   do {
-    if (!TableKey(*statement)) statement->definitions.push_back(Column());
+    if (!TableKey(table)) table.columns.push_back(Column());
   } while (TakeSymbol(','));
   ExpectSymbol(')');
-  return statement;
+  return table;
 }
 
-bool Parser::TableKey(ast::Statement& statement) {
+bool Parser::TableKey(ast::CreateTable& table) {
   const bool named = PeekWord("constraint");
   const std::size_t ahead = named ? 2 : 0;
   if (!PeekWord("primary", ahead) && !PeekWord("unique", ahead)) {
@@ -47,7 +43,7 @@ bool Parser::TableKey(ast::Statement& statement) {
   ExpectWord(key.primary ? "key" : "unique");
   SkipClustering();
   key.columns = NameList();
-  statement.keys.push_back(std::move(key));
+  table.keys.push_back(std::move(key));
   return true;
 }
 
@@ -84,37 +80,37 @@ bool Parser::ColumnOption(ast::ColumnDefinition& column) {
   return true;
 }
 
-StatementPtr Parser::CreateView() {
-  StatementPtr statement = Make(StatementKind::CreateView);
+ast::CreateView Parser::CreateView() {
   ExpectWord("view");
-  statement->name = ObjectName();
-  if (PeekSymbol('(')) statement->columns = NameList();
+  ast::CreateView view;
+  view.name = ObjectName();
+  if (PeekSymbol('(')) view.columns = NameList();
   ExpectWord("as");
-  statement->query = Query();
-  return statement;
+  view.query = Query();
+  return view;
 }
 
-StatementPtr Parser::CreateIndex(bool unique) {
-  StatementPtr statement = Make(StatementKind::CreateIndex);
+ast::CreateIndex Parser::CreateIndex(bool unique) {
   ExpectWord("index");
-  statement->unique = unique;
-  statement->name = Name();
+  ast::CreateIndex index;
+  index.unique = unique;
+  index.name = Name();
   ExpectWord("on");
-  statement->target = ObjectName();
+  index.table = ObjectName();
   ExpectSymbol('(');
   do {
-    statement->columns.push_back(Name());
+    index.columns.push_back(Name());
     // The direction of an index column matters to no result.
     if (!TakeWord("asc")) TakeWord("desc");
   } while (TakeSymbol(','));
   ExpectSymbol(')');
-  return statement;
+  return index;
 }
 
-StatementPtr Parser::CreateProcedure() {
-  StatementPtr statement = Make(StatementKind::CreateProcedure);
+ast::CreateProcedure Parser::CreateProcedure() {
   ++position_;
-  statement->name = ObjectName();
+  ast::CreateProcedure procedure;
+  procedure.name = ObjectName();
   const bool parenthesis = TakeSymbol('(');
   while (Peek().kind == TokenKind::Variable) {
     ast::ProcedureParameter parameter;
@@ -123,7 +119,7 @@ StatementPtr Parser::CreateProcedure() {
     parameter.type = TypeNamed(1);
     parameter.hasDefault = TakeSymbol('=');
     if (parameter.hasDefault) parameter.initial = Sign();
-    statement->parameters.push_back(std::move(parameter));
+    procedure.parameters.push_back(std::move(parameter));
     if (!TakeSymbol(',')) break;
   }
   if (parenthesis) ExpectSymbol(')');
@@ -131,37 +127,35 @@ StatementPtr Parser::CreateProcedure() {
   // The body runs on the server; here it is kept as text, and a registered function does its work.
   if (AtEnd()) Unexpected();
   position_ = lexed_.tokens.size() - 1;
-  return statement;
+  return procedure;
 }
 
-StatementPtr Parser::Alter() {
-  StatementPtr statement = Make(StatementKind::AddColumn);
-  ExpectWord("alter");
+ast::AddColumns Parser::Alter() {
   ExpectWord("table");
-  statement->name = ObjectName();
+  ast::AddColumns add;
+  add.table = ObjectName();
   ExpectWord("add");
   do {
-    statement->definitions.push_back(Column());
+    add.columns.push_back(Column());
   } while (TakeSymbol(','));
-  return statement;
+  return add;
 }
 
-StatementPtr Parser::Drop() {
-  StatementPtr statement = Make(StatementKind::Drop);
-  ExpectWord("drop");
+ast::Drop Parser::Drop() {
   for (const std::string_view type : {"table", "view", "procedure", "proc", "index"}) {
     if (!TakeWord(type)) continue;
-    statement->objectType = type == "proc" ? "procedure" : type;
-    statement->name = ObjectName();
-    if (type != "index") return statement;
+    ast::Drop drop;
+    drop.objectType = type == "proc" ? "procedure" : type;
+    drop.name = ObjectName();
+    if (type != "index") return drop;
     // "drop index table.index" and "drop index index on table"
     if (TakeSymbol('.')) {
-      statement->target = std::move(statement->name);
-      statement->name = Name();
+      drop.table = std::move(drop.name);
+      drop.name = Name();
     } else if (TakeWord("on")) {
-      statement->target = ObjectName();
+      drop.table = ObjectName();
     }
-    return statement;
+    return drop;
   }
   Unexpected();
 }

@@ -3,164 +3,114 @@
 
 namespace suite {
 
-using ast::StatementKind;
-using ast::StatementPtr;
-
-StatementPtr Parser::Make(StatementKind kind) const {
-  auto statement = std::make_unique<ast::Statement>();
-  statement->kind = kind;
-  statement->token = static_cast<std::uint32_t>(position_);
-  return statement;
+ast::StatementPtr Parser::Statement(bool first) {
+  const std::uint32_t begin = Here();
+  ast::StatementNode node = StatementBody(first);
+  return std::make_unique<ast::Statement>(ast::Statement{begin, Here(), std::move(node)});
 }
 
-StatementPtr Parser::Statement(bool first) {
-  const auto begin = static_cast<std::uint32_t>(position_);
-  StatementPtr statement;
-  if (PeekWord("select")) {
-    statement = Make(StatementKind::Query);
-    statement->query = Query();
-  } else if (PeekWord("insert")) {
-    statement = Insert();
-  } else if (PeekWord("update")) {
-    statement = Update();
-  } else if (PeekWord("delete")) {
-    statement = Delete();
-  } else if (PeekWord("create")) {
-    statement = Create();
-  } else if (PeekWord("alter")) {
-    statement = Alter();
-  } else if (PeekWord("drop")) {
-    statement = Drop();
-  } else if (PeekWord("begin")) {
-    statement = BeginStatement();
-  } else if (PeekWord("commit")) {
-    statement = CommitOrRollback(StatementKind::Commit);
-  } else if (PeekWord("rollback")) {
-    statement = CommitOrRollback(StatementKind::Rollback);
-  } else if (PeekWord("if")) {
-    statement = If();
-  } else if (PeekWord("set")) {
-    statement = Set();
-  } else if (PeekWord("exec") || PeekWord("execute")) {
-    ++position_;
-    statement = ExecuteProcedure();
-  } else if (first && NameFollows()) {
-    statement = ExecuteProcedure();
-  } else {
-    Unexpected();
-  }
-  statement->token = begin;
-  statement->end = static_cast<std::uint32_t>(position_);
-  return statement;
+ast::StatementNode Parser::StatementBody(bool first) {
+  if (PeekWord("select")) return ast::QueryStatement{Query()};
+  if (TakeWord("insert")) return Insert();
+  if (TakeWord("update")) return Update();
+  if (TakeWord("delete")) return Delete();
+  if (TakeWord("create")) return Create();
+  if (TakeWord("alter")) return Alter();
+  if (TakeWord("drop")) return Drop();
+  if (TakeWord("begin")) return Begin();
+  if (TakeWord("commit")) return TransactionWord(), ast::Commit{};
+  if (TakeWord("rollback")) return TransactionWord(), ast::Rollback{};
+  if (TakeWord("if")) return If();
+  if (TakeWord("set")) return Set();
+  if (TakeWord("exec") || TakeWord("execute")) return ExecuteProcedure();
+  if (first && NameFollows()) return ExecuteProcedure();
+  Unexpected();
 }
 
-StatementPtr Parser::Insert() {
-  StatementPtr statement = Make(StatementKind::Insert);
-  ExpectWord("insert");
+ast::Insert Parser::Insert() {
   TakeWord("into");
-  statement->name = ObjectName();
-  if (PeekSymbol('(') && !PeekWord("select", 1)) statement->columns = NameList();
+  ast::Insert insert;
+  insert.table = ObjectName();
+  if (PeekSymbol('(') && !PeekWord("select", 1)) insert.columns = NameList();
   if (!TakeWord("values")) {
     if (!PeekWord("select")) Unexpected();
-    statement->query = Query();
-    return statement;
+    insert.query = Query();
+    return insert;
   }
   do {
-    std::vector<ast::ExprPtr> row;
     ExpectSymbol('(');
-    do {
-      row.push_back(Value());
-    } while (TakeSymbol(','));
-    ExpectSymbol(')');
-    statement->rows.push_back(std::move(row));
+    insert.rows.push_back(Arguments());
   } while (TakeSymbol(','));
-  return statement;
+  return insert;
 }
 
-StatementPtr Parser::Update() {
-  StatementPtr statement = Make(StatementKind::Update);
-  ExpectWord("update");
-  statement->name = ObjectName();
+ast::Update Parser::Update() {
+  ast::Update update;
+  update.table = ObjectName();
   ExpectWord("set");
-  statement->rows.emplace_back();
   do {
     std::string column = Name();
     if (TakeSymbol('.')) column = Name();
-    statement->columns.push_back(std::move(column));
     ExpectSymbol('=');
-    statement->rows.front().push_back(Value());
+    update.assignments.push_back({std::move(column), Value()});
   } while (TakeSymbol(','));
-  if (TakeWord("where")) statement->where = Predicate();
-  return statement;
+  if (TakeWord("where")) update.where = Predicate();
+  return update;
 }
 
-StatementPtr Parser::Delete() {
-  StatementPtr statement = Make(StatementKind::Delete);
-  ExpectWord("delete");
+ast::Delete Parser::Delete() {
   TakeWord("from");
-  statement->name = ObjectName();
-  if (TakeWord("where")) statement->where = Predicate();
+  ast::Delete statement{ObjectName(), nullptr};
+  if (TakeWord("where")) statement.where = Predicate();
   return statement;
 }
 
-StatementPtr Parser::ExecuteProcedure() {
-  StatementPtr statement = Make(StatementKind::Execute);
-  statement->name = ObjectName();
-  statement->rows.emplace_back();
+ast::Execute Parser::ExecuteProcedure() {
+  ast::Execute execute{ObjectName(), {}};
   while (!AtEnd() && !PeekSymbol(';')) {
     // An argument is a literal, a signed number or null; the server takes no expressions here either.
     if (PeekSymbol('-')) {
-      statement->rows.front().push_back(Sign());
+      execute.arguments.push_back(Sign());
     } else {
       const bool literal = Peek().literal >= 0;
       if (!literal && !PeekWord("null")) Unexpected();
-      statement->rows.front().push_back(Primary());
+      execute.arguments.push_back(Primary());
     }
     if (!TakeSymbol(',')) break;
     if (AtEnd()) Unexpected();
   }
-  return statement;
+  return execute;
 }
 
-StatementPtr Parser::BeginStatement() {
-  StatementPtr statement = Make(StatementKind::Begin);
-  ExpectWord("begin");
-  if (TakeWord("tran") || TakeWord("transaction")) return statement;
-  statement->kind = StatementKind::Block;
-  while (SkipSeparators(), !TakeWord("end")) statement->inner.push_back(Statement(false));
-  return statement;
+ast::StatementNode Parser::Begin() {
+  if (TakeWord("tran") || TakeWord("transaction")) return ast::Begin{};
+  ast::Block block;
+  while (SkipSeparators(), !TakeWord("end")) block.statements.push_back(Statement(false));
+  return block;
 }
 
-StatementPtr Parser::CommitOrRollback(StatementKind kind) {
-  StatementPtr statement = Make(kind);
-  ++position_;
+void Parser::TransactionWord() {
   if (!TakeWord("tran") && !TakeWord("transaction")) TakeWord("work");
-  return statement;
 }
 
-StatementPtr Parser::If() {
-  StatementPtr statement = Make(StatementKind::If);
-  ExpectWord("if");
-  statement->where = Predicate();
-  statement->inner.push_back(Statement(false));
+ast::If Parser::If() {
+  ast::If statement;
+  statement.condition = Predicate();
+  statement.then = Statement(false);
   SkipSeparators();
-  if (TakeWord("else")) statement->inner.push_back(Statement(false));
+  if (TakeWord("else")) statement.otherwise = Statement(false);
   return statement;
 }
 
-StatementPtr Parser::Set() {
-  StatementPtr statement = Make(StatementKind::Nothing);
-  ExpectWord("set");
-  if (TakeWord("nocount")) {
-    statement->kind = TakeWord("on") ? StatementKind::CountNoRows : StatementKind::CountRows;
-    if (statement->kind == StatementKind::CountRows) ExpectWord("off");
-    return statement;
-  }
-  const bool known = TakeWord("ansi_nulls") || TakeWord("quoted_identifier") || TakeWord("ansi_padding") ||
+ast::StatementNode Parser::Set() {
+  const bool noCount = TakeWord("nocount");
+  const bool known = noCount || TakeWord("ansi_nulls") || TakeWord("quoted_identifier") || TakeWord("ansi_padding") ||
                      TakeWord("ansi_warnings") || TakeWord("xact_abort");
   if (!known) Unexpected();
-  if (!TakeWord("on")) ExpectWord("off");
-  return statement;
+  const bool on = TakeWord("on");
+  if (!on) ExpectWord("off");
+  if (noCount) return ast::SetNoCount{on};
+  return ast::OtherSetting{};
 }
 
 }  // namespace suite

@@ -69,46 +69,54 @@ void Definitions::Load() {
   }
 }
 
-Relation Definitions::ShapeOf(ast::Statement& statement) {
-  Relation relation{statement.name, false, {}};
-  for (const ast::ColumnDefinition& column : statement.definitions) {
+Relation Definitions::ShapeOf(ast::CreateTable& table) {
+  Relation relation{table.name, false, {}};
+  for (const ast::ColumnDefinition& column : table.columns) {
     if (relation.Find(column.name) >= 0) {
       RaiseServer(kDuplicateColumn,
                   "Column names in each table must be unique. Column name '" + column.name + "' is specified more than once.");
     }
     relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, column.rowIdentifier});
   }
-  for (const ast::Key& key : statement.keys) {
+  for (const ast::Key& key : table.keys) {
     for (const std::string& name : key.columns) {
       const int column = relation.Find(name);
       if (column < 0) RaiseServer(kUnknownKeyColumn, "Column name '" + name + "' does not exist in the target table.");
       if (!key.primary) continue;
       relation.columns[static_cast<std::size_t>(column)].nullable = false;
-      statement.definitions[static_cast<std::size_t>(column)].nullable = false;
+      table.columns[static_cast<std::size_t>(column)].nullable = false;
     }
   }
   return relation;
 }
 
-void Definitions::AddToCatalog(const Lexed& lexed, ast::Statement& statement) {
-  using ast::StatementKind;
-  if (statement.kind == StatementKind::CreateTable) {
-    catalog_.Add(ShapeOf(statement));
-  } else if (statement.kind == StatementKind::CreateView) {
-    std::vector<int> structural;
-    const Translation view = Translator(catalog_, lexed, structural, true).View(statement);
-    Relation relation{statement.name, true, {}};
-    for (const ResultColumn& column : view.columns)
-      relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, false});
-    catalog_.Add(std::move(relation));
-  } else if (statement.kind == StatementKind::CreateProcedure) {
-    ProcedureDef procedure{statement.name, {}};
-    for (const ast::ProcedureParameter& parameter : statement.parameters) {
-      procedure.parameters.push_back(
-          {parameter.name, parameter.type, parameter.hasDefault, ArgumentValue(lexed, parameter.initial.get())});
-    }
-    catalog_.Add(std::move(procedure));
+void Definitions::AddView(const Lexed& lexed, const ast::CreateView& view) {
+  std::vector<int> structural;
+  const Translation translation = Translator(catalog_, lexed, structural, true).View(view);
+  Relation relation{view.name, true, {}};
+  for (const ResultColumn& column : translation.columns) {
+    relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, false});
   }
+  catalog_.Add(std::move(relation));
+}
+
+void Definitions::AddProcedure(const Lexed& lexed, const ast::CreateProcedure& procedure) {
+  ProcedureDef definition{procedure.name, {}};
+  for (const ast::ProcedureParameter& parameter : procedure.parameters) {
+    definition.parameters.push_back(
+        {parameter.name, parameter.type, parameter.hasDefault, ArgumentValue(lexed, parameter.initial.get())});
+  }
+  catalog_.Add(std::move(definition));
+}
+
+void Definitions::AddToCatalog(const Lexed& lexed, ast::Statement& statement) {
+  std::visit(ast::Overloaded{
+                 [&](ast::CreateTable& table) { catalog_.Add(ShapeOf(table)); },
+                 [&](const ast::CreateView& view) { AddView(lexed, view); },
+                 [&](const ast::CreateProcedure& procedure) { AddProcedure(lexed, procedure); },
+                 [](const auto&) {},
+             },
+             statement.node);
 }
 
 void Definitions::Run(const Lexed& lexed, ast::Statement& statement) {
@@ -122,21 +130,17 @@ void Definitions::Run(const Lexed& lexed, ast::Statement& statement) {
 }
 
 void Definitions::Change(const Lexed& lexed, ast::Statement& statement) {
-  using ast::StatementKind;
-  switch (statement.kind) {
-    case StatementKind::CreateTable:
-      return CreateTable(lexed, statement);
-    case StatementKind::CreateView:
-      return CreateView(lexed, statement);
-    case StatementKind::CreateIndex:
-      return CreateIndex(statement);
-    case StatementKind::CreateProcedure:
-      return CreateProcedure(lexed, statement);
-    case StatementKind::AddColumn:
-      return AddColumn(lexed, statement);
-    default:
-      return Drop(statement);
-  }
+  const std::string_view text = TextOfStatement(lexed, statement);
+  std::visit(ast::Overloaded{
+                 [&](ast::CreateTable& table) { CreateTable(lexed, table, text); },
+                 [&](const ast::CreateView& view) { CreateView(lexed, view, text); },
+                 [&](const ast::CreateIndex& index) { CreateIndex(index); },
+                 [&](const ast::CreateProcedure& procedure) { CreateProcedure(lexed, procedure, text); },
+                 [&](const ast::AddColumns& add) { AddColumns(lexed, add, statement); },
+                 [&](const ast::Drop& drop) { Drop(drop); },
+                 [](const auto&) {},
+             },
+             statement.node);
 }
 
 void Definitions::RefuseExisting(const std::string& name) const {
@@ -162,40 +166,40 @@ void Definitions::RememberColumns(const Relation& relation) {
   }
 }
 
-void Definitions::CreateTable(const Lexed& lexed, ast::Statement& statement) {
-  RefuseExisting(statement.name);
-  const Relation relation = ShapeOf(statement);
+void Definitions::CreateTable(const Lexed& lexed, ast::CreateTable& table, std::string_view text) {
+  RefuseExisting(table.name);
+  const Relation relation = ShapeOf(table);
   std::vector<int> structural;
-  Store(Translator(catalog_, lexed, structural, true).Table(statement, statement.name).sql);
-  Remember(statement.name, "U", TextOfStatement(lexed, statement), &relation);
-  AddToCatalog(lexed, statement);
+  Store(Translator(catalog_, lexed, structural, true).Table(table.name, table.columns, table.keys).sql);
+  Remember(table.name, "U", text, &relation);
+  catalog_.Add(relation);
 }
 
-void Definitions::CreateView(const Lexed& lexed, ast::Statement& statement) {
-  RefuseExisting(statement.name);
+void Definitions::CreateView(const Lexed& lexed, const ast::CreateView& view, std::string_view text) {
+  RefuseExisting(view.name);
   std::vector<int> structural;
-  Store(Translator(catalog_, lexed, structural, true).View(statement).sql);
-  AddToCatalog(lexed, statement);
-  Remember(statement.name, "V", TextOfStatement(lexed, statement), &catalog_.RelationNamed(statement.name));
+  Store(Translator(catalog_, lexed, structural, true).View(view).sql);
+  AddView(lexed, view);
+  Remember(view.name, "V", text, &catalog_.RelationNamed(view.name));
 }
 
-void Definitions::CreateIndex(const ast::Statement& statement) {
-  const Relation& table = catalog_.RelationNamed(statement.target);
+void Definitions::CreateIndex(const ast::CreateIndex& index) {
+  const Relation& table = catalog_.RelationNamed(index.table);
   std::string columns;
-  for (const std::string& name : statement.columns) {
+  for (const std::string& name : index.columns) {
     const int column = table.Find(name);
     if (column < 0) RaiseServer(kUnknownKeyColumn, "Column name '" + name + "' does not exist in the target table.");
     columns += (columns.empty() ? "" : ", ") + Quoted(table.columns[static_cast<std::size_t>(column)].name);
   }
   // The store's index names are the database's; the server's belong to their table.
-  Store(std::string(statement.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Quoted(table.name + "." + statement.name) +
-        " ON " + Quoted(table.name) + " (" + columns + ")");
+  Store(std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Quoted(table.name + "." + index.name) + " ON " +
+        Quoted(table.name) + " (" + columns + ")");
 }
 
-void Definitions::CreateProcedure(const Lexed& lexed, ast::Statement& statement) {
-  RefuseExisting(statement.name);
-  Remember(statement.name, "P", TextOfStatement(lexed, statement), nullptr);
-  AddToCatalog(lexed, statement);
+void Definitions::CreateProcedure(const Lexed& lexed, const ast::CreateProcedure& procedure, std::string_view text) {
+  RefuseExisting(procedure.name);
+  Remember(procedure.name, "P", text, nullptr);
+  AddProcedure(lexed, procedure);
 }
 
 std::string Definitions::TextOf(const std::string& name) {
@@ -206,14 +210,14 @@ std::string Definitions::TextOf(const std::string& name) {
   return session_.Step(handle.Get()) ? ToValue(handle.Get(), 0, Type::TextOf(0)).ToText() : std::string();
 }
 
-void Definitions::AddColumn(const Lexed& lexed, const ast::Statement& statement) {
-  const Relation& table = catalog_.RelationNamed(statement.name);
+void Definitions::AddColumns(const Lexed& lexed, const ast::AddColumns& add, const ast::Statement& statement) {
+  const Relation& table = catalog_.RelationNamed(add.table);
   std::string text = TextOf(table.name);
   text.erase(text.rfind(')'));
   std::vector<int> structural;
-  const std::string whole = Translator(catalog_, lexed, structural, true).Table(statement, table.name).sql;
+  const std::string whole = Translator(catalog_, lexed, structural, true).Table(table.name, add.columns, {}).sql;
   // The store adds one column at a time; their definitions stand between the outer parentheses.
-  if (statement.definitions.size() != 1) RaiseServer(kSyntaxNear, "Incorrect syntax near 'add': one column at a time.");
+  if (add.columns.size() != 1) RaiseServer(kSyntaxNear, "Incorrect syntax near 'add': one column at a time.");
   const std::size_t open = whole.find(" (") + 2;
   Store("ALTER TABLE " + Quoted(table.name) + " ADD COLUMN " + whole.substr(open, whole.size() - open - 1));
   const std::string_view added = TextOfStatement(lexed, statement);
@@ -229,23 +233,23 @@ void Definitions::AddColumn(const Lexed& lexed, const ast::Statement& statement)
   Lexed grown;
   Lex(text, grown);
   AddToCatalog(grown, *Parser(grown).Statement(true));
-  RememberColumns(catalog_.RelationNamed(statement.name));
+  RememberColumns(catalog_.RelationNamed(add.table));
 }
 
-void Definitions::Drop(const ast::Statement& statement) {
-  if (statement.objectType == "index") {
-    const std::string table = statement.target.empty() ? std::string() : catalog_.RelationNamed(statement.target).name;
-    return Store("DROP INDEX " + Quoted(table + "." + statement.name));
+void Definitions::Drop(const ast::Drop& drop) {
+  if (drop.objectType == "index") {
+    const std::string table = drop.table.empty() ? std::string() : catalog_.RelationNamed(drop.table).name;
+    return Store("DROP INDEX " + Quoted(table + "." + drop.name));
   }
-  const Relation* relation = catalog_.FindRelation(statement.name);
-  const bool procedure = statement.objectType == "procedure";
-  const bool known = procedure ? catalog_.FindProcedure(statement.name) != nullptr
-                               : relation && relation->view == (statement.objectType == "view");
+  const Relation* relation = catalog_.FindRelation(drop.name);
+  const bool procedure = drop.objectType == "procedure";
+  const bool known =
+      procedure ? catalog_.FindProcedure(drop.name) != nullptr : relation && relation->view == (drop.objectType == "view");
   if (!known || (relation && relation->name.starts_with("sys"))) {
-    RaiseServer(kNothingToDrop, "Cannot drop the " + statement.objectType + " '" + statement.name +
-                                    "', because it does not exist in the system catalog.");
+    RaiseServer(kNothingToDrop,
+                "Cannot drop the " + drop.objectType + " '" + drop.name + "', because it does not exist in the system catalog.");
   }
-  const std::string name = relation ? relation->name : statement.name;
+  const std::string name = relation ? relation->name : drop.name;
   if (!procedure) Store((relation->view ? "DROP VIEW " : "DROP TABLE ") + Quoted(name));
   Bound(session_, "DELETE FROM syscolumns WHERE id = (SELECT id FROM sysobjects WHERE name = ?1)", {name});
   Bound(session_, "DELETE FROM sysobjects WHERE name = ?1", {name});

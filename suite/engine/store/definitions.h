@@ -16,15 +16,19 @@ class Definitions {
   void Run(const Lexed& lexed, ast::Statement& statement);
 
  private:
-  void CreateTable(const Lexed& lexed, ast::Statement& statement);
-  void CreateView(const Lexed& lexed, ast::Statement& statement);
-  void CreateIndex(const ast::Statement& statement);
-  void CreateProcedure(const Lexed& lexed, ast::Statement& statement);
-  void AddColumn(const Lexed& lexed, const ast::Statement& statement);
-  void Drop(const ast::Statement& statement);
+  /// `text` is the definition in the server's dialect, as it is kept.
+  void CreateTable(const Lexed& lexed, ast::CreateTable& table, std::string_view text);
+  void CreateView(const Lexed& lexed, const ast::CreateView& view, std::string_view text);
+  void CreateIndex(const ast::CreateIndex& index);
+  void CreateProcedure(const Lexed& lexed, const ast::CreateProcedure& procedure, std::string_view text);
+  void AddColumns(const Lexed& lexed, const ast::AddColumns& add, const ast::Statement& statement);
+  void Drop(const ast::Drop& drop);
+  /// Adds what a kept definition says; one that defines nothing is passed over.
   void AddToCatalog(const Lexed& lexed, ast::Statement& statement);
+  void AddView(const Lexed& lexed, const ast::CreateView& view);
+  void AddProcedure(const Lexed& lexed, const ast::CreateProcedure& procedure);
   /// The table's shape from its definition, keys made not null. Errors 2705 and 1911.
-  static Relation ShapeOf(ast::Statement& statement);
+  static Relation ShapeOf(ast::CreateTable& table);
   void Change(const Lexed& lexed, ast::Statement& statement);
   void Remember(const std::string& name, const char* type, std::string_view text, const Relation* relation);
   void RememberColumns(const Relation& relation);

@@ -166,82 +166,69 @@ std::shared_ptr<CachedStatement> Session::Translate(const Lexed& lexed, const as
   Translator translator(store_->catalog, lexed, structural, inlineLiterals);
   auto cached = std::make_shared<CachedStatement>();
   cached->store = handle_;
-  switch (statement.kind) {
-    case ast::StatementKind::Query:
-      cached->query = true;
-      cached->translation = translator.Query(*statement.query, updatable);
-      break;
-    case ast::StatementKind::Insert:
-      cached->translation = translator.Insert(statement);
-      break;
-    case ast::StatementKind::Update:
-      cached->translation = translator.Update(statement);
-      break;
-    default:
-      cached->translation = translator.Delete(statement);
-      break;
-  }
+  cached->query = std::holds_alternative<ast::QueryStatement>(statement.node);
+  cached->translation =
+      std::visit(ast::Overloaded{
+                     [&](const ast::QueryStatement& select) { return translator.Query(*select.query, updatable); },
+                     [&](const ast::Insert& insert) { return translator.Insert(insert); },
+                     [&](const ast::Update& update) { return translator.Update(update); },
+                     [&](const ast::Delete& remove) { return translator.Delete(remove); },
+                     [](const auto&) -> Translation { RaiseServer(kNotPrepared, "Statement(s) could not be prepared."); },
+                 },
+                 statement.node);
   return cached;
 }
 
-RunResult Session::RunStatement(const Lexed& lexed, ast::Statement& statement, Parser& parser, bool updatable) {
-  using ast::StatementKind;
-  switch (statement.kind) {
-    case StatementKind::Query:
-    case StatementKind::Insert:
-    case StatementKind::Update:
-    case StatementKind::Delete: {
-      constexpr std::size_t kMostParameters = 2000;
-      const bool tooMany = lexed.literals.size() > kMostParameters;
-      std::vector<int> structural = parser.Structural();
-      auto cached = Translate(lexed, statement, structural, updatable, tooMany);
-      const bool whole = statement.token == 0 && parser.AtEnd();
-      if (whole && !tooMany) cache_.Add(lexed, updatable, structural, cached);
-      if (tooMany) cached->translation.parameters.clear();
-      return Start(lexed, std::move(cached));
-    }
-    case StatementKind::Execute:
-      return RunProcedure(lexed, statement, updatable);
-    case StatementKind::Begin:
-      BeginTransaction();
-      OpenTransaction();
-      return {};
-    case StatementKind::Commit:
-      CommitTransaction();
-      return {};
-    case StatementKind::Rollback:
-      RollbackTransaction();
-      return {};
-    case StatementKind::If: {
-      const std::size_t branch = ConditionHolds(lexed, statement) ? 0 : 1;
-      return branch < statement.inner.size() ? RunStatement(lexed, *statement.inner[branch], parser, updatable) : RunResult{};
-    }
-    case StatementKind::Block: {
-      RunResult result;
-      for (const auto& inner : statement.inner) {
-        RunResult next = RunStatement(lexed, *inner, parser, updatable);
-        if (!result.rows) result = std::move(next);
-      }
-      return result;
-    }
-    case StatementKind::CountRows:
-    case StatementKind::CountNoRows:
-      countsRows_ = statement.kind == StatementKind::CountRows;
-      return {};
-    case StatementKind::Nothing:
-      return {};
-    default:
-      Definitions(*this).Run(lexed, statement);
-      return {};
-  }
+RunResult Session::RunTranslated(const Lexed& lexed, const ast::Statement& statement, const Parser& parser, bool updatable) {
+  constexpr std::size_t kMaxParameters = 2000;
+  const bool tooMany = lexed.literals.size() > kMaxParameters;
+  std::vector<int> structural = parser.Structural();
+  auto cached = Translate(lexed, statement, structural, updatable, tooMany);
+  const bool whole = statement.token == 0 && parser.AtEnd();
+  if (whole && !tooMany) cache_.Add(lexed, updatable, structural, cached);
+  if (tooMany) cached->translation.parameters.clear();
+  return Start(lexed, std::move(cached));
 }
 
-bool Session::ConditionHolds(const Lexed& lexed, const ast::Statement& statement) {
+/// Answers with its first rows, or else with its last count.
+RunResult Session::RunBlock(const Lexed& lexed, const ast::Block& block, Parser& parser, bool updatable) {
+  RunResult result;
+  for (const ast::StatementPtr& inner : block.statements) {
+    RunResult next = RunStatement(lexed, *inner, parser, updatable);
+    if (!result.rows) result = std::move(next);
+  }
+  return result;
+}
+
+RunResult Session::RunStatement(const Lexed& lexed, ast::Statement& statement, Parser& parser, bool updatable) {
+  const auto onRows = [&](const auto&) { return RunTranslated(lexed, statement, parser, updatable); };
+  return std::visit(ast::Overloaded{
+                        [&](const ast::QueryStatement& node) { return onRows(node); },
+                        [&](const ast::Insert& node) { return onRows(node); },
+                        [&](const ast::Update& node) { return onRows(node); },
+                        [&](const ast::Delete& node) { return onRows(node); },
+                        [&](const ast::Execute& execute) { return RunProcedure(lexed, execute, updatable); },
+                        [&](const ast::Begin&) { return BeginTransaction(), OpenTransaction(), RunResult{}; },
+                        [&](const ast::Commit&) { return CommitTransaction(), RunResult{}; },
+                        [&](const ast::Rollback&) { return RollbackTransaction(), RunResult{}; },
+                        [&](const ast::If& node) {
+                          const ast::StatementPtr& branch = ConditionHolds(lexed, *node.condition) ? node.then : node.otherwise;
+                          return branch ? RunStatement(lexed, *branch, parser, updatable) : RunResult{};
+                        },
+                        [&](const ast::Block& block) { return RunBlock(lexed, block, parser, updatable); },
+                        [&](const ast::SetNoCount& setting) { return countsRows_ = !setting.on, RunResult{}; },
+                        [](const ast::OtherSetting&) { return RunResult{}; },
+                        [&](const auto&) { return Definitions(*this).Run(lexed, statement), RunResult{}; },
+                    },
+                    statement.node);
+}
+
+bool Session::ConditionHolds(const Lexed& lexed, const ast::Expr& condition) {
   std::vector<int> structural;
   auto cached = std::make_shared<CachedStatement>();
   cached->store = handle_;
   cached->query = true;
-  cached->translation = Translator(store_->catalog, lexed, structural).Condition(*statement.where);
+  cached->translation = Translator(store_->catalog, lexed, structural).Condition(condition);
   const RunResult result = Start(lexed, std::move(cached));
   return Step(result.rows.Get()) && sqlite3_column_int(result.rows.Get(), 0) != 0;
 }

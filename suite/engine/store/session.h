@@ -100,11 +100,13 @@ class Session : public std::enable_shared_from_this<Session> {
   RunResult RunLexed(const Lexed& lexed, bool updatable);
   RunResult RunBatch(const Lexed& lexed, bool updatable);
   RunResult RunStatement(const Lexed& lexed, ast::Statement& statement, Parser& parser, bool updatable);
-  RunResult RunProcedure(const Lexed& lexed, const ast::Statement& statement, bool updatable);
+  RunResult RunTranslated(const Lexed& lexed, const ast::Statement& statement, const Parser& parser, bool updatable);
+  RunResult RunBlock(const Lexed& lexed, const ast::Block& block, Parser& parser, bool updatable);
+  RunResult RunProcedure(const Lexed& lexed, const ast::Execute& execute, bool updatable);
   RunResult Start(const Lexed& lexed, std::shared_ptr<CachedStatement> cached);
   std::shared_ptr<CachedStatement> Translate(const Lexed& lexed, const ast::Statement& statement, std::vector<int>& structural,
                                              bool updatable, bool inlineLiterals);
-  bool ConditionHolds(const Lexed& lexed, const ast::Statement& statement);
+  bool ConditionHolds(const Lexed& lexed, const ast::Expr& condition);
   void RunBatchText(std::string_view text);
   void Configure();
   void Execute(const char* sql);

@@ -91,13 +91,13 @@ void Session::LoadCatalog() {
   definitions.Load();
 }
 
-RunResult Session::RunProcedure(const Lexed& lexed, const ast::Statement& statement, bool updatable) {
-  const ProcedureDef* definition = store_->catalog.FindProcedure(statement.name);
-  if (!definition) RaiseServer(kUnknownProcedure, "Could not find stored procedure '" + statement.name + "'.");
+RunResult Session::RunProcedure(const Lexed& lexed, const ast::Execute& execute, bool updatable) {
+  const ProcedureDef* definition = store_->catalog.FindProcedure(execute.procedure);
+  if (!definition) RaiseServer(kUnknownProcedure, "Could not find stored procedure '" + execute.procedure + "'.");
   const Procedure procedure = FindProcedure(definition->name);
   if (!procedure)
     RaiseServer(kUnknownProcedure, "The stored procedure '" + definition->name + "' has no function registered in this engine.");
-  const auto& given = statement.rows.front();
+  const std::vector<ast::ExprPtr>& given = execute.arguments;
   if (given.size() > definition->parameters.size()) {
     RaiseServer(kTooManyArguments, "Procedure or function " + definition->name + " has too many arguments specified.");
   }

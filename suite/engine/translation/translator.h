@@ -35,14 +35,15 @@ class Translator {
 
   /// A select; with `rowIds` and a single base table the row's own id comes along.
   Translation Query(const ast::Query& query, bool rowIds);
-  Translation Insert(const ast::Statement& statement);
-  Translation Update(const ast::Statement& statement);
-  Translation Delete(const ast::Statement& statement);
+  Translation Insert(const ast::Insert& statement);
+  Translation Update(const ast::Update& statement);
+  Translation Delete(const ast::Delete& statement);
   /// A query of one row and column: 1 when the condition holds, else 0.
   Translation Condition(const ast::Expr& predicate);
   /// The columns' initial values and keys, as the store's "create table".
-  Translation Table(const ast::Statement& statement, const std::string& name);
-  Translation View(const ast::Statement& statement);
+  Translation Table(const std::string& name, const std::vector<ast::ColumnDefinition>& columns,
+                    const std::vector<ast::Key>& keys);
+  Translation View(const ast::CreateView& view);
 
  private:
   /// A value expression as text of the store's.

@@ -64,8 +64,8 @@ Translation Translator::Condition(const ast::Expr& predicate) {
   return translation;
 }
 
-Translation Translator::Insert(const ast::Statement& statement) {
-  const Relation& table = TableNamed(catalog_, statement.name);
+Translation Translator::Insert(const ast::Insert& statement) {
+  const Relation& table = TableNamed(catalog_, statement.table);
   std::vector<std::string> names;
   std::vector<Type> types;
   for (const ColumnDef& column : table.columns) {
@@ -102,21 +102,23 @@ Translation Translator::Insert(const ast::Statement& statement) {
   return Finish(std::move(sql));
 }
 
-Translation Translator::Update(const ast::Statement& statement) {
-  const Relation& table = TableNamed(catalog_, statement.name);
+Translation Translator::Update(const ast::Update& statement) {
+  const Relation& table = TableNamed(catalog_, statement.table);
   Scope scope;
   scope.sources.push_back(SourceInfo{table.name, true, table.name, table.columns});
-  std::string sql = "UPDATE " + Quoted(table.name) + " SET ";
-  for (std::size_t i = 0; i < statement.columns.size(); ++i) {
-    const ColumnDef& column = table.columns[ColumnNamed(table, statement.columns[i])];
-    sql += (i ? ", " : "") + Quoted(column.name) + " = " + CoerceAssigned(Value(*statement.rows[0][i], scope), column.type).sql;
+  std::string sql = "UPDATE " + Quoted(table.name);
+  const char* separator = " SET ";
+  for (const ast::Update::Assignment& assignment : statement.assignments) {
+    const ColumnDef& column = table.columns[ColumnNamed(table, assignment.column)];
+    sql += separator + Quoted(column.name) + " = " + CoerceAssigned(Value(*assignment.value, scope), column.type).sql;
+    separator = ", ";
   }
   if (statement.where) sql += " WHERE " + Predicate(*statement.where, scope);
   return Finish(std::move(sql));
 }
 
-Translation Translator::Delete(const ast::Statement& statement) {
-  const Relation& table = TableNamed(catalog_, statement.name);
+Translation Translator::Delete(const ast::Delete& statement) {
+  const Relation& table = TableNamed(catalog_, statement.table);
   Scope scope;
   scope.sources.push_back(SourceInfo{table.name, true, table.name, table.columns});
   std::string sql = "DELETE FROM " + Quoted(table.name);
@@ -124,39 +126,41 @@ Translation Translator::Delete(const ast::Statement& statement) {
   return Finish(std::move(sql));
 }
 
-Translation Translator::Table(const ast::Statement& statement, const std::string& name) {
+Translation Translator::Table(const std::string& name, const std::vector<ast::ColumnDefinition>& columns,
+                              const std::vector<ast::Key>& keys) {
   Scope scope;
-  std::string sql = "CREATE TABLE " + Quoted(name) + " (";
-  std::string keys;
-  for (std::size_t i = 0; i < statement.definitions.size(); ++i) {
-    const ast::ColumnDefinition& column = statement.definitions[i];
-    sql += (i ? ", " : "") + Quoted(column.name) + " " + StoreType(column.type);
+  std::string sql = "CREATE TABLE " + Quoted(name);
+  std::string keyText;
+  const char* separator = " (";
+  for (const ast::ColumnDefinition& column : columns) {
+    sql += separator + Quoted(column.name) + " " + StoreType(column.type);
+    separator = ", ";
     if (!column.nullable) sql += " NOT NULL";
     if (column.initial) sql += " DEFAULT (" + CoerceAssigned(Value(*column.initial, scope), column.type).sql + ")";
-    if (column.unique) keys += ", UNIQUE (" + Quoted(column.name) + ")";
-    if (column.primary) keys += ", PRIMARY KEY (" + Quoted(column.name) + ")";
+    if (column.unique) keyText += ", UNIQUE (" + Quoted(column.name) + ")";
+    if (column.primary) keyText += ", PRIMARY KEY (" + Quoted(column.name) + ")";
   }
-  for (const ast::Key& key : statement.keys) keys += (key.primary ? ", PRIMARY KEY " : ", UNIQUE ") + ColumnList(key.columns);
-  return Finish(sql + keys + ")");
+  for (const ast::Key& key : keys) keyText += (key.primary ? ", PRIMARY KEY " : ", UNIQUE ") + ColumnList(key.columns);
+  return Finish(sql + keyText + ")");
 }
 
-Translation Translator::View(const ast::Statement& statement) {
+Translation Translator::View(const ast::CreateView& view) {
   std::vector<ResultColumn> columns;
-  const std::string query = QueryText(*statement.query, nullptr, columns);
-  if (!statement.columns.empty()) {
-    if (statement.columns.size() != columns.size()) {
-      RaiseServer(kViewColumnCount, "'" + statement.name + "' has more or fewer columns than were specified in the column list.");
+  const std::string query = QueryText(*view.query, nullptr, columns);
+  if (!view.columns.empty()) {
+    if (view.columns.size() != columns.size()) {
+      RaiseServer(kViewColumnCount, "'" + view.name + "' has more or fewer columns than were specified in the column list.");
     }
-    for (std::size_t i = 0; i < columns.size(); ++i) columns[i].name = statement.columns[i];
+    for (std::size_t i = 0; i < columns.size(); ++i) columns[i].name = view.columns[i];
   }
   std::vector<std::string> names;
   for (const ResultColumn& column : columns) {
     if (column.name.empty())
       RaiseServer(kViewColumnWithoutName,
-                  "Create View failed because no column name was specified for a column of '" + statement.name + "'.");
+                  "Create View failed because no column name was specified for a column of '" + view.name + "'.");
     names.push_back(column.name);
   }
-  Translation translation = Finish("CREATE VIEW " + Quoted(statement.name) + " " + ColumnList(names) + " AS " + query);
+  Translation translation = Finish("CREATE VIEW " + Quoted(view.name) + " " + ColumnList(names) + " AS " + query);
   translation.columns = std::move(columns);
   return translation;
 }
