@@ -69,10 +69,12 @@ void frmMaster::flexMaster_HeadingClick(long column) {
   }
 }
 
-void frmMaster::txtsearch_KeyUp(int&, int) {
+void frmMaster::txtsearch_KeyUp(int&, int shift) {
   const int entry = cboSearch.ListIndex();
   if (entry < 0 || vb::Trim(txtsearch.Text()).empty()) return searchAnswer_.Tell(true);
-  searchAnswer_.Tell(SearchInGrid(flexMaster, cboSearch.ItemData(entry), txtsearch.Text()));
+  const bool found = SearchInGrid(flexMaster, cboSearch.ItemData(entry), txtsearch.Text());
+  // The key that led here has typed nothing yet.
+  if ((shift & controls::kAlt) == 0) searchAnswer_.Tell(found);
   ApplySelectionColor();
 }
 

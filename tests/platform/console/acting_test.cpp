@@ -100,6 +100,17 @@ TEST(Acting, ListsGridsAndBoxesDoWhatHandsDo) {
             (Notes{"left txtName", "unit BOX", "unit BOX", "unit BOX", "double click 4", "checked 1", "checked 2"}));
 }
 
+TEST(Acting, TheMouseFindsTheTipOfACellOfAList) {
+  EXPECT_EQ(Said("tab tabLists 1\nhover lvwLines 2 2\nget lvwLines.ToolTipText\nhover lvwLines 1 2\nget lvwLines.ToolTipText\n"
+                 "hover lvwLines 3 1\nhover lvwLines 1 0\nhover lvwLines 1 4\nhover lvwLines 1"),
+            "value: \"Saucer in full\"\n"
+            "value: \"\"\n"
+            "error: lvwLines has the lines 1 to 2\n"
+            "error: lvwLines has the columns 1 to 3\n"
+            "error: lvwLines has the columns 1 to 3\n"
+            "error: the column is missing\n");
+}
+
 TEST(Acting, KeysGoToTheFocusedControl) {
   TextSession session;
   EXPECT_EQ(Said(session,

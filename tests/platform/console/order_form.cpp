@@ -124,6 +124,7 @@ void OrderForm::PlaceLists() {
   lvwLines.Add("1").SetSubItem(1, "Cup");
   lvwLines.Add("2").SetSubItem(1, "Saucer, 12\"");
   lvwLines.Item(2).SetChecked(true);
+  lvwLines.Item(2).SetSubItemToolTip(1, "Saucer in full");
 }
 
 void OrderForm::ReportError(std::string_view routine, const vb::RunTimeError& error) {

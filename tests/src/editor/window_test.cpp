@@ -244,6 +244,10 @@ TEST_F(EditorWindow, TheListOpensItemEntryTheWayItsUserMeans) {
     expectItemEntry();
     Press(editor->lvwrequest, "F10");
     EXPECT_EQ((Texts{"N 0", "N 0", "N 0"}), opened);
+    expectItemEntry();
+    editor->txtRemarks.SetFocus();
+    editor->mnuAdd.Click.Fire();
+    EXPECT_TRUE(editor->lvwrequest.HasFocus()) << "where the next line is entered";
 
     opened.clear();
     AddThreeLines();

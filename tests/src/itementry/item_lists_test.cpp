@@ -233,6 +233,19 @@ TEST_F(SuiteLookup, ItemsAreChosenInTheSuitesOwnLookup) {
     support::Click(form->cmdOk);
     EXPECT_EQ(editor->lvwrequest.Item(1).SubItem(goods::kLineItemCode), "KT1016");
 
+    // Picked with the cursor in the quantity already, the proposal there is typed over.
+    support::Type(form->txtQuantity, "1");
+    shop.desktop.ExpectForm("frmLookup", [](controls::Form& opened) {
+      auto& lookup = dynamic_cast<suite::frmLookup&>(opened);
+      support::Enter(lookup.txtsearch, "Frying pan 20");
+      support::Click(lookup.cmdOk);
+    });
+    support::Press(form->txtQuantity, "F3");
+    EXPECT_EQ(form->txtQuantity.Text(), "40");
+    support::Type(form->txtQuantity, "12");
+    EXPECT_EQ(form->txtQuantity.Text(), "12");
+    support::Click(form->cmdOk);
+
     // After the line is added its item is still in the combo: closing the lookup must not choose it again.
     shop.desktop.ExpectForm("frmLookup", [](controls::Form& lookup) { lookup.CloseByUser(); });
     support::Press(form->txtitemcode, "F3");

@@ -169,6 +169,28 @@ TEST_F(LineEntry, AQuantityIsANumberOfThreeDecimalsHoweverItGetsIn) {
   });
 }
 
+TEST_F(LineEntry, ADecimalCommaIsThePointAndWhatElseIsRefusedSoundsTheAlarm) {
+  Add([&] {
+    Scan("KT1001");
+    support::Enter(form->txtQuantity, "12,5");
+    EXPECT_EQ(form->txtQuantity.Text(), "12.5");
+    form->txtQuantity.SelectAll();
+    form->txtQuantity.Paste("7,25\r\n");
+    EXPECT_EQ(form->txtQuantity.Text(), "7.25");
+    EXPECT_EQ(shop.desktop.alarms, 0);
+    support::Type(form->txtQuantity, ",");
+    EXPECT_EQ(shop.desktop.alarms, 1);
+    support::Type(form->txtQuantity, "x");
+    EXPECT_EQ(shop.desktop.alarms, 2);
+    EXPECT_EQ(form->txtQuantity.Text(), "7.25");
+    session.gBlnIntegerQuantity = true;
+    support::Enter(form->txtQuantity, "3");
+    Refused("Only Integer Quantity is allowed");
+    support::Type(form->txtQuantity, ",");
+    EXPECT_EQ(form->txtQuantity.Text(), "3");
+  });
+}
+
 TEST_F(LineEntry, AChangedLineKeepsCodeAndUnitAndTakesTheItemsPartCode) {
   GivenLine(258, "2.000", "old");
   Edit(1, [&] {

@@ -1,4 +1,5 @@
 #include "src/editor/frm_request.h"
+#include "src/register/frm_cancel_reason.h"
 #include "tests/src/register/register_day.h"
 
 namespace {
@@ -111,6 +112,28 @@ TEST_F(RegisterButtons, KeysAndMouseOnTheGridDoWhatTheButtonsDo) {
     EXPECT_EQ("Workshop fitting, project", Grid().ToolTipText());
     Grid().MoveMouse(0, goods::kRegisterNo);
     EXPECT_EQ("Request No", Grid().ToolTipText());
+  });
+}
+
+TEST_F(RegisterButtons, AfterTheFormOfACommandTheListHasTheFocus) {
+  shop.workstation.WriteSettings({{"windowsprint", "0"}, {"printtoscreen", "1"}});
+  Open([&] {
+    GoTo(18);
+    for (controls::CommandButton* button :
+         {&Register().cmdnew, &Register().CmdEdit, &Register().Cmdprev, &Register().CmdDelete}) {
+      if (button == &Register().cmdnew) shop.desktop.ExpectMessage(kStockOut, controls::Answer::No);
+      if (button == &Register().CmdDelete)
+        shop.desktop.ExpectMessage("Are you sure you want to Delete GR24/10 ?", controls::Answer::Yes);
+      shop.desktop.ExpectForm(button == &Register().Cmdprev     ? "frmPrint"
+                              : button == &Register().CmdDelete ? "frmcancelreason"
+                                                                : "frmRequest",
+                              [](controls::Form& form) {
+                                if (auto* reason = dynamic_cast<goods::frmcancelreason*>(&form))
+                                  support::Type(reason->txtcanreason, "twice");
+                              });
+      support::Click(*button);
+      EXPECT_TRUE(Grid().HasFocus()) << button->Name();
+    }
   });
 }
 

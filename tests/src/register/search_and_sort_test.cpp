@@ -104,6 +104,38 @@ TEST_F(SearchAndSort, TypingFindsTheRequestInTheChosenColumn) {
   });
 }
 
+TEST_F(SearchAndSort, ItsKeyLeadsToTheBoxAndWhatIsNotFoundIsToldThere) {
+  Open([&] {
+    controls::TextBox& box = Register().txtsearch;
+    const controls::Color own = box.ForeColor();
+    support::Press(Grid(), "Alt+S");
+    EXPECT_TRUE(box.HasFocus());
+    EXPECT_EQ("Request No", Register().cboSearch.Text());
+    support::Type(box, "GR24/12");
+    EXPECT_EQ("20", CurrentId());
+    support::Choose(Register().cboSearch, "Remarks");
+    support::Press(Grid(), "Alt+S");
+    EXPECT_EQ("Remarks", Register().cboSearch.Text()) << "a column that is chosen stays";
+    EXPECT_EQ(0, shop.desktop.alarms);
+
+    support::Type(box, "toyz");  // over what was looked for before
+    EXPECT_EQ("toyz", box.Text());
+    EXPECT_EQ("20", CurrentId());
+    EXPECT_EQ(kRed, box.ForeColor());
+    EXPECT_EQ(1, shop.desktop.alarms);
+    support::Press(box, "Left");
+    EXPECT_EQ(1, shop.desktop.alarms) << "once a text";
+    support::Press(box, "Right");
+    support::Press(box, "Backspace");
+    EXPECT_EQ(own, box.ForeColor());
+    support::Type(box, "z");
+    EXPECT_EQ(2, shop.desktop.alarms);
+    support::Enter(box, "");
+    EXPECT_EQ(own, box.ForeColor());
+  });
+  Open([&] { EXPECT_EQ(-1, Register().cboSearch.ListIndex()) << "nothing is chosen before somebody goes there"; });
+}
+
 TEST_F(SearchAndSort, EnterMovesThroughTheBrowseControls) {
   Open([&] {
     Register().cboColNames.SetFocus();
