@@ -34,6 +34,7 @@ Const ErrNoCurrentRecord = 3021
 Const NativeDuplicate = 2627
 Const NativeDeadlock = 1205
 Const NativeLockTimeout = 1222
+Const NativeEndedInTrigger = 3609
 Const BrokenConnection = " 11 64 121 233 596 6005 10053 10054 10060 "
 
 Const TrialRequest = 900001  ' the request id of all that is written here
@@ -94,6 +95,8 @@ End Sub
 
 Sub ReadArguments()
   Dim argument, files, here, i
+  ' The other script host would show each line in a message box.
+  If InStr(LCase(WScript.FullName), "wscript.exe") > 0 Then Refuse "Run this with cscript."
   Set files = CreateObject("Scripting.FileSystemObject")
   here = files.GetParentFolderName(WScript.ScriptFullName)
   sqlFolder = files.BuildPath(files.GetParentFolderName(here), "suite\database")
@@ -460,6 +463,8 @@ Sub TryOnce()
   Begin "T7 T8" : TryDeadlock : Finish Err.Number, Err.Description
   Err.Clear
   Begin "T9 T10" : TryKill : Finish Err.Number, Err.Description
+  Err.Clear
+  Begin "T11" : TryRollbackInTrigger : Finish Err.Number, Err.Description
 End Sub
 
 Sub TryConnection()
@@ -959,6 +964,26 @@ Sub TryKill()
   RollBackQuietly victim
   Decide "T9", raised <> 0 And Count("tryTwo where id >= 80") = 0, text, _
          seen & "; RollbackTrans: " & Shown(errNumber, errText)
+End Sub
+
+Sub TryRollbackInTrigger()
+  Dim text, seen, native
+  text = "a trigger that rolls back is an error, and takes the whole transaction back"
+  If embedded Then
+    NotTried "T11", text, NoTriggers
+    Exit Sub
+  End If
+  ForgetTrialRequest
+  Run "create trigger tryTrigger on mosGoodsRequestDetail for insert as begin rollback transaction end"
+  con.BeginTrans
+  Run "insert into tryTwo (id, n) values (90, 0)"
+  Fails "insert into mosGoodsRequestDetail (GRDDetailid, GRDshopID, GRDrequestID, GRDitemID) values (1, 1, " & TrialRequest & ", 4)"
+  seen = LastError()
+  native = errNative
+  RollBackQuietly con
+  Ignore "drop trigger tryTrigger"
+  Decide "T11", native = NativeEndedInTrigger And Count("tryTwo where id >= 90") = 0 _
+         And Count("mosGoodsRequestDetail where GRDrequestID=" & TrialRequest) = 0, text, seen
 End Sub
 
 ' ---- Statements with something odd about them, as the component sends them
