@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,12 @@ class Desktop {
   virtual Menu* PopupMenu(Form& form, Menu& menu) = 0;
   /// Lets pending events run.
   virtual void DoEvents() {}
+  /// Runs `open`, which has another component show a window with this title, and keeps that component's objects for as long as
+  /// the window is there. Where there are no windows they are let go of at once.
+  virtual void KeepWhileShown(std::string_view title, std::vector<late::ObjectPtr> objects, const std::function<void()>& open) {
+    (void)title, (void)objects;
+    open();
+  }
   /// Whether the person has asked the system for colours of high contrast; nothing should be coloured over them then.
   virtual bool IsHighContrast() const { return false; }
   /// The system's alarm, for what was typed and is not taken.

@@ -57,7 +57,10 @@ void WIndowsprint(basGoodsRequest& session, std::int32_t requestId) {
   SetParameter(*report, 6, DepartmentName(session, db));
   const late::ObjectPtr options = report->Get("PrintWindowOptions").ToObject();
   for (const std::string_view option : kPreviewOptions) options->Put(option, true);
-  report->Call("Preview", {kTitle, 0, 0, 0, 0, kOverlappedMaximised});
+  // Without its objects the server closes the preview.
+  session.services.desktop.KeepWhileShown(kTitle, {server, report}, [&] {
+    report->Call("Preview", {kTitle, 0, 0, 0, 0, kOverlappedMaximised});
+  });
 }
 
 }  // namespace goods

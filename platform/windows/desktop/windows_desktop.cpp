@@ -8,6 +8,7 @@
 #include "base/controls/menu.h"
 #include "base/controls/text_box.h"
 #include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/shown_objects.h"
 #include "platform/windows/wide_text.h"
 
 namespace windows {
@@ -183,6 +184,16 @@ long WindowsDesktop::RowsShown(const controls::Control& list) const {
   const HWND window = HandleOf(list);
   const long rows = window != nullptr ? static_cast<long>(SendMessageW(window, LVM_GETCOUNTPERPAGE, 0, 0)) : 0;
   return rows > 0 ? rows : Desktop::RowsShown(list);
+}
+
+void WindowsDesktop::KeepWhileShown(std::string_view title, std::vector<late::ObjectPtr> objects,
+                                    const std::function<void()>& open) {
+  const std::wstring wide = Wide(title);
+  const std::vector<HWND> before = WindowsTitled(wide);
+  open();
+  for (HWND window : WindowsTitled(wide)) {
+    if (std::ranges::find(before, window) == before.end()) return KeepWhileOpen(window, std::move(objects));
+  }
 }
 
 void WindowsDesktop::DoEvents() {

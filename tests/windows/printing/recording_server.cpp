@@ -63,6 +63,13 @@ std::string Written(const VARIANT& variant) {
   }
 }
 
+HWND ShowPreview(const VARIANT& title) {
+  const HWND window = CreateWindowExW(0, L"STATIC", title.bstrVal, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 500, 400, nullptr,
+                                      nullptr, GetModuleHandleW(nullptr), nullptr);
+  SetActiveWindow(window);
+  return window;
+}
+
 bool Fits(const Member& member, WORD flags, const DISPPARAMS& parameters) {
   if (member.use == Use::Put)
     return flags == DISPATCH_PROPERTYPUT && parameters.cNamedArgs == 1 && *parameters.rgdispidNamedArgs == DISPID_PROPERTYPUT;
@@ -107,6 +114,7 @@ HRESULT RecordedObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* 
     info->bstrDescription = windows::Bstr(std::string_view("The server says no")).Detach();
     return DISP_E_EXCEPTION;
   }
+  if (call == "Report.Preview" && recording_.shows) recording_.preview = ShowPreview(parameters->rgvarg[parameters->cArgs - 1]);
   if (member.gives < 0 || !result) return S_OK;
   const bool indexed = member.use == Use::Read && parameters->cArgs == 1;
   const std::string name = std::string(NameOf(member.gives)) + (indexed ? "(" + arguments + ")" : "");

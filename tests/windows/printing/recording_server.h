@@ -13,6 +13,8 @@ struct Recording {
   std::string failing;     ///< the member that fails, "Application.OpenReport"; none when empty
   HRESULT failure = S_OK;  ///< with this result and the text "The server says no"
   int living = 0;          ///< objects of the server that somebody still holds
+  bool shows = false;      ///< whether a preview is a window
+  HWND preview = nullptr;  ///< the last one
 };
 
 /// One object of a report server of somebody else's. As strict as a compiled server: a method is called, a property read or put,

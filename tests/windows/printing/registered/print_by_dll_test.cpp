@@ -49,6 +49,7 @@ class Person {
   bool IsDone() const { return steps_.empty(); }
 
   static inline std::vector<std::string> messages;
+  static inline HWND activeAtLast = nullptr;  ///< the window in front as the last step was taken
 
  private:
   static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) { EnumThreadWindows(GetCurrentThreadId(), Meet, 0); }
@@ -71,6 +72,7 @@ class Person {
     if (!step.button.empty()) EnumChildWindows(window, TakeVisibleChild, reinterpret_cast<LPARAM>(&wanted));
     if (!step.button.empty() && !wanted.found) return TRUE;
     const HWND button = wanted.found;
+    activeAtLast = GetActiveWindow();
     steps_.erase(steps_.begin());
     if (button) {
       SetActiveWindow(window);
@@ -120,6 +122,19 @@ TEST_F(PrintByDll, TheReportServerIsFoundAndDriven) {
   EXPECT_EQ(recording.calls[4], "Field(3).SetCurrentValue(13)");
   EXPECT_EQ(recording.calls[6], "Field(5).SetCurrentValue('Nora Halvard')");
   EXPECT_EQ(recording.calls[12], "Report.Preview('Request To HQ', 0, 0, 0, 0, 30343168)");
+  EXPECT_EQ(recording.living, 0);
+}
+
+TEST_F(PrintByDll, ThePreviewStaysInFrontAndItsServerAsLongAsItIsOpen) {
+  const ServerOnDuty server("Crystal.CRPE.Application", recording);
+  recording.shows = true;
+  WindowsPrint();
+  ASSERT_TRUE(IsWindow(recording.preview));
+  EXPECT_EQ(Person::activeAtLast, recording.preview) << "behind the register";
+  EXPECT_EQ(recording.living, 2) << "the server and the report";
+  DestroyWindow(recording.preview);
+  MSG message{};
+  while (recording.living > 0 && GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
   EXPECT_EQ(recording.living, 0);
 }
 
