@@ -25,7 +25,7 @@ BOOL CALLBACK NoteTitled(HWND window, LPARAM data) {
 }
 
 struct Kept {
-  HWND window;
+  HWND window = nullptr;
   std::vector<late::ObjectPtr> objects;
   ModuleLifetime::Reference keepsLoaded;
 };
@@ -52,7 +52,9 @@ std::vector<HWND> WindowsTitled(const std::wstring& title) {
 }
 
 void KeepWhileOpen(HWND window, std::vector<late::ObjectPtr> objects) {
-  auto kept = std::make_unique<Kept>(Kept{window, std::move(objects), {}});
+  auto kept = std::make_unique<Kept>();
+  kept->window = window;
+  kept->objects = std::move(objects);
   const HWND keeper = CreateWindowExW(0, WC_STATICW, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, ThisModule(), nullptr);
   if (keeper == nullptr || !SetWindowSubclass(keeper, KeeperProcedure, 1, reinterpret_cast<DWORD_PTR>(kept.get()))) return;
   static_cast<void>(kept.release());  // the keeper's, until it is destroyed

@@ -1,6 +1,7 @@
 #include "tests/windows/hosts/bad_host.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <functional>
 #include <memory>
@@ -21,6 +22,8 @@ constexpr const char* kEditor = "Goods Request";
 constexpr UINT kWork = WM_APP + 1;
 constexpr long kAlreadyShown = 400;
 constexpr long kNoWindow = 7;
+constexpr DWORD kLook = 100;  // milliseconds
+constexpr int kMostLooks = 300;
 
 bool failed = false;
 
@@ -288,6 +291,40 @@ void ConnectionClosed() {
   Expect(!host.hands.messages.empty(), "errors are reported");
 }
 
+/// The file of the program that a window belongs to.
+std::wstring ProgramOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  std::array<wchar_t, MAX_PATH> path{};
+  auto length = static_cast<DWORD>(path.size());
+  const HANDLE handle = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
+  if (!QueryFullProcessImageNameW(handle, 0, path.data(), &length)) length = 0;
+  CloseHandle(handle);
+  return {path.data(), length};
+}
+
+void ViewerPlanted() {
+  std::array<wchar_t, MAX_PATH> windows{};
+  std::array<wchar_t, MAX_PATH> folder{};
+  GetWindowsDirectoryW(windows.data(), MAX_PATH);
+  GetTempPathW(MAX_PATH, folder.data());
+  const std::wstring planted = std::wstring(folder.data()) + L"notepad.exe";
+  Expect(CopyFileW((std::wstring(windows.data()) + L"\\system32\\hostname.exe").c_str(), planted.c_str(), FALSE) != 0,
+         "another program is named like the viewer");
+  SetCurrentDirectoryW(folder.data());
+  Host host;
+  host.hands.plan[kRegister] = {Hands::Press("Print")};
+  host.hands.plan["Print"] = {Hands::Press("OK")};
+  Expect(host.Show() == 0 && host.hands.messages.empty(), "the slip is shown: " + host.hands.Said());
+  HWND viewer = nullptr;
+  for (int look = 0; look < kMostLooks && viewer == nullptr; ++look, Sleep(kLook)) viewer = FindWindowW(L"Notepad", nullptr);
+  const std::wstring program = ProgramOf(viewer);
+  Expect(lstrcmpiW(program.c_str(), (std::wstring(windows.data()) + L"\\notepad.exe").c_str()) == 0,
+         "by the system's own viewer");
+  PostMessageW(viewer, WM_CLOSE, 0, 0);
+  DeleteFileW(planted.c_str());
+}
+
 void BadHelpers(Mischief mischief) {
   const std::vector<std::string> helpers = {"ShopCommon.clsCommonDB", "ShopCommon.clsCommonGen", "Lookup.clsFetch",
                                             "Theme.clsFormcolor",     "Audit.clsUserAuditing",   "GridPrefs.clsMasterGridSetting",
@@ -334,6 +371,7 @@ const std::vector<Case>& Cases() {
       {"no_active_window", NoActiveWindow},
       {"everything_let_go", EverythingLetGo},
       {"connection_closed", ConnectionClosed},
+      {"viewer_planted", ViewerPlanted},
       {"helpers_missing", [] { BadHelpers(Mischief::Missing); }},
       {"helpers_nameless", [] { BadHelpers(Mischief::Nameless); }},
       {"helpers_throwing", [] { BadHelpers(Mischief::Throwing); }},
