@@ -246,7 +246,7 @@ void NoActiveWindow() {
   Expect(owned, "the register belongs to the host's window");
 }
 
-[[maybe_unused]] void TwoShows() {
+void TwoShows() {
   Host host;
   long second = 0;
   host.hands.plan[kRegister] = {[&](HWND) {
@@ -345,6 +345,8 @@ void BadHelpers(Mischief mischief) {
   std::vector<std::unique_ptr<BadHelper>> bad;
   for (const std::string& helper : helpers) bad.push_back(std::make_unique<BadHelper>(helper, mischief));
   visit("everybody");
+  const bool takesErrors = mischief != Mischief::Missing && mischief != Mischief::Nameless && mischief != Mischief::Throwing;
+  Expect(host.hands.messages.empty() == takesErrors, "errors that no helper takes are shown: " + host.hands.Said());
   bad.clear();
   host.hands.messages.clear();
   host.hands.plan[kRegister] = {Hands::Press("New")};
@@ -369,6 +371,7 @@ const std::vector<Case>& Cases() {
       {"hook_refuses_the_register", HookRefusesTheRegister},
       {"hook_refuses_the_editor", HookRefusesTheEditor},
       {"no_active_window", NoActiveWindow},
+      {"two_shows", TwoShows},
       {"everything_let_go", EverythingLetGo},
       {"connection_closed", ConnectionClosed},
       {"viewer_planted", ViewerPlanted},
@@ -377,6 +380,7 @@ const std::vector<Case>& Cases() {
       {"helpers_throwing", [] { BadHelpers(Mischief::Throwing); }},
       {"helpers_giving_nothing", [] { BadHelpers(Mischief::Nothing); }},
       {"helpers_giving_nonsense", [] { BadHelpers(Mischief::Nonsense); }},
+      {"helpers_without_end", [] { BadHelpers(Mischief::Endless); }},
   };
   return cases;
 }
