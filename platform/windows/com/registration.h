@@ -3,7 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/windows/windows_gate.h"
+#include "platform/windows/com/registration_place.h"
+#include "platform/windows/com/registry_key.h"
 
 namespace windows {
 
@@ -21,21 +22,23 @@ struct ServerRegistration {
   bool hasTypeLibrary = false;  ///< as the module's own resource
 };
 
-enum class RegistrationScope { Machine, User };
+/// A ProgID of the server belongs to another class: it was left alone, all else was done.
+constexpr HRESULT kProgIdOfAnother = static_cast<HRESULT>(0x80040201);  // SELFREG_E_CLASS
 
-/// Registers for the machine, or for the user where the machine's registry is refused. Nothing is left behind by a failure.
+/// Registers for the machine, or for the user where the machine's registry is refused; the user's own entries go when the machine
+/// has them. Nothing is left behind by a failure, kProgIdOfAnother excepted.
 HRESULT RegisterServer(const ServerRegistration& server);
-HRESULT RegisterServer(const ServerRegistration& server, RegistrationScope scope);
+/// `view`: the half of the registry for the classes.
+HRESULT RegisterServer(const ServerRegistration& server, RegistrationScope scope, RegistryView view = RegistryView::Own);
 
-/// Takes everything out again, for the machine and for the user. What is not there counts as taken out; a ProgID that meanwhile
-/// belongs to another class is left alone.
+/// Takes everything out again, for the machine and for the user, but what the server of the other width shares with it. What is
+/// not there counts as taken out. E_ACCESSDENIED when the machine has it and this user may not change that; kProgIdOfAnother when
+/// a ProgID meanwhile belongs to another class.
 HRESULT UnregisterServer(const ServerRegistration& server);
-HRESULT UnregisterServer(const ServerRegistration& server, RegistrationScope scope);
+HRESULT UnregisterServer(const ServerRegistration& server, RegistrationScope scope, RegistryView view = RegistryView::Own);
 
 /// The full path of the DLL or program that this code is part of, and its handle.
 std::wstring ModulePath();
 HINSTANCE ModuleHandle();
-
-std::wstring GuidText(const GUID& id);
 
 }  // namespace windows

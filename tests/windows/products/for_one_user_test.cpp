@@ -6,34 +6,15 @@
 
 #include "platform/windows/com/com_factory.h"
 #include "platform/windows/com/registry_key.h"
+#include "tests/windows/products/server_file.h"
 
+using counter::ServerFile;
 using windows::RegistryKey;
 
 namespace {
 
-using EntryPoint = HRESULT(STDAPICALLTYPE*)();
-
 const std::wstring kClasses = L"Software\\Classes\\";
 const std::wstring kProgId = L"tq8v4461.clsGoodsRequest";
-
-/// Server DLL, loaded to be told to register.
-class ServerFile {
- public:
-  explicit ServerFile(const wchar_t* path) : module_(LoadLibraryW(path)) {}
-  ServerFile(const ServerFile&) = delete;
-  ServerFile& operator=(const ServerFile&) = delete;
-  ~ServerFile() {
-    if (module_) FreeLibrary(module_);
-  }
-
-  HRESULT Call(const char* entryPoint) const {
-    const auto call = reinterpret_cast<EntryPoint>(reinterpret_cast<void*>(GetProcAddress(module_, entryPoint)));
-    return call ? call() : E_NOINTERFACE;
-  }
-
- private:
-  HMODULE module_;
-};
 
 /// While it lives, nobody may write to the classes of the machine.
 class MachineRefused {
@@ -124,6 +105,32 @@ TEST(ForOneUser, AServerThatMayNotWriteForTheMachineServesItsUser) {
     EXPECT_FALSE(RegistryKey::Exists(root, kClasses + L"TypeLib\\" + library));
   }
   CoUninitialize();
+}
+
+TEST(ForOneUser, TheMachinesRegistrationTakesTheUsersPlace) {
+  const ServerFile server(COMPONENT);
+  {
+    const MachineRefused refused;
+    ASSERT_EQ(server.Call("DllRegisterServer"), S_OK);
+  }
+  ASSERT_TRUE(RegistryKey::Exists(HKEY_CURRENT_USER, kClasses + kProgId));
+  ASSERT_EQ(server.Call("DllRegisterServer"), S_OK);
+  EXPECT_TRUE(RegistryKey::Exists(HKEY_LOCAL_MACHINE, kClasses + kProgId));
+  EXPECT_FALSE(RegistryKey::Exists(HKEY_CURRENT_USER, kClasses + kProgId)) << "it would hide the machine's";
+  EXPECT_EQ(server.Call("DllUnregisterServer"), S_OK);
+}
+
+TEST(ForOneUser, WhoMayNotTakeTheMachinesOutIsToldAndLeavesItWhole) {
+  const ServerFile server(COMPONENT);
+  ASSERT_EQ(server.Call("DllRegisterServer"), S_OK);
+  const std::wstring id = RegistryKey::ReadText(HKEY_LOCAL_MACHINE, kClasses + kProgId + L"\\CLSID");
+  {
+    const MachineRefused refused;
+    EXPECT_EQ(server.Call("DllUnregisterServer"), E_ACCESSDENIED);
+  }
+  EXPECT_TRUE(RegistryKey::Exists(HKEY_LOCAL_MACHINE, kClasses + L"CLSID\\" + id + L"\\InprocServer32"));
+  EXPECT_EQ(server.Call("DllUnregisterServer"), S_OK);
+  EXPECT_FALSE(RegistryKey::Exists(HKEY_LOCAL_MACHINE, kClasses + L"CLSID\\" + id));
 }
 
 }  // namespace

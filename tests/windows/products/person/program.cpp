@@ -26,7 +26,7 @@ Program::Program(const std::string& commandLine) : complaint_(SharedFile()) {
   STARTUPINFOW start{};
   start.cb = sizeof(start);
   start.dwFlags = STARTF_USESTDHANDLES;
-  start.hStdOutput = GetStdHandle(STD_OUTPUT_HANDLE);
+  start.hStdOutput = complaint_;
   start.hStdError = complaint_;
   if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process_)) {
     CloseHandle(complaint_);

@@ -19,7 +19,7 @@ class Program {
   bool HasEnded() const;
   /// Waits for the end and gives the exit code. Throws std::runtime_error when it does not come.
   DWORD ExitCode();
-  /// What it wrote to its error output, once it has ended.
+  /// What it wrote to its outputs, which are complaints as a rule, once it has ended.
   std::string Complaint();
 
  private:
