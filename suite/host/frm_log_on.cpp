@@ -23,8 +23,14 @@ std::int32_t ChosenId(const ComboBox& list) {
 
 }  // namespace
 
-frmLogOn::frmLogOn(controls::Desktop& desktop, ado::Connection connection, HostMemory& memory, vb::Date today, Open open)
-    : Form(desktop, "frmLogOn"), connection_(std::move(connection)), memory_(memory), today_(today), open_(std::move(open)) {
+frmLogOn::frmLogOn(controls::Desktop& desktop, ado::Connection connection, HostMemory& memory, vb::Date today,
+                   LogOnPresets presets, Open open)
+    : Form(desktop, "frmLogOn"),
+      connection_(std::move(connection)),
+      memory_(memory),
+      today_(today),
+      presets_(presets),
+      open_(std::move(open)) {
   On(Loading, "Form_Load", &frmLogOn::Form_Load);
   On(cboShop.Click, "cboShop_Click", &frmLogOn::cboShop_Click);
   On(cmdopen.Click, "cmdopen_Click", &frmLogOn::cmdopen_Click);
@@ -57,18 +63,18 @@ void frmLogOn::Design() {
 }
 
 void frmLogOn::Form_Load() {
-  const std::string remembered = memory_.Read(kDate);
-  txtdate.SetText(vb::DateText(vb::TryParseDate(remembered).value_or(today_)));
-  Fill(cboCompany, "select companyid,name from aCompanyMaster order by name", kCompany);
-  Fill(cboShop, "select ShopID,shopname from aShops order by shopname", kShop);
+  const vb::Date remembered = vb::TryParseDate(memory_.Read(kDate)).value_or(today_);
+  txtdate.SetText(vb::DateText(presets_.processDate.value_or(remembered)));
+  Fill(cboCompany, "select companyid,name from aCompanyMaster order by name", kCompany, presets_.companyId);
+  Fill(cboShop, "select ShopID,shopname from aShops order by shopname", kShop, presets_.shopId);
 }
 
 void frmLogOn::cboShop_Click() {
-  Fill(cboUser, UsersQuery(ChosenId(cboShop)), kUser);
+  Fill(cboUser, UsersQuery(ChosenId(cboShop)), kUser, presets_.userId);
 }
 
-void frmLogOn::Fill(ComboBox& list, std::string_view statement, std::string_view remembered) {
-  const double wanted = vb::Val(memory_.Read(remembered));
+void frmLogOn::Fill(ComboBox& list, std::string_view statement, std::string_view remembered, std::optional<std::int32_t> preset) {
+  const double wanted = preset ? *preset : vb::Val(memory_.Read(remembered));
   list.Clear();
   ado::Recordset rows = connection_.Execute(statement);
   int select = 0;
@@ -86,6 +92,20 @@ std::optional<LogOn> frmLogOn::Chosen() {
   const auto date = vb::TryParseDate(txtdate.Text());
   if (cboCompany.ListIndex() < 0 || cboShop.ListIndex() < 0 || cboUser.ListIndex() < 0 || !date) return std::nullopt;
   return LogOn{ChosenId(cboCompany), ChosenId(cboShop), ChosenId(cboUser), *date};
+}
+
+std::string frmLogOn::MissingPreset() {
+  Load();
+  const auto missing = [](const ComboBox& list, std::optional<std::int32_t> preset) {
+    return preset && ChosenId(list) != *preset;
+  };
+  const auto none = [](std::string_view what, std::int32_t id) {
+    return "There is no " + std::string(what) + " " + std::to_string(id);
+  };
+  if (missing(cboCompany, presets_.companyId)) return none("company", *presets_.companyId);
+  if (missing(cboShop, presets_.shopId)) return none("shop", *presets_.shopId);
+  if (missing(cboUser, presets_.userId)) return none("user", *presets_.userId) + " in this shop";
+  return {};
 }
 
 bool frmLogOn::Refuse(Control& control, std::string_view text) {

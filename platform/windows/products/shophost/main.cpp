@@ -43,15 +43,38 @@ void Run(const windows::Options& options) {
   windows::RegistryMemory memory;
   const windows::Shop shop = windows::OpenShop(factory, options, workstation.Now());
   const auto open = [&](const suite::LogOn& logOn) { OpenGoodsRequests(factory, shop.connection, logOn); };
-  const auto form = std::make_shared<suite::frmLogOn>(desktop, shop.connection, memory, shop.processDate, open);
-  if (!options.unattended) return form->Show();
+  const auto form = std::make_shared<suite::frmLogOn>(desktop, shop.connection, memory, shop.processDate, options.logOn, open);
+  if (!options.unattended) {
+    if (const std::string missing = form->MissingPreset(); !missing.empty()) vb::Raise(vb::kInvalidCall, missing);
+    return form->Show();
+  }
   // What the switches leave open is as the window would offer it.
   suite::LogOn logOn = form->Chosen().value_or(suite::LogOn{});
-  logOn.companyId = options.company.value_or(logOn.companyId);
-  logOn.shopId = options.shop.value_or(logOn.shopId);
-  logOn.userId = options.user.value_or(logOn.userId);
-  logOn.processDate = options.date.value_or(logOn.processDate);
+  logOn.companyId = options.logOn.companyId.value_or(logOn.companyId);
+  logOn.shopId = options.logOn.shopId.value_or(logOn.shopId);
+  logOn.userId = options.logOn.userId.value_or(logOn.userId);
+  logOn.processDate = options.logOn.processDate.value_or(logOn.processDate);
   open(logOn);
+}
+
+/// Writes to the output that the program was given, or to the console that it was started from; a program of windows has neither
+/// when it was started from a folder.
+bool WriteOut(std::string_view text) {
+  const auto write = [&](HANDLE output) {
+    DWORD written = 0;
+    return WriteFile(output, text.data(), static_cast<DWORD>(text.size()), &written, nullptr) != 0;
+  };
+  if (write(GetStdHandle(STD_OUTPUT_HANDLE))) return true;
+  if (!AttachConsole(ATTACH_PARENT_PROCESS)) return false;
+  const HANDLE console = CreateFileW(L"CONOUT$", GENERIC_WRITE, FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+  const bool written = write(console);
+  CloseHandle(console);
+  return written;
+}
+
+void TellUsage() {
+  if (!WriteOut(windows::kUsage))
+    MessageBoxW(nullptr, windows::Wide(windows::kUsage).c_str(), kTitle, MB_ICONINFORMATION | MB_OK);
 }
 
 }  // namespace
@@ -65,7 +88,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
   bool unattended = false;
   for (const std::string& word : switches) unattended = unattended || word == "--unattended";
   try {
-    Run(windows::ReadOptions(switches));
+    const windows::Options options = windows::ReadOptions(switches);
+    options.help ? TellUsage() : Run(options);
     return 0;
   } catch (const vb::RunTimeError& error) {
     const std::string text = error.Description() + (error.Source().empty() ? "" : "\n(" + error.Source() + ")");

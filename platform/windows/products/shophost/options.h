@@ -1,11 +1,9 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "base/vb/date.h"
+#include "suite/host/frm_log_on.h"
 
 namespace windows {
 
@@ -14,11 +12,12 @@ struct Options {
   std::string connection;  ///< a real ADO connection string; empty for the embedded database
   std::string database;    ///< file of the embedded database; empty for the user's own
   bool unattended = false;
-  std::optional<std::int32_t> company;
-  std::optional<std::int32_t> shop;
-  std::optional<std::int32_t> user;
-  std::optional<vb::Date> date;
+  bool help = false;  ///< nothing but the usage is wanted
+  suite::LogOnPresets logOn;
 };
+
+/// The program's switches, for who asks or errs.
+extern const char* const kUsage;
 
 /// Reads the switches (UTF-8, without the program's name). Error 5 with a sentence for the user when one cannot be read.
 Options ReadOptions(const std::vector<std::string>& words);
