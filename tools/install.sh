@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what the named parts need on a bare Debian 12, and nothing that is there already.
-# Usage: tools/install.sh [native] [tests] [windows]
+# Usage: tools/install.sh [native] [tests] [windows] [checks]
 set -euo pipefail
 
 packages=()
@@ -10,6 +10,7 @@ for part in "$@"; do
     tests) packages+=(libgtest-dev googletest) ;;
     windows) packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev
                         xvfb xauth imagemagick xdotool fonts-wine npm googletest debootstrap) ;;
+    checks) packages+=(clang-format clang-tidy) ;;
     *) echo "install.sh: no such part: $part" >&2; exit 2 ;;
   esac
 done

@@ -50,7 +50,9 @@ std::string Named(std::string_view type, std::string_view member) {
 }  // namespace
 
 MemberError::MemberError(long number, std::string_view type, std::string_view member)
-    : RunTimeError(number, std::string(vb::ErrorText(number)) + ": '" + Named(type, member) + "'"), type_(type), member_(member) {}
+    : RunTimeError(number, std::string(vb::ErrorText(number)) + ": '" + Named(type, member) + "'"),
+      type_(type),
+      member_(member) {}
 
 bool MemberError::IsAbout(const Object& object, std::string_view member) const {
   return vb::EqualNoCase(member_, member) && type_ == object.TypeName();

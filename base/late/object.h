@@ -73,10 +73,10 @@ class Arguments {
 template <class T>
 struct Member {
   std::string_view name;
-  std::function<Value(T&, Arguments&)> get;   ///< property read, or a method's body
-  std::function<void(T&, Arguments&)> put;    ///< property write: the last argument is the value
-  int least = 0;                              ///< arguments that must be there (the value put not counted)
-  int most = 0;                               ///< arguments that may be there
+  std::function<Value(T&, Arguments&)> get;  ///< property read, or a method's body
+  std::function<void(T&, Arguments&)> put;   ///< property write: the last argument is the value
+  int least = 0;                             ///< arguments that must be there (the value put not counted)
+  int most = 0;                              ///< arguments that may be there
 };
 
 /// The members of a native late-bound class, looked up by name without regard to case. A class declares one static table;
@@ -147,7 +147,8 @@ class TableObject : public Object {
  public:
   Value Invoke(std::string_view member, Access access, std::span<Value> arguments) override {
     const auto& table = T::Members();
-    if (const auto* found = table.Find(member)) return table.Invoke(static_cast<T&>(*this), TypeName(), *found, access, arguments);
+    if (const auto* found = table.Find(member))
+      return table.Invoke(static_cast<T&>(*this), TypeName(), *found, access, arguments);
     detail::RaiseUnknownMember(TypeName(), member);
   }
   bool Has(std::string_view member) const override { return T::Members().Find(member) != nullptr; }

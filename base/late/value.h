@@ -50,8 +50,7 @@ class Value {
   Value(const char* value) : storage_(std::string(value)) {}
   Value(ObjectPtr value) : storage_(std::move(value)) {}
   template <class T>
-    requires std::is_convertible_v<T*, Object*>
-  Value(std::shared_ptr<T> value) : storage_(ObjectPtr(std::move(value))) {}
+  requires std::is_convertible_v<T*, Object*> Value(std::shared_ptr<T> value) : storage_(ObjectPtr(std::move(value))) {}
   Value(ArrayPtr value) : storage_(std::move(value)) {}
 
   /// An argument passed by reference: the callee's write reaches `target`, which must outlive the call.

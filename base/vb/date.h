@@ -27,8 +27,9 @@ DateParts PartsOf(Date date);
 /// dd/mm/yyyy, with " HH:MM:SS" behind it when the date has a time of day.
 std::string DateText(Date date);
 
-/// Reads dd/mm/yyyy, yyyy/mm/dd and yyyy-mm-dd (one or two digits for day and month), each with an optional time HH:MM or HH:MM:SS;
-/// also yyyymmdd. Years 100 to 9999. Surrounding blanks are allowed. Nothing when the text is no date: never a silent other date.
+/// Reads dd/mm/yyyy, yyyy/mm/dd and yyyy-mm-dd (one or two digits for day and month), each with an optional time HH:MM or
+/// HH:MM:SS; also yyyymmdd. Years 100 to 9999. Surrounding blanks are allowed. Nothing when the text is no date: never a silent
+/// other date.
 std::optional<Date> TryParseDate(std::string_view text);
 /// The same; error 13 when the text is no date.
 Date ParseDate(std::string_view text);

@@ -73,7 +73,8 @@ struct ShopSession::Parts {
         module(goods::Services{desktop, workstation, factory}),
         interpreter(desktop, output) {
     suite::RegisterAdo(registry);
-    suite::RegisterHelpers(registry, std::make_shared<suite::Surroundings>(suite::Surroundings{desktop, workstation, registry, {}}));
+    suite::RegisterHelpers(registry,
+                           std::make_shared<suite::Surroundings>(suite::Surroundings{desktop, workstation, registry, {}}));
     if (options.reportServer) {
       registry.Register(std::string(kReportServer),
                         [this] { return std::make_shared<RecordingObject>(std::string(kReportServer), output); });

@@ -76,7 +76,7 @@ bool Session::Step(sqlite3_stmt* statement) {
     const ServerError error = *functions_.error;
     functions_.error.reset();
     sqlite3_reset(statement);
-    throw error;
+    throw ServerError(error);
   }
   try {
     RaiseFromStore(handle_, code);
@@ -94,7 +94,7 @@ StatementHandle Session::Prepare(Translation translation) {
 }
 
 void RunResult::RaiseLater() const {
-  if (later && later->error) throw *later->error;
+  if (later && later->error) throw ServerError(*later->error);
 }
 
 bool Session::HasUnreadRows() const {

@@ -27,8 +27,8 @@ TEST_F(ShopConnection, SpeaksTheClassicMembers) {
   connection.ExecuteNoRecords("delete t");
   connection.SetCommandTimeout(0);
   EXPECT_EQ(connection.State(), ado::kOpen);
-  EXPECT_EQ(server->log,
-            (Lines{"call Execute [update t set a=1]", "call Execute [delete t] [] [129]", "put CommandTimeout [0]", "get State"}));
+  EXPECT_EQ(server->log, (Lines{"call Execute [update t set a=1]", "call Execute [delete t] [] [129]", "put CommandTimeout [0]",
+                                "get State"}));
 }
 
 TEST_F(ShopConnection, CommitsOnce) {

@@ -281,7 +281,8 @@ TEST_F(EditorWindow, TheMenuOffersWhatTheLinesAllow) {
 TEST_F(EditorWindow, TheLinesAreInSightWithAllTheirColumns) {
   New([&] {
     int together = 0;
-    for (int column = 1; column <= editor->lvwrequest.ColumnCount(); ++column) together += editor->lvwrequest.Column(column).width;
+    for (int column = 1; column <= editor->lvwrequest.ColumnCount(); ++column)
+      together += editor->lvwrequest.Column(column).width;
     constexpr int kScrollBar = 300;
     EXPECT_LE(together + kScrollBar, editor->lvwrequest.Place().width);
   });
