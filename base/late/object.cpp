@@ -77,7 +77,7 @@ void Object::Put(std::string_view member, Value value) {
 void Object::Put(std::string_view member, std::initializer_list<Value> indexes, Value value) {
   CallArguments all;
   for (const Value& index : indexes) all.Add(index);
-  all.Add(value);
+  all.Add(std::move(value));
   Invoke(member, Access::Put, all.All());
 }
 
@@ -129,7 +129,7 @@ Value GetThrough(ObjectPtr held, Arguments& index) {
   return index.Has(0) ? held->Invoke("", Access::Get, index.All()) : Value(std::move(held));
 }
 
-void PutThrough(ObjectPtr held, Arguments& indexAndValue) {
+void PutThrough(const ObjectPtr& held, Arguments& indexAndValue) {
   const std::span<Value> all = indexAndValue.All();
   if (all.size() < 2) vb::Raise(vb::kMemberNotFound);
   held->Invoke("", Access::Get, all.first(all.size() - 1)).ToObject()->Put("", all.back().Deref());

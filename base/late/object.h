@@ -102,7 +102,7 @@ class NameIndex {
 };
 [[noreturn]] void RaiseUnknownMember(std::string_view type, std::string_view member);
 Value GetThrough(ObjectPtr held, Arguments& index);
-void PutThrough(ObjectPtr held, Arguments& indexAndValue);
+void PutThrough(const ObjectPtr& held, Arguments& indexAndValue);
 void CheckArgumentCount(std::string_view type, std::string_view member, std::size_t given, int least, int most);
 }  // namespace detail
 

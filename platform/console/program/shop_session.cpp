@@ -37,7 +37,7 @@ void FillNewDatabase(suite::Database& database, const Options& options) {
 std::shared_ptr<suite::Database> OpenDatabase(const Options& options) {
   suite::Database::Options settings;
   if (options.now) settings.clock = [now = *options.now] { return now; };
-  const auto database = suite::Database::Open(options.database, std::move(settings));
+  auto database = suite::Database::Open(options.database, std::move(settings));
   if (database->IsEmpty()) FillNewDatabase(*database, options);
   if (!options.init.empty()) {
     std::ifstream stream(options.init, std::ios::binary);
