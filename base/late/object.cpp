@@ -74,10 +74,10 @@ void Object::Put(std::string_view member, Value value) {
   Invoke(member, Access::Put, std::span<Value>(&value, 1));
 }
 
-void Object::Put(std::string_view member, std::initializer_list<Value> indexes, Value value) {
+void Object::Put(std::string_view member, std::initializer_list<Value> indexes, const Value& value) {
   CallArguments all;
   for (const Value& index : indexes) all.Add(index);
-  all.Add(std::move(value));
+  all.Add(value);
   Invoke(member, Access::Put, all.All());
 }
 

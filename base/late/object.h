@@ -45,7 +45,7 @@ class Object : public std::enable_shared_from_this<Object> {
   // Conveniences for callers. Arguments made with Value::ByRef are written back.
   Value Get(std::string_view member, std::initializer_list<Value> arguments = {});
   void Put(std::string_view member, Value value);
-  void Put(std::string_view member, std::initializer_list<Value> indexes, Value value);
+  void Put(std::string_view member, std::initializer_list<Value> indexes, const Value& value);
   void PutRef(std::string_view member, ObjectPtr value);
   Value Call(std::string_view member, std::initializer_list<Value> arguments = {});
 };
