@@ -203,6 +203,16 @@ void Row(TextDesktop& desktop, Words& words) {
   if (TakeFocus(control)) list.ClickItem(line);
 }
 
+/// Unlike `row NAME 0`, which makes the heading row current, as code could.
+void Heading(TextDesktop& desktop, Words& words) {
+  auto& grid = As<FlexGrid>(ControlToFocus(desktop, words.Need("a grid")), "grid");
+  const long col = words.NeedNumber("the column");
+  words.End();
+  CheckColumn(grid, col);
+  if (grid.FixedRows() == 0) throw CommandError(grid.Name() + " has no headings");
+  if (TakeFocus(grid)) grid.ClickHeading(col);
+}
+
 void Select(TextDesktop& desktop, Words& words) {
   auto& grid = As<FlexGrid>(ControlToFocus(desktop, words.Need("a grid")), "grid");
   const long first = words.NeedNumber("the first row");
@@ -239,6 +249,7 @@ CommandGroup MouseCommands(TextDesktop& desktop) {
   add("check", "NAME [N]", "a check box, or line N of a list", [&desktop](Words& words) { Check(desktop, words, true); });
   add("uncheck", "NAME [N]", "the same, cleared", [&desktop](Words& words) { Check(desktop, words, false); });
   add("row", "NAME N [COL]", "row N of a grid (0 is the heading), line N of a list (from 1)", on(Row));
+  add("heading", "NAME COL", "the heading of a grid's column, which may sort", on(Heading));
   add("select", "NAME FIRST LAST", "several rows of a grid", on(Select));
   add("tab", "NAME N", "page N of a tabbed control, from 0", on(Tab));
   add("close", "", "the form, by its title bar", [&desktop](Words& words) {

@@ -93,8 +93,6 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   // Finding the item.
   void cboItem_KeyPress(int& character);
   void cboItem_Validate(bool& cancel);
-  /// Selects the combo's whole text, so that what is scanned or typed next takes its place.
-  void SelectItemText();
   void txtitemcode_KeyPress(int& character);
   void cmdFetch_Click();
   void ShowFetchDialog();

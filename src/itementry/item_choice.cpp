@@ -62,12 +62,7 @@ void frmRequestDetail::cboItem_Validate(bool& cancel) {
     const FlagSet restoring(restoring_);
     cboItem.SetListIndex(chosenEntry_ < cboItem.ListCount() ? chosenEntry_ : -1);
   }
-  SelectItemText();
-}
-
-void frmRequestDetail::SelectItemText() {
-  cboItem.SetSelStart(0);
-  cboItem.SetSelLength(static_cast<int>(vb::Len(cboItem.Text())));
+  cboItem.SelectAll();
 }
 
 void frmRequestDetail::ForgetItem() {

@@ -36,7 +36,7 @@ bool frmRequestDetail::RefusesEntry() {
   if (cboItem.ListIndex() == -1) {
     Tell("Select an item");
     FocusFirstOf({&cboItem});
-    SelectItemText();
+    cboItem.SelectAll();
   } else if (EnteredQuantity() == 0) {
     Tell("Enter quantity");
     FocusFirstOf({&txtQuantity});
@@ -50,7 +50,7 @@ bool frmRequestDetail::RefusesEntry() {
   } else if (IsDuplicateItem()) {
     Tell(cboItem.Text() + " Already Exists");
     FocusFirstOf({&cboItem});
-    SelectItemText();
+    cboItem.SelectAll();
   } else {
     return false;
   }

@@ -45,6 +45,13 @@ std::string GridRowMarks(const controls::FlexGrid& grid, long row) {
   return marks + (IsRed(grid, row) ? "!" : " ");
 }
 
+std::string HeadingOf(const controls::FlexGrid& grid, long col) {
+  if (grid.FixedRows() == 0 || grid.Rows() == 0) return {};
+  const std::string& heading = grid.TextMatrix(0, col);
+  if (col != grid.SortedCol()) return heading;
+  return heading + (grid.SortedAscending() ? " ▲" : " ▼");
+}
+
 std::string ListLineMarks(const controls::ListView& list, int line) {
   std::string marks = line == list.SelectedItem() ? " > " : "   ";
   if (list.CheckBoxes()) marks += list.Item(line).Checked() ? "[x] " : "[ ] ";
@@ -65,8 +72,8 @@ Canvas DrawGrid(const controls::FlexGrid& grid, int columns, int twipsPerColumn)
   Table table;
   table.headingMarks = std::string(MarkOf(grid)) + "  ";
   for (long col = 0; col < grid.Cols(); ++col) {
-    table.columns.push_back({grid.FixedRows() > 0 && grid.Rows() > 0 ? grid.TextMatrix(0, col) : "",
-                             InCharacters(grid.ColWidth(col), twipsPerColumn), AlignOf(grid.ColAlignment(col))});
+    table.columns.push_back(
+        {HeadingOf(grid, col), InCharacters(grid.ColWidth(col), twipsPerColumn), AlignOf(grid.ColAlignment(col))});
   }
   const RowWindow window = ShownRows(grid);
   for (long row = window.first; row <= window.last; ++row) {

@@ -147,6 +147,16 @@ TEST_F(ForeignObject, RefusalsOfTheCallItselfGetTheRuntimesNumbers) {
   }
 }
 
+TEST_F(ForeignObject, ThatStandsForItselfIsNoValue) {
+  witness->answer = [this](DISPPARAMS&, VARIANT* result, EXCEPINFO*) {
+    result->vt = VT_DISPATCH;
+    result->pdispVal = ComPtr<IDispatch>(witness.Get()).Detach();
+    return S_OK;
+  };
+  EXPECT_EQ(Raised([&] { Value(object).ToText(); }).Number(), 458);
+  EXPECT_LT(witness->calls.size(), 1000u) << "the host's stack is no limit";
+}
+
 TEST_F(ForeignObject, CrossingBackIsTheSameObject) {
   EXPECT_EQ(ObjectOf(witness.Get()), object);
   std::vector<IUnknown*> seen;

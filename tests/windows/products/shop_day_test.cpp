@@ -226,6 +226,53 @@ TEST(ShopDay, ARequestIsFoundByTyping) {
   EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
 }
 
+TEST(ShopDay, HeadingsSortAndTheRequestThatWasSelectedIsTheOneEdited) {
+  const ShopFolder folder;
+  Program host(Host(folder, kLoggedOn));
+  Person nora(host);
+  FormOnScreen requests = nora.Meets("Goods Request to HQ");
+  const Texts towels{"15", "GR24/7", "29/01/2024", "Towels for the hotel", "No", "No"};
+  const Texts toys{"20", "GR24/12", "20/02/2024", "Toys for the fair", "No", "No"};
+  requests.ClickRow(2);
+  requests.HasSelectedRow(towels);
+  requests.ClickHeading("Remarks");
+  requests.HasRow(15, {"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"});
+  requests.HasSelectedRow(towels);
+  requests.ClickHeading("Remarks");
+  requests.HasRow(0, {"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"});
+  requests.HasSelectedRow(towels);
+  requests.HasRow(1, toys);
+  requests.Click("Edit");
+  FormOnScreen editor = nora.Meets("Goods Request");
+  editor.Shows("Request No:", "GR24/7");
+  editor.Press("Esc");
+  editor.Goes();
+
+  // In the fetch dialog, too, OK takes the item that was selected before a heading was clicked.
+  editor = NewRequest(nora, requests);
+  editor.RightClickList();
+  nora.Picks('A');
+  FormOnScreen entry = nora.Meets("Goods Request Details");
+  entry.Press("Shift+F3");
+  FormOnScreen fetch = nora.Meets("Fetch Item");
+  EXPECT_EQ(fetch.Headings(), (Texts{"Item Code", "Item Description", "Brand", "Model No", "Part_Code"}));
+  fetch.Type("knife");
+  fetch.Press("Enter");
+  fetch.HasRows(5);
+  fetch.ClickRow(1);
+  fetch.ClickHeading("Item Description");
+  fetch.ClickHeading("Item Description");
+  fetch.Click("Ok");
+  fetch.Goes();
+  entry.Shows("Item:", "Paring knife 8 cm");
+  entry.Press("Esc");
+  entry.Goes();
+  editor.Press("Esc");
+  editor.Goes();
+  requests.Click("Close");
+  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+}
+
 TEST(ShopDay, TheListsGrowWithTheirWindows) {
   const ShopFolder folder;
   Program host(Host(folder, kLoggedOn));

@@ -160,22 +160,37 @@ bool ListOnScreen::IsSeen(int column) const {
   return Ask(list_, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)) > 0;
 }
 
+std::string ListOnScreen::HeadingAt(int column) const {
+  auto* there = static_cast<Letter*>(there_.Memory());
+  HDITEMW item{};
+  item.mask = HDI_TEXT;
+  item.pszText = there->text.data();
+  item.cchTextMax = static_cast<int>(kLongestText);
+  there_.Write(&item, sizeof(item));
+  Ask(header_, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(there));
+  std::array<wchar_t, kLongestText> text{};
+  there_.Read(there->text.data(), text.data(), sizeof(text));
+  return windows::Utf8(text.data());
+}
+
 Texts ListOnScreen::Headings() const {
   Texts headings;
-  auto* there = static_cast<Letter*>(there_.Memory());
   for (int column = 0; column < Columns(); ++column) {
-    if (!IsSeen(column)) continue;
-    HDITEMW item{};
-    item.mask = HDI_TEXT;
-    item.pszText = there->text.data();
-    item.cchTextMax = static_cast<int>(kLongestText);
-    there_.Write(&item, sizeof(item));
-    Ask(header_, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(there));
-    std::array<wchar_t, kLongestText> text{};
-    there_.Read(there->text.data(), text.data(), sizeof(text));
-    headings.push_back(windows::Utf8(text.data()));
+    if (IsSeen(column)) headings.push_back(HeadingAt(column));
   }
   return headings;
+}
+
+std::optional<POINT> ListOnScreen::PlaceOfHeading(const std::string& heading) const {
+  auto* there = static_cast<Letter*>(there_.Memory());
+  for (int column = 0; column < Columns(); ++column) {
+    if (!IsSeen(column) || HeadingAt(column) != heading) continue;
+    Ask(header_, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&there->place));
+    RECT place{};
+    there_.Read(&there->place, &place, sizeof(place));
+    return POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  }
+  return std::nullopt;
 }
 
 std::string ListOnScreen::TextAt(int row, int column) const {

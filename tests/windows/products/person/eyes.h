@@ -76,8 +76,12 @@ class ListOnScreen {
   bool IsTicked(int row) const;
   /// Brings a row into view and gives a point on its first visible cell, in the list's own coordinates.
   POINT PlaceOf(int row) const;
+  /// The window of the headings, and a point on one of them in its own coordinates; nothing when there is none of this text.
+  HWND Header() const { return header_; }
+  std::optional<POINT> PlaceOfHeading(const std::string& heading) const;
 
  private:
+  std::string HeadingAt(int column) const;
   int Columns() const;
   bool IsSeen(int column) const;
   std::string TextAt(int row, int column) const;

@@ -173,6 +173,14 @@ void FormOnScreen::DoubleClickRow(int row) {
   Mouse(List(), ListOnScreen(List()).PlaceOf(row), 2, WM_LBUTTONDOWN, WM_LBUTTONUP);
 }
 
+void FormOnScreen::ClickHeading(const std::string& heading) {
+  ComeToFront();
+  const ListOnScreen list(List());
+  std::optional<POINT> place;
+  Wait([&] { return (place = list.PlaceOfHeading(heading)).has_value(); }, "the heading " + Quoted(heading));
+  Mouse(list.Header(), *place, 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+}
+
 void FormOnScreen::RightClickList() {
   ComeToFront();
   Mouse(List(), MiddleOf(List()), 1, WM_RBUTTONDOWN, WM_RBUTTONUP);

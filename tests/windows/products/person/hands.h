@@ -18,6 +18,7 @@ class FormOnScreen {
   void Click(const std::string& caption);
   void DoubleClickRow(int row);
   void ClickRow(int row);
+  void ClickHeading(const std::string& heading);
   void RightClickList();
   /// Checks or unchecks a row's box by the keyboard.
   void TickRow(int row);
