@@ -56,7 +56,9 @@ void frmRequestDetail::cboItem_KeyPress(int& character) {
 
 void frmRequestDetail::cboItem_Validate(bool& cancel) {
   cancel = cboItem.ListIndex() == -1 && !cboItem.Text().empty();
-  if (!cancel || !IsAdding()) return;
+  if (!cancel) return;
+  Desktop().Beep();
+  if (!IsAdding()) return;
   // The entry from before comes back, so that the next attempt leaves. It was not chosen again: the quantity typed for it stays.
   {
     const FlagSet restoring(restoring_);

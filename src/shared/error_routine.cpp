@@ -1,6 +1,7 @@
 #include "src/shared/error_routine.h"
 
 #include <string>
+#include <utility>
 
 #include "src/shared/common_db.h"
 
@@ -22,11 +23,10 @@ std::string UserNameForReport(basGoodsRequest& session) {
 /// The component's own message, for a shop whose error component is missing or fails.
 void TellInItsPlace(basGoodsRequest& session, std::string_view module, std::string_view routine, const vb::RunTimeError& error) {
   std::string text = error.Description();
-  text.append("\n(").append(module).append(routine).append(", ").append(std::to_string(error.Number()));
-  if (!error.Source().empty()) text.append(", ").append(error.Source());
+  text.append("\n(").append(module).append(routine).append(", ").append(std::to_string(error.Number())).append(")");
   controls::Desktop& desktop = session.services.desktop;
   const std::string& caption = session.gStrMsgboxCaption;
-  desktop.MsgBox(desktop.ActiveForm(), {text + ")", controls::kExclamation, caption.empty() ? "Error" : caption});
+  desktop.MsgBox(desktop.ActiveForm(), {std::move(text), controls::kExclamation, caption.empty() ? "Error" : caption});
 }
 
 }  // namespace

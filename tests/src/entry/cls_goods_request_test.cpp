@@ -70,6 +70,24 @@ TEST_F(Host, WithoutAConnectionTheRegisterOpensEmptyAndSaysSoOnce) {
   EXPECT_EQ(made, shop.session.gAdoCon.Object());
 }
 
+TEST_F(Host, WithoutAnyHelperTheRegisterOpensSaysWhyAndOffersNothing) {
+  for (const char* helper : {"ShopCommon.clsCommonDB", "ShopCommon.clsCommonGen", "Lookup.clsFetch", "Theme.clsFormcolor",
+                             "Audit.clsUserAuditing", "GridPrefs.clsMasterGridSetting", "ErrLog.ErrorDetails"}) {
+    shop.registry.Unregister(helper);
+  }
+  request->PutRef("adocon", connection);
+  request->Put("strMsgboxCaption", "Harbour Street");
+  shop.desktop.ExpectMessage("ActiveX component can't create object\n(frmMaster Form_Load, 429)", controls::Answer::Ok,
+                             controls::kExclamation);
+  shop.desktop.ExpectForm("frmMaster", [&](controls::Form&) {
+    EXPECT_EQ("Harbour Street", shop.desktop.messages.back().title);
+    const goods::frmMaster& form = shop.module.Register();
+    EXPECT_FALSE(form.cmdnew.Enabled() || form.CmdEdit.Enabled() || form.CmdDelete.Enabled() || form.Cmdprev.Enabled());
+    EXPECT_TRUE(form.CmdClose.Enabled());
+  });
+  request->Call("Show");
+}
+
 TEST_F(Host, TakesAnyObjectAsConnectionAndNothingBringsBackAFreshOne) {
   request->Put("adocon", late::Value(connection));
   EXPECT_EQ(connection, request->Get("adocon").ToObject());

@@ -82,6 +82,7 @@ TEST_F(LineEntry, AScanIntoARefusedItemsNameHoldsNobody) {
     EXPECT_EQ(form->cboItem.Text(), "KT1002") << "typed over the selected name, not into it";
     support::Press(form->cboItem, "Tab");
     EXPECT_TRUE(form->cboItem.HasFocus());
+    EXPECT_EQ(shop.desktop.alarms, 1);
     EXPECT_EQ(ChosenItem(), "Frying pan 20 cm");
     EXPECT_EQ(form->txtQuantity.Text(), "7") << "the item came back, it was not chosen again";
     support::Press(form->cboItem, "Tab");
