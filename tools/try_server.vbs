@@ -76,12 +76,7 @@ Sub Main()
   TryOnEveryConnection "server-side cursors"
   TryOnce
   If Reconnects(True, False) Then TryOnEveryConnection "client-side cursors"
-  If embedded Then
-    Begin "C3"
-    NotTried "C3", "a British log-in reads and writes the same dates", "the embedded engine knows no language settings"
-  ElseIf Reconnects(False, True) Then
-    TryOnEveryConnection "server-side cursors, British log-in"
-  End If
+  If Reconnects(False, True) Then TryOnEveryConnection "server-side cursors, British log-in"
   TryRoad
   If Reconnects(False, False) Then TryReplication
 
@@ -1066,7 +1061,7 @@ Sub TryComponent()
     NotTried "P2", "a request goes from the register into the tables", "tq8v4461.dll is not registered"
     Exit Sub
   End If
-  If Not Reconnects(road = "/road:client", Not embedded) Then Exit Sub
+  If Not Reconnects(road = "/road:client", True) Then Exit Sub
   Set request.adocon = con
   request.strMsgboxCaption = "Trial"
   request.intCompanyID = Company

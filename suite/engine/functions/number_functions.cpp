@@ -45,7 +45,7 @@ void ConvertValue(const FunctionCall& call) {
   const Type from = Type::Unpack(call.Whole(1)), to = Type::Unpack(call.Whole(2));
   Cell cell = CellOf(call, 0);
   if (cell.form == Cell::Form::Real && from.kind != Kind::Float) RaiseOverflow(TypeName(from));
-  Return(call, Convert(cell, from, to, buffer, static_cast<int>(call.Whole(3))));
+  Return(call, Convert(cell, from, to, buffer, static_cast<int>(call.Whole(3)), call.Functions().dateOrder));
 }
 
 void Divide(const FunctionCall& call) {

@@ -9,6 +9,7 @@
 
 #include "base/vb/date.h"
 #include "suite/engine/values/errors.h"
+#include "suite/engine/values/types.h"
 
 struct sqlite3;
 struct sqlite3_context;
@@ -58,6 +59,7 @@ struct FunctionContext {
   sqlite3* store = nullptr;
   std::function<vb::Date()> clock;
   std::optional<std::int64_t> now;  ///< the statement's own time, fixed at its first use
+  DateOrder dateOrder = DateOrder::MonthDayYear;
   std::optional<ServerError> error;
   std::vector<std::unique_ptr<Registered>> registered;
 };

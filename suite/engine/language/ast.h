@@ -288,11 +288,14 @@ struct Block {
 struct SetNoCount {
   bool on;
 };
+struct SetDateOrder {
+  DateOrder order = DateOrder::MonthDayYear;
+};
 struct OtherSetting {};  ///< one that has no meaning here
 
 using StatementNode =
     std::variant<QueryStatement, Insert, Update, Delete, Execute, CreateTable, CreateView, CreateIndex, CreateProcedure,
-                 AddColumns, Drop, Begin, Commit, Rollback, If, Block, SetNoCount, OtherSetting>;
+                 AddColumns, Drop, Begin, Commit, Rollback, If, Block, SetNoCount, SetDateOrder, OtherSetting>;
 
 struct Statement {
   std::uint32_t token = 0;

@@ -57,15 +57,15 @@ Type LiteralType(const Token& token) {
   }
 }
 
-Cell LiteralCell(const Lexed& lexed, const Parameter& parameter, std::string& buffer) {
+Cell LiteralCell(const Lexed& lexed, const Parameter& parameter, std::string& buffer, DateOrder order) {
   const Token& token = lexed.tokens[lexed.literals[static_cast<std::size_t>(parameter.literal)]];
   const Cell own = OwnCell(lexed, token, buffer);
   const Type from = LiteralType(token);
   const Type& to = parameter.type;
   if (from.kind == to.kind && from.scale == to.scale && (to.length == 0 || from.kind != Kind::Text)) return own;
-  if (own.form != Cell::Form::Text) return Convert(own, from, to, buffer, parameter.style);
+  if (own.form != Cell::Form::Text) return Convert(own, from, to, buffer, parameter.style, order);
   std::string converted;
-  const Cell cell = Convert(own, from, to, converted, parameter.style);
+  const Cell cell = Convert(own, from, to, converted, parameter.style, order);
   if (cell.form != Cell::Form::Text || cell.text.data() != converted.data()) return cell;
   buffer = std::move(converted);
   return Cell::Of(std::string_view(buffer));
@@ -73,7 +73,7 @@ Cell LiteralCell(const Lexed& lexed, const Parameter& parameter, std::string& bu
 
 std::string LiteralText(const Lexed& lexed, const Parameter& parameter) {
   std::string buffer;
-  const Cell cell = LiteralCell(lexed, parameter, buffer);
+  const Cell cell = LiteralCell(lexed, parameter, buffer, DateOrder::MonthDayYear);
   switch (cell.form) {
     case Cell::Form::Null:
       return "NULL";

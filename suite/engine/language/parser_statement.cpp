@@ -103,6 +103,18 @@ ast::If Parser::If() {
 }
 
 ast::StatementNode Parser::Set() {
+  // Of a language only its order of dates is known.
+  if (TakeWord("language")) {
+    if (TakeWord("british")) return ast::SetDateOrder{DateOrder::DayMonthYear};
+    ExpectWord("us_english");
+    return ast::SetDateOrder{};
+  }
+  if (TakeWord("dateformat")) {
+    if (TakeWord("dmy")) return ast::SetDateOrder{DateOrder::DayMonthYear};
+    if (TakeWord("ymd")) return ast::SetDateOrder{DateOrder::YearMonthDay};
+    ExpectWord("mdy");
+    return ast::SetDateOrder{};
+  }
   const bool noCount = TakeWord("nocount");
   const bool known = noCount || TakeWord("ansi_nulls") || TakeWord("quoted_identifier") || TakeWord("ansi_padding") ||
                      TakeWord("ansi_warnings") || TakeWord("xact_abort");

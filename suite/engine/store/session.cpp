@@ -217,6 +217,7 @@ RunResult Session::RunStatement(const Lexed& lexed, ast::Statement& statement, P
                         },
                         [&](const ast::Block& block) { return RunBlock(lexed, block, parser, updatable); },
                         [&](const ast::SetNoCount& setting) { return countsRows_ = !setting.on, RunResult{}; },
+                        [&](const ast::SetDateOrder& setting) { return functions_.dateOrder = setting.order, RunResult{}; },
                         [](const ast::OtherSetting&) { return RunResult{}; },
                         [&](const auto&) { return Definitions(*this).Run(lexed, statement), RunResult{}; },
                     },
@@ -240,7 +241,7 @@ RunResult Session::Start(const Lexed& lexed, std::shared_ptr<CachedStatement> ca
   int index = 0;
   const auto& parameters = handle.Translated().parameters;
   for (const Parameter& parameter : parameters) {
-    const Cell cell = LiteralCell(lexed, parameter, buffer);
+    const Cell cell = LiteralCell(lexed, parameter, buffer, functions_.dateOrder);
     // The caller's text stays in place while a change runs; rows are read later, and a converted text lies in the buffer.
     BindCell(handle.Get(), ++index, cell, query || cell.text.data() == buffer.data());
   }

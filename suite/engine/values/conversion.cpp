@@ -141,8 +141,8 @@ double AsDouble(const Cell& value, const Type& from) {
   return value.form == Cell::Form::Real ? value.real : static_cast<double>(value.integer);
 }
 
-Cell ToDate(const Cell& value, const Type& from) {
-  if (value.form == Cell::Form::Text) return Cell::Of(ParseServerDate(value.text));
+Cell ToDate(const Cell& value, const Type& from, DateOrder order) {
+  if (value.form == Cell::Form::Text) return Cell::Of(ParseServerDate(value.text, order));
   return Cell::Of(std::int64_t{std::llround(AsDouble(value, from) * static_cast<double>(kDay)) + kServerDayZero});
 }
 
@@ -193,7 +193,7 @@ std::int64_t DoubleToUnits(double value, int scale) {
   return static_cast<std::int64_t>(rounded);
 }
 
-Cell Convert(const Cell& value, const Type& from, const Type& to, std::string& buffer, int style) {
+Cell Convert(const Cell& value, const Type& from, const Type& to, std::string& buffer, int style, DateOrder order) {
   if (value.form == Cell::Form::Null) return value;
   switch (to.kind) {
     case Kind::Null:
@@ -212,7 +212,7 @@ Cell Convert(const Cell& value, const Type& from, const Type& to, std::string& b
     case Kind::Float:
       return value.form == Cell::Form::Text ? Cell::Of(TextToDouble(value.text, to)) : Cell::Of(AsDouble(value, from));
     case Kind::DateTime:
-      return from.kind == Kind::DateTime ? value : ToDate(value, from);
+      return from.kind == Kind::DateTime ? value : ToDate(value, from, order);
   }
   return value;
 }

@@ -25,9 +25,10 @@ struct Cell {
   static Cell Of(std::string_view value) { return {Form::Text, 0, 0, value}; }
 };
 
-/// Converts a stored value from one server type to another; `style` is the server's number for date texts. New text is put
-/// into `buffer`. Errors 241, 242, 245, 248, 8114, 8115, 8152 as the server raises them.
-Cell Convert(const Cell& value, const Type& from, const Type& to, std::string& buffer, int style = 0);
+/// Converts a stored value from one server type to another; `style` is the server's number for date texts, `order` how they are
+/// read. New text is put into `buffer`. Errors 241, 242, 245, 248, 8114, 8115, 8152 as the server raises them.
+Cell Convert(const Cell& value, const Type& from, const Type& to, std::string& buffer, int style = 0,
+             DateOrder order = DateOrder::MonthDayYear);
 
 /// What a recordset's user sets, as a stored value of the column's type. Error 3421 for a value that cannot become one.
 Cell FromValue(const late::Value& value, const Type& to, std::string& buffer);
@@ -47,8 +48,9 @@ std::int64_t DoubleToUnits(double value, int scale);
 std::int64_t ToMilliseconds(vb::Date date);
 vb::Date FromMilliseconds(std::int64_t milliseconds);
 /// Reads the server's date texts: yyyymmdd, yyyy/mm/dd, yyyy-mm-dd, mm/dd/yyyy, each with an optional time; a time alone; the
-/// empty text is 1 January 1900. Errors 241 and 242.
-std::int64_t ParseServerDate(std::string_view text);
+/// empty text is 1 January 1900. Where the day comes first, it also comes right after a leading year (yyyy/dd/mm), but not before
+/// a "T" (yyyy-mm-ddThh:nn:ss). Errors 241 and 242.
+std::int64_t ParseServerDate(std::string_view text, DateOrder order);
 /// The server's date text of a style (0, 1, 3, 8, 10x, 11x, 120, 121, 126); error 281 for another style.
 std::string ServerDateText(std::int64_t milliseconds, int style);
 

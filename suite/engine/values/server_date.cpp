@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include "base/vb/date.h"
 #include "base/vb/text.h"
@@ -46,6 +47,7 @@ class Reader {
     }
     return count;
   }
+  bool IsAt(char character) const { return !text_.empty() && text_.front() == character; }
   bool ColonFollowsDigits() const {
     const std::size_t end = text_.find_first_not_of("0123456789");
     return end != std::string_view::npos && text_[end] == ':';
@@ -59,7 +61,7 @@ struct Parts {
   int year = 1900, month = 1, day = 1, hour = 0, minute = 0, second = 0, millisecond = 0;
 };
 
-void ReadDay(Reader& reader, Parts& parts) {
+void ReadDay(Reader& reader, Parts& parts, DateOrder order) {
   int first = 0;
   const int digits = reader.Digits(first);
   if (digits == 8) {
@@ -77,11 +79,13 @@ void ReadDay(Reader& reader, Parts& parts) {
     parts.year = first;
     parts.month = second;
     parts.day = third;
+    if (order == DateOrder::DayMonthYear && !reader.IsAt('T')) std::swap(parts.month, parts.day);
   } else {
     if (digits > 2 || lastDigits != 4) RaiseDateConversion();
     parts.year = third;
     parts.month = first;
     parts.day = second;
+    if (order == DateOrder::DayMonthYear) std::swap(parts.month, parts.day);
   }
 }
 
@@ -130,12 +134,12 @@ vb::Date FromMilliseconds(std::int64_t milliseconds) {
   return vb::Date{static_cast<double>(day) - fraction};
 }
 
-std::int64_t ParseServerDate(std::string_view text) {
+std::int64_t ParseServerDate(std::string_view text, DateOrder order) {
   Reader reader(vb::Trim(text));
   Parts parts;
   if (!reader.AtEnd()) {
     if (!reader.ColonFollowsDigits()) {
-      ReadDay(reader, parts);
+      ReadDay(reader, parts, order);
       if (!reader.Take('T')) reader.SkipBlanks();
     }
     if (!reader.AtEnd()) ReadTime(reader, parts);

@@ -6,6 +6,9 @@
 namespace suite {
 
 /// Kinds of the server's types, the lower yielding to the higher where two meet in an expression.
+/// How a session reads dates with separators (set dateformat). Eight digits are year, month and day in each.
+enum class DateOrder : std::uint8_t { MonthDayYear, DayMonthYear, YearMonthDay };
+
 enum class Kind : std::uint8_t { Null, Text, Guid, Bit, TinyInt, SmallInt, Int, BigInt, Decimal, Float, DateTime };
 
 /// A server type. How its values stand in the store:
