@@ -19,6 +19,7 @@ for dll in "$@"; do
   foreign=$(sed -n 's/.*DLL Name: //p' <<<"$headers" | grep -vixE "($system)(\.dll)?" | tr '\n' ' ' || true)
   [ -z "$foreign" ] || fail "$name" "imports from $foreign"
   resources=$($tools-windres -J coff -O rc "$dll" 2>/dev/null)
+  grep -qi "GROUP_ICON\|[0-9] ICON" <<<"$resources" || fail "$name" "no icon"
   grep -q OLESelfRegister <<<"$resources" || fail "$name" "no OLESelfRegister in the version block"
   if [ "$name" = tq8v4461.dll ]; then
     grep -qi TYPELIB <<<"$resources" || fail "$name" "no type library"

@@ -160,8 +160,7 @@ void GridView::PaintCell(NMLVCUSTOMDRAW& draw) const {
   if (!IsReadable(selection, draw.clrTextBk)) selection = GetSysColor(COLOR_HIGHLIGHT);
   draw.clrTextBk = selection;
   draw.clrText = ScreenColor(grid_.ForeColorSel());
-  if (!IsReadable(draw.clrText, selection))
-    draw.clrText = IsReadable(RGB(255, 255, 255), selection) ? RGB(255, 255, 255) : RGB(0, 0, 0);
+  if (!IsReadable(draw.clrText, selection)) draw.clrText = TextOn(selection);
 }
 
 LRESULT GridView::Paint(NMLVCUSTOMDRAW& draw) const {

@@ -48,6 +48,10 @@ bool IsReadable(COLORREF text, COLORREF background) {
   return std::abs(Brightness(text) - Brightness(background)) >= 70;
 }
 
+COLORREF TextOn(COLORREF background) {
+  return Brightness(background) < 128 ? RGB(255, 255, 255) : RGB(0, 0, 0);
+}
+
 HINSTANCE ThisModule() {
   HMODULE module = nullptr;
   GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,

@@ -37,6 +37,9 @@ COLORREF ScreenColor(controls::Color color);
 /// Whether a text of one colour can be read on the other.
 bool IsReadable(COLORREF text, COLORREF background);
 
+/// White or black, whichever can be read better on the colour.
+COLORREF TextOn(COLORREF background);
+
 /// The module (DLL or program) that this code is part of.
 HINSTANCE ThisModule();
 
