@@ -11,9 +11,11 @@ namespace {
 /// Room that a list keeps free on both sides of a cell's text together, in pixels.
 constexpr int kCellPadding = 8;
 
-void DrawArrow(HDC dc, const RECT& heading, bool ascending) {
+/// The arrow stands where the heading's text does not begin.
+void DrawArrow(HDC dc, const RECT& heading, bool onLeft, bool ascending) {
   const int height = std::max(4L, (heading.bottom - heading.top) / 4);
-  const int middle = heading.right - 2 * height - 2;
+  const int margin = 2 * height + 2;
+  const int middle = onLeft ? heading.left + margin : heading.right - margin;
   const int top = (heading.top + heading.bottom - height) / 2;
   const int base = ascending ? top + height : top;
   const int tip = ascending ? top : top + height;
@@ -60,7 +62,10 @@ std::optional<LRESULT> PaintSortArrow(NMHDR& header, int column, bool ascending)
   RECT heading{};
   if (draw.dwDrawStage == CDDS_POSTPAINT &&
       SendMessageW(header.hwndFrom, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&heading)) != 0) {
-    DrawArrow(draw.hdc, heading, ascending);
+    HDITEMW item{};
+    item.mask = HDI_FORMAT;
+    SendMessageW(header.hwndFrom, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    DrawArrow(draw.hdc, heading, (item.fmt & HDF_JUSTIFYMASK) == HDF_RIGHT, ascending);
   }
   return CDRF_DODEFAULT;
 }
