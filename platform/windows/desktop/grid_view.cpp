@@ -64,7 +64,7 @@ void GridView::ScrollToTop(long item) {
 }
 
 void GridView::ScrollToColumn(long column) {
-  const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
+  const HWND header = HeadingOf(Handle());
   RECT place{};
   if (!SendMessageW(header, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&place))) return;
   MapWindowPoints(header, Handle(), reinterpret_cast<POINT*>(&place), 2);
@@ -80,20 +80,28 @@ void GridView::FollowKey(int keyCode) {
   if (keyCode == VK_LEFT || keyCode == VK_RIGHT || keyCode == VK_HOME || keyCode == VK_END) ScrollToColumn(grid_.ColSel());
 }
 
+void GridView::SelectShownItem() {
+  const bool wasUpdating = std::exchange(updating_, true);
+  LVITEMW state{};
+  state.state = state.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
+  if (shownItem_ >= 0)
+    SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(shownItem_), reinterpret_cast<LPARAM>(&state));
+  updating_ = wasUpdating;
+}
+
 void GridView::ShowCurrentRow() {
   updating_ = true;
-  LVITEMW state{};
-  state.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
   const long item = grid_.Row() - grid_.FixedRows();
   const bool isMoved = item != shownItem_;
   // Left to it, a virtual list may look for the row to unselect among all of them.
   if (isMoved && shownItem_ >= 0 && shownItem_ < shownCount_) {
+    LVITEMW state{};
+    state.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
     SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(shownItem_), reinterpret_cast<LPARAM>(&state));
   }
   shownItem_ = item;
   if (item >= 0) {
-    state.state = state.stateMask;
-    SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&state));
+    SelectShownItem();
     // A row brought to the top by code stays at the top; otherwise it is enough that the current row is in view.
     if (grid_.TopRow() != shownTop_ && grid_.TopRow() >= grid_.FixedRows()) {
       shownTop_ = grid_.TopRow();
@@ -182,7 +190,7 @@ LRESULT GridView::Paint(NMLVCUSTOMDRAW& draw) const {
 
 void GridView::Clicked(const NMITEMACTIVATE& click) {
   const LVHITTESTINFO hit = CellAt(click.ptAction);
-  if (hit.iItem < 0) return;
+  if (hit.iItem < 0) return SelectShownItem();  // the window has let go of its row, the model has not
   if ((click.uKeyFlags & LVKF_SHIFT) != 0) {
     grid_.SelectRange(grid_.Row(), RowOf(hit.iItem));
   } else {

@@ -28,6 +28,7 @@ class GridView : public ControlView {
   void ShowColumns();
   void ShowColors();
   void ShowRows();
+  void SelectShownItem();
   void ShowCurrentRow();
   void ScrollToTop(long item);
   void ScrollToColumn(long column);

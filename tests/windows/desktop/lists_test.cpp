@@ -140,6 +140,7 @@ TEST_F(ListsOnScreen, ADoubleClickOpensALineAndNothingBelowTheLast) {
     FillStock();
     DoubleClick(Window(grid), Cell(grid, 4, 0));
     EXPECT_EQ(form->Told(), "");
+    EXPECT_EQ(SendMessageW(Window(grid), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED), grid.Row() - 1);
     DoubleClick(Window(grid), Cell(grid, 3, 0));
     EXPECT_EQ(form->Told(), "row");
   });

@@ -1,24 +1,10 @@
 // A shop's day at the real windows: the host in a process of its own, somebody at its mouse and keyboard.
 #include <gtest/gtest.h>
 
-#include "tests/windows/products/person/hands.h"
-#include "tests/windows/products/person/shop_folder.h"
+#include "tests/windows/products/person/shop_host.h"
 
 namespace person {
 namespace {
-
-std::string Host(const ShopFolder& folder, const std::string& switches) {
-  return std::string("\"") + HOST_PROGRAM + "\" --database \"" + folder.Database() + "\" " + switches;
-}
-
-/// The editor of a new request. `stockOut`: what is said to the proposal of the items that have run out.
-FormOnScreen NewRequest(Person& person, FormOnScreen& requests, const std::string& stockOut = "No") {
-  requests.Click("New");
-  EXPECT_EQ(person.Answers(stockOut), "Do you want to add stock out items?");
-  return person.Meets("Goods Request");
-}
-
-constexpr const char* kLoggedOn = "--unattended --company 1 --shop 1 --user 1 --date 15/03/2024";
 
 TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
   const ShopFolder folder;

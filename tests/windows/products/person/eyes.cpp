@@ -58,6 +58,10 @@ std::string KindOf(HWND window) {
   return windows::Utf8(name.data());
 }
 
+std::string Quoted(const std::string& text) {
+  return "\"" + text + "\"";
+}
+
 std::vector<HWND> WindowsOf(DWORD process) {
   std::vector<HWND> windows;
   EnumWindows(Note, reinterpret_cast<LPARAM>(&windows));
@@ -90,6 +94,28 @@ std::string Describe(DWORD process) {
     for (HWND child : ChildrenOf(window)) text += " [" + TextOf(child) + "]";
   }
   return text.empty() ? "\n  no window" : text;
+}
+
+bool IsFrameWhole(HWND frame) {
+  RECT place{};
+  GetWindowRect(frame, &place);
+  const HDC screen = GetDC(nullptr);
+  const LONG x = place.right - 20;
+  const LONG y = (place.top + place.bottom) / 2;
+  // A line is a change of colour on the way from the edge inwards; the upper one is as far down as half of its caption.
+  const auto meetsLine = [&](POINT edge, POINT inwards, int steps) {
+    const COLORREF first = GetPixel(screen, edge.x, edge.y);
+    for (int step = 1; step <= steps; ++step) {
+      if (GetPixel(screen, edge.x + step * inwards.x, edge.y + step * inwards.y) != first) return true;
+    }
+    return false;
+  };
+  constexpr int kNear = 5;
+  constexpr int kBelowCaption = 15;
+  const bool isWhole = meetsLine({place.left - 1, y}, {1, 0}, kNear) && meetsLine({place.right, y}, {-1, 0}, kNear) &&
+                       meetsLine({x, place.bottom}, {0, -1}, kNear) && meetsLine({x, place.top - 1}, {0, 1}, kBelowCaption);
+  ReleaseDC(nullptr, screen);
+  return isWhole;
 }
 
 Elsewhere::Elsewhere(HWND window, std::size_t bytes) {
@@ -181,16 +207,16 @@ Texts ListOnScreen::Headings() const {
   return headings;
 }
 
-std::optional<POINT> ListOnScreen::PlaceOfHeading(const std::string& heading) const {
+RECT ListOnScreen::HeadingPlace(const std::string& heading) const {
   auto* there = static_cast<Letter*>(there_.Memory());
   for (int column = 0; column < Columns(); ++column) {
     if (!IsSeen(column) || HeadingAt(column) != heading) continue;
     Ask(header_, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&there->place));
     RECT place{};
     there_.Read(&there->place, &place, sizeof(place));
-    return POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    return place;
   }
-  return std::nullopt;
+  throw std::runtime_error("no column " + heading);
 }
 
 std::string ListOnScreen::TextAt(int row, int column) const {
@@ -232,6 +258,17 @@ POINT ListOnScreen::PlaceOf(int row) const {
   Ask(list_, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&there->place));
   there_.Read(there, &letter, sizeof(letter));
   return {letter.place.left + 6, (letter.place.top + letter.place.bottom) / 2};
+}
+
+POINT ListOnScreen::PlaceOf(int row, const std::string& heading) const {
+  POINT corner{HeadingPlace(heading).left, 0};
+  MapWindowPoints(header_, list_, &corner, 1);
+  return {corner.x + 8, PlaceOf(row).y};
+}
+
+POINT ListOnScreen::BoxOf(int row) const {
+  const POINT text = PlaceOf(row);
+  return {text.x - 16, text.y};
 }
 
 }  // namespace person

@@ -13,6 +13,8 @@ using Texts = std::vector<std::string>;
 /// A window's answer to a message; 0 when it gives none in time.
 LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
+std::string Quoted(const std::string& text);
+
 /// What a window of any process shows; empty when it does not answer.
 std::string TextOf(HWND window);
 /// A button's or label's text without the mark of its access key.
@@ -28,6 +30,9 @@ HWND FocusOf(HWND window);
 
 /// The program's windows with what is written on them, for a complaint.
 std::string Describe(DWORD process);
+
+/// Whether the four lines of a group's frame are on the screen, by its pixels.
+bool IsFrameWhole(HWND frame);
 
 /// Memory in the process of a window, for messages that carry texts and places.
 class Elsewhere {
@@ -76,9 +81,13 @@ class ListOnScreen {
   bool IsTicked(int row) const;
   /// Brings a row into view and gives a point on its first visible cell, in the list's own coordinates.
   POINT PlaceOf(int row) const;
-  /// The window of the headings, and a point on one of them in its own coordinates; nothing when there is none of this text.
+  /// The same on the cell below a heading.
+  POINT PlaceOf(int row, const std::string& heading) const;
+  /// A point on the row's check box.
+  POINT BoxOf(int row) const;
   HWND Header() const { return header_; }
-  std::optional<POINT> PlaceOfHeading(const std::string& heading) const;
+  /// Where a heading is, in the coordinates of the heading's window. Throws std::runtime_error when there is none.
+  RECT HeadingPlace(const std::string& heading) const;
 
  private:
   std::string HeadingAt(int column) const;

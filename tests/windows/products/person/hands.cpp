@@ -6,6 +6,7 @@
 
 #include "platform/windows/desktop/common_controls.h"
 #include "platform/windows/wide_text.h"
+#include "tests/windows/products/person/mouse.h"
 #include "tests/windows/products/person/patience.h"
 
 namespace person {
@@ -60,39 +61,7 @@ void PressNamed(std::string name) {
   Stroke(found != named.end() ? found->second : static_cast<WORD>(std::toupper(static_cast<unsigned char>(name[0]))), held);
 }
 
-/// The mouse's messages for clicks at a point of a window. They are posted: the pointer itself is the display's, whose late news
-/// of where it stood would now and then carry a click elsewhere.
-void Mouse(HWND window, POINT point, int times, UINT down, UINT up) {
-  const auto place = static_cast<LPARAM>(MAKELONG(point.x, point.y));
-  for (int time = 0; time < times; ++time) {
-    const bool isSecond = time == 1 && down == WM_LBUTTONDOWN;
-    PostMessageW(window, isSecond ? WM_LBUTTONDBLCLK : down, down == WM_LBUTTONDOWN ? MK_LBUTTON : MK_RBUTTON, place);
-    PostMessageW(window, up, 0, place);
-  }
-}
-
-POINT MiddleOf(HWND window) {
-  RECT place{};
-  GetClientRect(window, &place);
-  return {place.right / 2, place.bottom / 2};
-}
-
-std::string Quoted(const std::string& text) {
-  return "\"" + text + "\"";
-}
-
-std::string Joined(const Texts& cells) {
-  std::string text;
-  for (const std::string& cell : cells) text += (text.empty() ? "" : " | ") + cell;
-  return text;
-}
-
 }  // namespace
-
-template <class Condition>
-void FormOnScreen::Wait(const Condition& holds, const std::string& what) const {
-  WaitUntil(holds, [&] { return "waited in vain: " + what + "; on the screen:" + Describe(process_); });
-}
 
 void FormOnScreen::ComeToFront() {
   Wait([&] { return IsWindowVisible(form_) && IsWindowEnabled(form_) && GetForegroundWindow() == form_; },
@@ -133,64 +102,14 @@ HWND FormOnScreen::Behind(const std::string& label) const {
   return nearest;
 }
 
-HWND FormOnScreen::List() const {
-  HWND widest = nullptr;
-  // While a page is turned there is none for a moment.
-  Wait(
-      [&] {
-        LONG width = 0;
-        for (HWND child : ChildrenOf(form_)) {
-          RECT place{};
-          GetWindowRect(child, &place);
-          if (KindOf(child) != "SysListView32" || place.right - place.left <= width) continue;
-          widest = child;
-          width = place.right - place.left;
-        }
-        return widest != nullptr;
-      },
-      "a list");
-  return widest;
-}
-
 void FormOnScreen::ClickAt(HWND window) {
   ComeToFront();
   Wait([&] { return IsWindowEnabled(window) != FALSE; }, Quoted(CaptionOf(window)) + " to be enabled");
-  Mouse(window, MiddleOf(window), 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+  ClickPoint(window, MiddleOf(window));
 }
 
 void FormOnScreen::Click(const std::string& caption) {
   ClickAt(Captioned(caption));
-}
-
-void FormOnScreen::ClickRow(int row) {
-  ComeToFront();
-  Mouse(List(), ListOnScreen(List()).PlaceOf(row), 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
-  HasSelected(row);
-}
-
-void FormOnScreen::DoubleClickRow(int row) {
-  ClickRow(row);
-  Mouse(List(), ListOnScreen(List()).PlaceOf(row), 2, WM_LBUTTONDOWN, WM_LBUTTONUP);
-}
-
-void FormOnScreen::ClickHeading(const std::string& heading) {
-  ComeToFront();
-  const ListOnScreen list(List());
-  std::optional<POINT> place;
-  Wait([&] { return (place = list.PlaceOfHeading(heading)).has_value(); }, "the heading " + Quoted(heading));
-  Mouse(list.Header(), *place, 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
-}
-
-void FormOnScreen::RightClickList() {
-  ComeToFront();
-  Mouse(List(), MiddleOf(List()), 1, WM_RBUTTONDOWN, WM_RBUTTONUP);
-}
-
-void FormOnScreen::TickRow(int row) {
-  ClickRow(row);
-  const bool before = ListOnScreen(List()).IsTicked(row);
-  PressNamed("Space");
-  HasTicked(row, !before);
 }
 
 void FormOnScreen::TurnTo(const std::string& page) {
@@ -200,7 +119,7 @@ void FormOnScreen::TurnTo(const std::string& page) {
     const TabsOnScreen tabs(child);
     std::optional<POINT> place;
     Wait([&] { return (place = tabs.PlaceOf(page)).has_value(); }, "the tab " + Quoted(page));
-    Mouse(child, *place, 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+    ClickPoint(child, *place);
     Wait([&] { return tabs.InFront() == page; }, "the page " + Quoted(page));
     return;
   }
@@ -257,6 +176,12 @@ void FormOnScreen::Pull(int right, int down) {
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void FormOnScreen::Maximize() {
+  ComeToFront();
+  PostMessageW(form_, WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+  Wait([&] { return IsZoomed(form_) != FALSE; }, Quoted(TextOf(form_)) + " to fill the screen");
+}
+
 void FormOnScreen::Shows(const std::string& label, const std::string& text) {
   const HWND field = Behind(label);
   std::string seen;
@@ -279,55 +204,9 @@ void FormOnScreen::HasFocusOn(const std::string& caption) {
   Wait([&] { return FocusOf(form_) == window; }, "the focus on " + Quoted(caption));
 }
 
-void FormOnScreen::HasRows(int count) {
-  int seen = 0;
-  WaitUntil([&] { return (seen = ListOnScreen(List()).Rows()) == count; },
-            [&] { return std::to_string(seen) + " rows and not " + std::to_string(count) + Describe(process_); });
-}
-
-void FormOnScreen::HasRow(int row, const Texts& cells) {
-  Texts seen;
-  WaitUntil([&] { return (seen = ListOnScreen(List()).Row(row)) == cells; },
-            [&] { return "row " + std::to_string(row) + " is\n  " + Joined(seen) + "\nand not\n  " + Joined(cells); });
-}
-
-void FormOnScreen::HasSelected(int row) {
-  Wait([&] { return ListOnScreen(List()).SelectedRow() == row; }, "row " + std::to_string(row) + " selected");
-}
-
-void FormOnScreen::HasSelectedRow(const Texts& cells) {
-  Texts seen;
-  WaitUntil(
-      [&] {
-        const ListOnScreen list(List());
-        const int row = list.SelectedRow();
-        return row >= 0 && (seen = list.Row(row)) == cells;
-      },
-      [&] { return "the selected row is\n  " + Joined(seen) + "\nand not\n  " + Joined(cells); });
-}
-
-void FormOnScreen::HasTicked(int row, bool ticked) {
-  Wait([&] { return ListOnScreen(List()).IsTicked(row) == ticked; },
-       "row " + std::to_string(row) + (ticked ? " ticked" : " not ticked"));
-}
-
-SIZE FormOnScreen::ListSize() const {
-  RECT place{};
-  GetWindowRect(List(), &place);
-  return {place.right - place.left, place.bottom - place.top};
-}
-
-void FormOnScreen::HasListOf(SIZE size) {
-  SIZE seen{};
-  WaitUntil(
-      [&] {
-        seen = ListSize();
-        return seen.cx == size.cx && seen.cy == size.cy;
-      },
-      [&] {
-        return "the list has " + std::to_string(seen.cx) + " by " + std::to_string(seen.cy) + " pixels and not " +
-               std::to_string(size.cx) + " by " + std::to_string(size.cy);
-      });
+void FormOnScreen::HasWholeFrame(const std::string& caption) {
+  const HWND frame = Captioned(caption);
+  Wait([&] { return IsFrameWhole(frame); }, "the frame " + Quoted(caption) + " with its four lines");
 }
 
 void FormOnScreen::IsUsable(const std::string& caption, bool usable) {
@@ -379,7 +258,7 @@ std::string Person::Answers(const std::string& caption) {
   for (char& c : text) {
     if (c == '\n' || c == '\r') c = ' ';
   }
-  Mouse(button, MiddleOf(button), 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
+  ClickPoint(button, MiddleOf(button));
   WaitUntil([&] { return !IsWindowVisible(box); }, [&] { return "the message stays: " + text; });
   return text;
 }

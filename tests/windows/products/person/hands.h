@@ -3,6 +3,7 @@
 #include <string>
 
 #include "tests/windows/products/person/eyes.h"
+#include "tests/windows/products/person/patience.h"
 #include "tests/windows/products/person/program.h"
 
 namespace person {
@@ -18,8 +19,13 @@ class FormOnScreen {
   void Click(const std::string& caption);
   void DoubleClickRow(int row);
   void ClickRow(int row);
-  void ClickHeading(const std::string& heading);
   void RightClickList();
+  /// A click on the text of a cell, on a row's check box, on a heading.
+  void ClickCell(int row, const std::string& heading);
+  void ClickBox(int row);
+  void ClickHeading(const std::string& heading);
+  /// Pulls the right edge of a column, by pixels.
+  void PullColumn(const std::string& heading, int right);
   /// Checks or unchecks a row's box by the keyboard.
   void TickRow(int row);
   /// Brings a tab's page to the front by its caption.
@@ -36,6 +42,7 @@ class FormOnScreen {
   void CloseByTitleBar();
   /// Pulls the window's lower right corner, by pixels.
   void Pull(int right, int down);
+  void Maximize();
 
   /// What there is to read; each waits until it is so.
   void Shows(const std::string& label, const std::string& text);
@@ -48,10 +55,15 @@ class FormOnScreen {
   void HasTicked(int row, bool ticked);
   /// The list's size in pixels.
   void HasListOf(SIZE size);
+  /// A column's width in pixels.
+  void HasWidth(const std::string& heading, int least, int most);
+  void HasInSight(const std::string& heading);
+  void HasWholeFrame(const std::string& caption);
   void IsUsable(const std::string& caption, bool usable);
 
   Texts Headings() const { return ListOnScreen(List()).Headings(); }
   SIZE ListSize() const;
+  int WidthOf(const std::string& heading) const;
   /// What is read now behind a label.
   std::string Read(const std::string& label) const { return TextOf(Behind(label)); }
   /// Waits until the window is gone.
@@ -59,7 +71,9 @@ class FormOnScreen {
 
  private:
   template <class Condition>
-  void Wait(const Condition& holds, const std::string& what) const;
+  void Wait(const Condition& holds, const std::string& what) const {
+    WaitUntil(holds, [&] { return "waited in vain: " + what + "; on the screen:" + Describe(process_); });
+  }
   void ComeToFront();
   void ClickAt(HWND window);
   HWND Captioned(const std::string& caption) const;
