@@ -107,6 +107,7 @@ late::Value ArgumentValue(const Lexed& lexed, const ast::Expr* argument) {
   const Cell cell = OwnCell(lexed, token, buffer);
   if (cell.form == Cell::Form::Text) return cell.text;
   if (cell.form == Cell::Form::Real) return cell.real;
+  if (token.kind == TokenKind::Decimal && token.scale > kMostDigits) RaiseOverflow("numeric");
   if (token.kind == TokenKind::Decimal) return vb::Decimal{cell.integer, token.scale};
   const auto narrow = static_cast<std::int32_t>(cell.integer);
   return narrow == cell.integer ? late::Value(narrow) : late::Value(cell.integer);

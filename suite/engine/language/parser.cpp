@@ -164,6 +164,14 @@ std::vector<std::string> Parser::NameList() {
   return names;
 }
 
+Parser::Nesting::Nesting(Parser& parser) : parser_(parser) {
+  constexpr int kMaxDepth = 200;
+  if (++parser_.depth_ <= kMaxDepth) return;
+  --parser_.depth_;
+  RaiseServer(kNestedTooDeeply,
+              "Some part of your SQL statement is nested too deeply. Rewrite the query or break it up into smaller queries.");
+}
+
 void Parser::SkipSeparators() {
   while (TakeSymbol(';')) {
   }

@@ -30,6 +30,18 @@ class Parser {
   const std::vector<int>& Structural() const { return structural_; }
 
  private:
+  /// One level of nesting, as long as it lives. Error 191 beyond the limit: the stack has one, too.
+  class Nesting {
+   public:
+    explicit Nesting(Parser& parser);
+    ~Nesting() { --parser_.depth_; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+   private:
+    Parser& parser_;
+  };
+
   // Tokens (parser.cpp)
   const Token& Peek(std::size_t ahead = 0) const;
   bool PeekWord(std::string_view word, std::size_t ahead = 0) const;
@@ -116,6 +128,7 @@ class Parser {
   const Lexed& lexed_;
   std::size_t position_;
   std::vector<int> structural_;
+  int depth_ = 0;
 };
 
 bool IsReserved(std::string_view word);

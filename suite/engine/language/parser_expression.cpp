@@ -100,6 +100,7 @@ ExprPtr Parser::And() {
 
 ExprPtr Parser::NotTerm() {
   if (!PeekWord("not")) return Comparison();
+  const Nesting nesting(*this);
   const std::uint32_t token = Here();
   ++position_;
   ExprPtr term = NotTerm();
@@ -161,9 +162,11 @@ ExprPtr Parser::InTail(std::uint32_t token, bool negated, ExprPtr value) {
 /// Operands joined by operators of one rank, from left to right.
 template <std::size_t N>
 ExprPtr Parser::LeftToRight(const std::array<std::pair<char, BinaryOperator>, N>& operators, ExprPtr (Parser::*operand)()) {
+  constexpr int kMaxOperators = 900;  // the tree leans to the left: each is a level more
   ExprPtr left = (this->*operand)();
-  while (const BinaryOperator* op = OperatorOf(Peek(), operators)) {
+  for (int count = 0; const BinaryOperator* op = OperatorOf(Peek(), operators); ++count) {
     if (left->IsPredicate()) Unexpected();
+    if (count == kMaxOperators) RaiseServer(kNestedTooDeeply, "Some part of your SQL statement is nested too deeply.");
     const std::uint32_t token = Here();
     ++position_;
     left = Node(token, ast::Binary{*op, std::move(left), (this->*operand)()});
@@ -182,12 +185,14 @@ ExprPtr Parser::Product() {
 ExprPtr Parser::Sign() {
   const UnaryOperator* op = OperatorOf(Peek(), kSigns);
   if (!op) return Primary();
+  const Nesting nesting(*this);
   const std::uint32_t token = Here();
   ++position_;
   return Node(token, ast::Unary{*op, Sign()});
 }
 
 ExprPtr Parser::Primary() {
+  const Nesting nesting(*this);
   const std::uint32_t token = Here();
   switch (Peek().kind) {
     case TokenKind::Integer:

@@ -94,6 +94,7 @@ void Parser::Hints() {
 }
 
 std::unique_ptr<ast::Source> Parser::SourceItem() {
+  const Nesting nesting(*this);
   auto source = std::make_unique<ast::Source>();
   source->token = static_cast<std::uint32_t>(position_);
   if (TakeSymbol('(')) {

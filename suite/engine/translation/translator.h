@@ -52,6 +52,7 @@ class Translator {
     Type type;
     int parameter = -1;     ///< a bare literal: its slot, whose type may still be settled
     bool collated = false;  ///< compares as the server compares
+    bool chain = false;     ///< sums or joined texts in one pair of brackets, which a further one may enter
     bool nullable = true;
     int tableColumn = -1;
   };

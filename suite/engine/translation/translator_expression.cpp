@@ -123,6 +123,7 @@ Translator::Emitted Translator::Unary(const Expr& expr, const ast::Unary& sign, 
   value.parameter = -1;
   value.tableColumn = -1;
   value.collated = false;
+  value.chain = false;
   return value;
 }
 

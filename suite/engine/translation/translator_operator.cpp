@@ -38,6 +38,12 @@ std::string TextOf(BinaryOperator op) {
   return " " + Symbol(op) + " ";
 }
 
+/// One pair of brackets for the whole chain: the store's parser bounds how deep they nest.
+template <class Value>
+std::string Chained(const Value& left, bool continues, const std::string& op, const std::string& right) {
+  return (continues ? left.sql.substr(0, left.sql.size() - 1) : "(" + left.sql) + op + right + ")";
+}
+
 std::string Power(int exponent) {
   return std::to_string(PowerOfTen(exponent));
 }
@@ -73,9 +79,12 @@ Translator::Emitted Translator::Coerce(Emitted value, const Type& target, int st
   value.type = target;
   if (sameText || wider || sameDecimal || same) return value;
   value.collated = false;
+  value.chain = false;
   value.tableColumn = -1;
   const int fromScale = from.kind == Kind::Decimal ? from.scale : 0;
-  if (target.kind == Kind::Decimal && !target.assign && (from.IsWhole() || from.kind == Kind::Decimal) &&
+  // The smallest bigint has no decimal of 18 digits.
+  const bool everyValueFits = from.kind != Kind::BigInt || target.precision > kMostDigits;
+  if (target.kind == Kind::Decimal && !target.assign && everyValueFits && (from.IsWhole() || from.kind == Kind::Decimal) &&
       target.scale >= fromScale && (target.precision - target.scale >= from.precision - fromScale)) {
     if (target.scale > fromScale) value.sql = "(" + value.sql + " * " + Power(target.scale - fromScale) + ")";
     return value;
@@ -110,7 +119,8 @@ Translator::Emitted Translator::Binary(const ast::Expr& expr, const ast::Binary&
   if (binary.op == BinaryOperator::Add && !anyNumber && (left.type.IsText() || right.type.IsText())) {
     const int length = left.type.length && right.type.length ? left.type.length + right.type.length : 0;
     value.type = Type::TextOf(length);
-    value.sql = "(" + left.sql + " || " + right.sql + ")";
+    value.sql = Chained(left, left.chain, " || ", right.sql);
+    value.chain = true;
     return value;
   }
   if (left.type.kind == Kind::DateTime || right.type.kind == Kind::DateTime) {
@@ -182,7 +192,15 @@ Translator::Emitted Translator::Arithmetic(BinaryOperator op, Emitted left, Emit
   }
   value.type = common.IsWhole() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
   if (common.kind == Kind::Decimal) value.type = Type::DecimalOf(std::min<int>(common.precision + 1, 38), common.scale);
-  value.sql = "(" + Coerce(std::move(left), common).sql + TextOf(op) + Coerce(std::move(right), common).sql + ")";
+  if (op != BinaryOperator::Add && op != BinaryOperator::Subtract) {
+    value.sql = "(" + Coerce(std::move(left), common).sql + TextOf(op) + Coerce(std::move(right), common).sql + ")";
+    return value;
+  }
+  const std::string before = left.sql;
+  const bool chain = left.chain;
+  left = Coerce(std::move(left), common);
+  value.sql = Chained(left, chain && left.sql == before, TextOf(op), Coerce(std::move(right), common).sql);
+  value.chain = true;
   return value;
 }
 

@@ -156,7 +156,7 @@ std::string Translator::OrderText(const ast::Query& query, Scope* scope, const s
     const auto* column = expr.If<ast::ColumnName>();
     if (const auto* literal = expr.If<ast::Literal>()) {
       const std::string digits = Near(literal->token);
-      position = digits.size() < 6 && digits.find_first_not_of("0123456789") == std::string::npos
+      position = !digits.empty() && digits.size() < 6 && digits.find_first_not_of("0123456789") == std::string::npos
                      ? static_cast<std::size_t>(std::stoi(digits)) - 1
                      : columns.size();
       if (position >= columns.size())

@@ -143,7 +143,10 @@ double AsDouble(const Cell& value, const Type& from) {
 
 Cell ToDate(const Cell& value, const Type& from, DateOrder order) {
   if (value.form == Cell::Form::Text) return Cell::Of(ParseServerDate(value.text, order));
-  return Cell::Of(std::int64_t{std::llround(AsDouble(value, from) * static_cast<double>(kDay)) + kServerDayZero});
+  constexpr double kFirstDay = -53690, kLastDay = 2958463;  // 1 January 1753 and 31 December 9999, from 1 January 1900 on
+  const double days = AsDouble(value, from);
+  if (!(days >= kFirstDay && days < kLastDay + 1)) RaiseOverflow("datetime");
+  return Cell::Of(std::int64_t{std::llround(days * static_cast<double>(kDay)) + kServerDayZero});
 }
 
 Cell ToWhole(const Cell& value, const Type& from, const Type& to) {
@@ -166,6 +169,7 @@ Cell ToDecimal(const Cell& value, const Type& from, const Type& to) {
 }  // namespace
 
 std::int64_t Rescale(std::int64_t units, int oldScale, int newScale, int precision) {
+  if (units == std::numeric_limits<std::int64_t>::min()) RaiseOverflow("decimal");  // it has no absolute value
   if (newScale > oldScale) {
     const std::int64_t power = PowerOfTen(newScale - oldScale);
     if (std::abs(units) > std::numeric_limits<std::int64_t>::max() / power) RaiseOverflow("decimal");

@@ -46,6 +46,7 @@ std::int64_t DoubleToUnits(double value, int scale);
 
 // Dates
 std::int64_t ToMilliseconds(vb::Date date);
+/// Error 517 outside the years 100 to 9999.
 vb::Date FromMilliseconds(std::int64_t milliseconds);
 /// Reads the server's date texts: yyyymmdd, yyyy/mm/dd, yyyy-mm-dd, mm/dd/yyyy, each with an optional time; a time alone; the
 /// empty text is 1 January 1900. Where the day comes first, it also comes right after a leading year (yyyy/dd/mm), but not before

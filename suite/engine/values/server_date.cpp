@@ -128,6 +128,10 @@ std::int64_t ToMilliseconds(vb::Date date) {
 }
 
 vb::Date FromMilliseconds(std::int64_t milliseconds) {
+  constexpr std::int64_t kFirstDay = -657434, kLastDay = 2958465;  // 1 January 100 and 31 December 9999
+  if (milliseconds < kFirstDay * kDay || milliseconds >= (kLastDay + 1) * kDay) {
+    RaiseServer(kDateOverflow, "Adding a value to a 'datetime' column caused overflow.");
+  }
   if (milliseconds >= 0) return vb::Date{static_cast<double>(milliseconds) / static_cast<double>(kDay)};
   const std::int64_t day = -((-milliseconds + kDay - 1) / kDay);
   const double fraction = static_cast<double>(milliseconds - day * kDay) / static_cast<double>(kDay);

@@ -17,6 +17,7 @@ enum ServerErrorNumber : int {
   kUnknownOption = 155,
   kSyntaxNearKeyword = 156,
   kWrongNumberOfArguments = 174,
+  kNestedTooDeeply = 191,
   kScaleAbovePrecision = 192,
   kUnknownFunction = 195,
   kParameterNotSupplied = 201,

@@ -37,8 +37,7 @@ TEST_F(ErrorRoutine, HandsTheErrorToTheSuitesComponentAndSaysNothingItself) {
 
 TEST_F(ErrorRoutine, ShowsTheErrorOnceWhereTheComponentIsMissingOrFails) {
   const auto failsWith = [&](const std::string& title) {
-    shop.desktop.ExpectMessage("Connection lost\n(frmRequest cmdOK_Click, 3704)", controls::Answer::Ok,
-                               controls::kExclamation);
+    shop.desktop.ExpectMessage("Connection lost\n(frmRequest cmdOK_Click, 3704)", controls::Answer::Ok, controls::kExclamation);
     Fail();
     EXPECT_EQ(shop.desktop.messages.back().title, title);
     shop.desktop.Verify();

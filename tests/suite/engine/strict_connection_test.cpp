@@ -207,4 +207,21 @@ TEST_F(Strict, TheErrorsOfRowsAndTransactionsAreKeptLikeThoseOfStatements) {
   EXPECT_EQ(kept(), "40001 1205");
 }
 
+TEST_F(Strict, WhatIsNestedTooDeeplyIsAnErrorAndNotTheEndOfTheProcess) {
+  const auto nested = [](const std::string& open, const std::string& inner, const std::string& close) {
+    constexpr int kDepth = 10000;
+    std::string text = "select ";
+    for (int i = 0; i < kDepth; ++i) text += open;
+    text += inner;
+    for (int i = 0; i < kDepth; ++i) text += close;
+    return text;
+  };
+  for (const std::string& text :
+       {nested("(", "1", ")"), nested("case when 1=1 then ", "1", " end"), nested("abs(", "1", ")"), nested("(select ", "1", ")"),
+        nested("- ", "1", ""), nested("", "1", "+1"), "select 1 where " + nested("not ", "1=1", "").substr(7),
+        "select 1 from " + nested("(", "detail", ")").substr(7)}) {
+    EXPECT_EQ(ServerErrorOf([&] { Execute(text); }), 191) << text.substr(0, 40);
+  }
+}
+
 }  // namespace
