@@ -24,7 +24,8 @@ if [ ! -f "$folder/ready" ]; then
   ) 9>"$folder/lock"
 fi
 if [ "$1" = --serve ]; then
-  wineserver -p || [ $? = 2 ]  # 2: it runs already
+  # One that runs already ends soon after its last program; where it does not, it is as good.
+  wineserver -p || { timeout 10 wineserver -w; wineserver -p; } || [ $? = 2 ]
   # The services start here: from a test they would hold its output open as long as they live.
   exec wine wineboot >/dev/null 2>&1
 fi
