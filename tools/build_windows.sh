@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the Windows products, and the tests with the 64-bit ones: build/windows-x64 and build/windows-x86.
+# Builds the Windows products and their tests: build/windows-x64 and build/windows-x86.
 # Usage: tools/build_windows.sh [--products] [x64|x86]...      --products: without the tests
 set -euo pipefail
 cd "$(dirname "$0")/.."
