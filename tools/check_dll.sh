@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Looks at server DLLs from outside, whichever their width: the four entry points and no others, imports from the system only,
-# "OLESelfRegister" in the version block, the component's type library, and the size.
+# "OLESelfRegister" in the version block, the icon, the component's type library, and the size.
 # Usage: tools/check_dll.sh DLL...
 set -euo pipefail
 
