@@ -24,8 +24,10 @@ if [ ! -f "$folder/ready" ]; then
   ) 9>"$folder/lock"
 fi
 if [ "$1" = --serve ]; then
-  # One that runs already ends soon after its last program; where it does not, it is as good.
-  wineserver -p || { timeout 10 wineserver -w; wineserver -p; } || [ $? = 2 ]
+  # One that runs already ends soon after its last program; where it does not, it is as good. Not with the caller's output: whoever
+  # reads that from a pipe would wait for the server's end.
+  serve() { wineserver -p </dev/null >/dev/null 2>&1; }
+  serve || { timeout 10 wineserver -w; serve; } || [ $? = 2 ]
   # The services start here: from a test they would hold its output open as long as they live.
   exec wine wineboot >/dev/null 2>&1
 fi
