@@ -46,9 +46,10 @@ void TypeCharacter(wchar_t character) {
 }
 
 void PressNamed(std::string name) {
-  static const std::map<std::string, WORD> named = {{"Enter", VK_RETURN}, {"Esc", VK_ESCAPE},    {"Tab", VK_TAB},
-                                                    {"F3", VK_F3},        {"Delete", VK_DELETE}, {"Down", VK_DOWN},
-                                                    {"Up", VK_UP},        {"Home", VK_HOME},     {"Space", VK_SPACE}};
+  static const std::map<std::string, WORD> named = {
+      {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE}, {"Tab", VK_TAB},    {"F3", VK_F3},     {"F10", VK_F10},
+      {"Delete", VK_DELETE}, {"Down", VK_DOWN},  {"Up", VK_UP},      {"Home", VK_HOME}, {"PageUp", VK_PRIOR},
+      {"PageDown", VK_NEXT}, {"Menu", VK_APPS},  {"Space", VK_SPACE}};
   static const std::map<std::string, WORD> holding = {{"Ctrl+", VK_CONTROL}, {"Alt+", VK_MENU}, {"Shift+", VK_SHIFT}};
   std::vector<WORD> held;
   for (const auto& [prefix, key] : holding) {
@@ -59,6 +60,11 @@ void PressNamed(std::string name) {
   const auto found = named.find(name);
   if (found == named.end() && name.size() != 1) throw std::runtime_error("no such key: " + name);
   Stroke(found != named.end() ? found->second : static_cast<WORD>(std::toupper(static_cast<unsigned char>(name[0]))), held);
+}
+
+bool IsMenuOpen(DWORD process) {
+  const auto windows = WindowsOf(process);
+  return std::any_of(windows.begin(), windows.end(), [](HWND window) { return KindOf(window) == kMenuKind; });
 }
 
 }  // namespace
@@ -98,8 +104,18 @@ HWND FormOnScreen::Behind(const std::string& label) const {
       distance = field.left;
     }
   }
-  if (nearest == nullptr) throw std::runtime_error("nothing to type into behind " + Quoted(label));
-  return nearest;
+  return nearest != nullptr ? nearest : Below(place, label);
+}
+
+HWND FormOnScreen::Below(const RECT& label, const std::string& caption) const {
+  for (HWND child : ChildrenOf(form_)) {
+    const std::string kind = KindOf(child);
+    RECT field{};
+    GetWindowRect(child, &field);
+    const bool isBelow = field.left == label.left && field.top >= label.bottom && field.top < 2 * label.bottom - label.top;
+    if ((kind == "Edit" || kind == "ComboBox") && isBelow) return child;
+  }
+  throw std::runtime_error("nothing to type into behind " + Quoted(caption));
 }
 
 void FormOnScreen::ClickAt(HWND window) {
@@ -136,10 +152,14 @@ void FormOnScreen::Type(const std::string& text) {
   for (wchar_t character : windows::Wide(text)) TypeCharacter(character);
 }
 
-void FormOnScreen::Write(const std::string& label, const std::string& text) {
+void FormOnScreen::GoBehind(const std::string& label) {
   const HWND field = Behind(label);
   if (FocusOf(form_) != field) ClickAt(field);
   HasFocusBehind(label);
+}
+
+void FormOnScreen::Write(const std::string& label, const std::string& text) {
+  GoBehind(label);
   ComeToFront();
   PressNamed("Ctrl+A");
   Type(text);
@@ -187,6 +207,23 @@ void FormOnScreen::Shows(const std::string& label, const std::string& text) {
   std::string seen;
   WaitUntil([&] { return (seen = TextOf(field)) == text; },
             [&] { return Quoted(label) + " shows " + Quoted(seen) + " and not " + Quoted(text) + Describe(process_); });
+}
+
+void FormOnScreen::Holds(const std::string& text) {
+  std::string seen;
+  WaitUntil([&] { return (seen = TextOf(FocusOf(form_))) == text; },
+            [&] { return "the box with the focus holds " + Quoted(seen) + " and not " + Quoted(text) + Describe(process_); });
+}
+
+void FormOnScreen::HasInFront(const std::string& page) {
+  Wait(
+      [&] {
+        for (HWND child : ChildrenOf(form_)) {
+          if (KindOf(child) == "SysTabControl32" && TabsOnScreen(child).InFront() == page) return true;
+        }
+        return false;
+      },
+      "the page " + Quoted(page));
 }
 
 void FormOnScreen::HasFocusBehind(const std::string& label) {
@@ -263,13 +300,17 @@ std::string Person::Answers(const std::string& caption) {
   return text;
 }
 
+void Person::MeetsMenu() {
+  WaitUntil([&] { return IsMenuOpen(program_.Id()); }, [&] { return "no menu; on the screen:" + Describe(program_.Id()); });
+}
+
+void Person::LeavesMenu() {
+  PressNamed("Esc");
+  WaitUntil([&] { return !IsMenuOpen(program_.Id()); }, [] { return "the menu stays"; });
+}
+
 void Person::Picks(char accessKey) {
-  WaitUntil(
-      [&] {
-        const auto windows = WindowsOf(program_.Id());
-        return std::any_of(windows.begin(), windows.end(), [](HWND window) { return KindOf(window) == kMenuKind; });
-      },
-      [&] { return "no menu; on the screen:" + Describe(program_.Id()); });
+  MeetsMenu();
   PressNamed(std::string(1, accessKey));
 }
 

@@ -20,6 +20,9 @@ class FormOnScreen {
   void DoubleClickRow(int row);
   void ClickRow(int row);
   void RightClickList();
+  /// Puts the focus on the list, by a click on the row that is selected, or behind a label.
+  void GoToList();
+  void GoBehind(const std::string& label);
   /// A click on the text of a cell, on a row's check box, on a heading.
   void ClickCell(int row, const std::string& heading);
   void ClickBox(int row);
@@ -30,7 +33,7 @@ class FormOnScreen {
   void TickRow(int row);
   /// Brings a tab's page to the front by its caption.
   void TurnTo(const std::string& page);
-  /// A key on whatever has the focus: "Enter", "Esc", "Tab", "Space", "Delete", "Down", "F3" or one letter or digit, with
+  /// A key on whatever has the focus: "Enter", "Esc", "Tab", "Space", "Delete", "Down", "F3", "Menu" or one letter or digit, with
   /// "Ctrl+", "Alt+" or "Shift+" before it.
   void Press(const std::string& key);
   /// Characters for whatever has the focus.
@@ -48,10 +51,15 @@ class FormOnScreen {
   void Shows(const std::string& label, const std::string& text);
   void HasFocusBehind(const std::string& label);
   void HasFocusOn(const std::string& caption);
+  void HasFocusOnList();
+  /// What the box that has the focus holds.
+  void Holds(const std::string& text);
+  void HasInFront(const std::string& page);
   void HasRows(int count);
   void HasRow(int row, const Texts& cells);
   void HasSelected(int row);
   void HasSelectedRow(const Texts& cells);
+  void HasSelectedCell(const std::string& cell);
   void HasTicked(int row, bool ticked);
   /// The list's size in pixels.
   void HasListOf(SIZE size);
@@ -77,7 +85,9 @@ class FormOnScreen {
   void ComeToFront();
   void ClickAt(HWND window);
   HWND Captioned(const std::string& caption) const;
+  /// The box on the right of a label, or right below it.
   HWND Behind(const std::string& label) const;
+  HWND Below(const RECT& label, const std::string& caption) const;
   /// The form's list: the widest that is shown. Looked for anew each time, for pages change.
   HWND List() const;
 
@@ -94,7 +104,9 @@ class Person {
   FormOnScreen Meets(const std::string& title);
   /// Waits for a message, answers it by the caption of a button and gives its text, line ends as blanks.
   std::string Answers(const std::string& caption);
-  /// Waits for a menu and picks by access key.
+  /// Waits for a menu; then leaves it with Esc, or picks by access key.
+  void MeetsMenu();
+  void LeavesMenu();
   void Picks(char accessKey);
 
  private:

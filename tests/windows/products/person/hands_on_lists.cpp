@@ -1,5 +1,7 @@
 // What somebody does and sees in the list of a form.
 
+#include <algorithm>
+
 #include "platform/windows/desktop/common_controls.h"
 #include "tests/windows/products/person/hands.h"
 #include "tests/windows/products/person/mouse.h"
@@ -32,6 +34,17 @@ HWND FormOnScreen::List() const {
       },
       "a list");
   return widest;
+}
+
+void FormOnScreen::GoToList() {
+  if (FocusOf(form_) == List()) return;
+  ComeToFront();
+  ClickPoint(List(), ListOnScreen(List()).PlaceOf(std::max(0, ListOnScreen(List()).SelectedRow())));
+  HasFocusOnList();
+}
+
+void FormOnScreen::HasFocusOnList() {
+  Wait([&] { return FocusOf(form_) == List(); }, "the focus on the list");
 }
 
 void FormOnScreen::ClickRow(int row) {
@@ -95,6 +108,18 @@ void FormOnScreen::HasRow(int row, const Texts& cells) {
 
 void FormOnScreen::HasSelected(int row) {
   Wait([&] { return ListOnScreen(List()).SelectedRow() == row; }, "row " + std::to_string(row) + " selected");
+}
+
+void FormOnScreen::HasSelectedCell(const std::string& cell) {
+  Texts seen;
+  WaitUntil(
+      [&] {
+        const ListOnScreen list(List());
+        const int row = list.SelectedRow();
+        if (row >= 0) seen = list.Row(row);
+        return std::find(seen.begin(), seen.end(), cell) != seen.end();
+      },
+      [&] { return "the selected row is\n  " + Joined(seen) + "\nand has no " + Quoted(cell); });
 }
 
 void FormOnScreen::HasSelectedRow(const Texts& cells) {

@@ -8,6 +8,8 @@
 namespace person {
 namespace {
 
+constexpr DWORD kEndingTime = 10'000;  // milliseconds
+
 /// A new file that a started program may write to.
 HANDLE SharedFile() {
   std::array<wchar_t, MAX_PATH> folder{};
@@ -36,6 +38,7 @@ Program::Program(const std::string& commandLine) : complaint_(SharedFile()) {
 
 Program::~Program() {
   if (!HasEnded()) TerminateProcess(process_.hProcess, 1);
+  WaitForSingleObject(process_.hProcess, kEndingTime);  // its files are free only then
   CloseHandle(process_.hThread);
   CloseHandle(process_.hProcess);
   CloseHandle(complaint_);
