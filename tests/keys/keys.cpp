@@ -75,7 +75,7 @@ FormKeys CancelReason() {
       kReason,
       ToRequest() + Key{.at = "list", .key = "Delete", .effect = Asks, .what = kReallyDelete, .answer = "Yes", .form = kReason},
       {
-          {.key = "Tab", .effect = Focus, .what = "Reason :"},  // nothing else can be reached before there is one
+          {.key = "Tab", .effect = Focus, .what = "OK"},
           {.key = "Alt+R", .effect = Focus, .what = "Reason :"},
           {.typed = "Ordered twice", .key = "Enter", .effect = Focus, .what = "OK"},
           {.key = "Alt+O", .effect = Closes, .what = kRegister},
@@ -106,7 +106,6 @@ FormKeys Editor() {
               {.key = "Alt+R", .effect = Focus, .what = "Remarks:"},
               {.typed = "Games", .key = "Ctrl+Z", .effect = Holds, .what = "Toys for the fair"},
               {.key = "Alt+F", .effect = Focus, .what = "Confirm Finished", .back = {"Alt+F"}},
-              {.key = "Alt+U", .effect = Focus, .what = "Customer Request"},
               {.key = "Ctrl+Tab", .effect = Turns, .what = "Customer Requests"},
               {.key = "Ctrl+Tab", .effect = Turns, .what = "Items"},
               {.key = "Alt+R", .then = "Games", .effect = Holds, .what = "Games"},

@@ -35,7 +35,7 @@ class Presser {
     }
     front_->Type(key.typed);
     if (!key.key.empty()) front_->Press(key.key);
-    front_->Type(key.then);
+    if (!key.then.empty()) front_->Type(key.then);
     const std::string before = title_;
     See(key);
     if (!key.label.empty()) front_->Shows(key.label, key.shows);
