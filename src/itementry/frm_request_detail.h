@@ -2,7 +2,9 @@
 
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "base/controls/buttons.h"
 #include "base/controls/combo_box.h"
@@ -101,6 +103,7 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void TakeItem(const PickedItem& item);
   void RefuseItemCode();
   void ForgetItem();
+  std::optional<PickedItem> FindTypedCode(std::string_view code);
   ItemListMode SelectedList() const override;
   bool TakeItemCode(const PickedItem& item) override;
   void TakeStockOutItem(const PickedItem& item) override;

@@ -1,5 +1,6 @@
 // How the item of a line is found: by its code, by its name, in the item lookup, in the fetch dialog.
 
+#include "base/vb/error.h"
 #include "base/vb/text.h"
 #include "src/fetch/frm_fetch.h"
 #include "src/itementry/frm_request_detail.h"
@@ -30,10 +31,19 @@ void frmRequestDetail::txtitemcode_KeyPress(int& character) {
   const std::string code(vb::Trim(txtitemcode.Text()));
   if (code.empty()) {
     EnterTo(cmdFetch, character);
-  } else if (const auto found = FindItemByCode(Session(), objCommonDB_, code)) {
+  } else if (const auto found = FindTypedCode(code)) {
     TakeItem(*found);
   } else {
     RefuseItemCode();
+  }
+}
+
+std::optional<PickedItem> frmRequestDetail::FindTypedCode(std::string_view code) {
+  try {
+    return FindItemByCode(Session(), objCommonDB_, code);
+  } catch (const vb::RunTimeError&) {
+    ForgetItem();  // as after a refusal: the box shows a code that the item from before does not have
+    throw;
   }
 }
 
@@ -131,11 +141,17 @@ ItemListMode frmRequestDetail::SelectedList() const {
 }
 
 bool frmRequestDetail::TakeItemCode(const PickedItem& item) {
-  txtitemcode.SetText(item.itemCode);
+  // The box changes once the server has answered: after an error it still shows the code of the item that is chosen.
   const auto found = FindItemByCode(Session(), objCommonDB_, vb::Trim(item.itemCode));
-  if (!found && !MayItemCodesRepeat(objCommonDB_)) {
+  const bool refused = !found && !MayItemCodesRepeat(objCommonDB_);
+  txtitemcode.SetText(item.itemCode);
+  if (refused) {
     // An item of the stock-out list comes as it stands, whether its code is found or not: nothing is refused.
-    if (SelectedList() != ItemListMode::StockOut) RefuseItemCode();
+    if (SelectedList() == ItemListMode::StockOut) {
+      ForgetItem();
+    } else {
+      RefuseItemCode();
+    }
     return false;
   }
   // The code may be another item's barcode or shortcut, or no item's alone: the row that the user picked decides.

@@ -74,6 +74,27 @@ TEST_F(FetchDialog, NothingIsRefusedOfAStockOutItemThatIsTaken) {
   });
 }
 
+TEST_F(FetchDialog, AnErrorAtOkLeavesTheItemFromBeforeWithItsCode) {
+  for (int step = 1; step <= 5; ++step) {  // the statements of one look-up
+    Add([&] {
+      Scan("KT1012");
+      shop.desktop.ExpectForm("FrmFetch", [&](controls::Form& opened) {
+        auto& dialog = dynamic_cast<goods::FrmFetch&>(opened);
+        support::Enter(dialog.txtFetch, "Frying pan 24");
+        support::Press(dialog.txtFetch, "Enter");
+        shop.log.FailAt(step);
+        shop.desktop.ExpectMessage("Connection broken by the test\n(FrmFetch CmdOk_Click, -2147217900)", controls::Answer::Ok,
+                                   controls::kExclamation);
+        support::Click(dialog.CmdOk);
+        EXPECT_TRUE(dialog.IsLoaded());
+        support::Click(dialog.CmdClose);
+      });
+      support::Press(form->cmdFetch, "Shift+F3");
+      EXPECT_EQ(form->txtitemcode.Text() + ":" + ChosenItem(), "KT1012:Chef's knife 20 cm") << step;
+    });
+  }
+}
+
 TEST_F(FetchDialog, ClosingItChangesNothing) {
   Add([&] {
     Scan("KT1012");
