@@ -88,8 +88,8 @@ late::Value Recordset::Field(std::string_view name) {
 late::Value Recordset::Field(int index) {
   return Target().Get("Collect", {Number(index)});
 }
-void Recordset::SetField(std::string_view name, late::Value value) {
-  Target().Put("Collect", {name}, std::move(value));
+void Recordset::SetField(std::string_view name, const late::Value& value) {
+  Target().Put("Collect", {name}, value);
 }
 
 void Recordset::AddNew() {

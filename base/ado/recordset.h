@@ -47,7 +47,7 @@ class Recordset {
   std::string FieldName(int index);
   late::Value Field(std::string_view name);
   late::Value Field(int index);
-  void SetField(std::string_view name, late::Value value);
+  void SetField(std::string_view name, const late::Value& value);
 
   void AddNew();
   /// Adds one row with these columns in this order: one call instead of one per column. With a batch lock the row is only cached.

@@ -35,7 +35,8 @@ class Desktop {
   virtual void DoEvents() {}
   /// Runs `open`, which has another component show a window with this title, and keeps that component's objects for as long as
   /// the window is there. Where there are no windows they are let go of at once.
-  virtual void KeepWhileShown(std::string_view title, std::vector<late::ObjectPtr> objects, const std::function<void()>& open) {
+  virtual void KeepWhileShown(std::string_view title, const std::vector<late::ObjectPtr>& objects,
+                              const std::function<void()>& open) {
     (void)title, (void)objects;
     open();
   }

@@ -186,13 +186,13 @@ long WindowsDesktop::RowsShown(const controls::Control& list) const {
   return rows > 0 ? rows : Desktop::RowsShown(list);
 }
 
-void WindowsDesktop::KeepWhileShown(std::string_view title, std::vector<late::ObjectPtr> objects,
+void WindowsDesktop::KeepWhileShown(std::string_view title, const std::vector<late::ObjectPtr>& objects,
                                     const std::function<void()>& open) {
   const std::wstring wide = Wide(title);
   const std::vector<HWND> before = WindowsTitled(wide);
   open();
   for (HWND window : WindowsTitled(wide)) {
-    if (std::ranges::find(before, window) == before.end()) return KeepWhileOpen(window, std::move(objects));
+    if (std::ranges::find(before, window) == before.end()) return KeepWhileOpen(window, objects);
   }
 }
 

@@ -23,7 +23,8 @@ class WindowsDesktop : public controls::Desktop {
   controls::Menu* PopupMenu(controls::Form& form, controls::Menu& menu) override;
   void DoEvents() override;
   bool IsHighContrast() const override;
-  void KeepWhileShown(std::string_view title, std::vector<late::ObjectPtr> objects, const std::function<void()>& open) override;
+  void KeepWhileShown(std::string_view title, const std::vector<late::ObjectPtr>& objects,
+                      const std::function<void()>& open) override;
   /// Once a message: a pasted text that is refused throughout sounds it once.
   void Beep() override;
   long RowsShown(const controls::Control& list) const override;

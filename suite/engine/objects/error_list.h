@@ -23,7 +23,7 @@ class ErrorList : public late::TableObject<ErrorList> {
 /// One of them, with the server's own number beside the provider's.
 class ErrorItem : public late::TableObject<ErrorItem> {
  public:
-  explicit ErrorItem(ServerError error) : error_(std::move(error)) {}
+  explicit ErrorItem(const ServerError& error) : error_(error) {}
   static const late::MemberTable<ErrorItem>& Members();
   std::string TypeName() const override { return "Error"; }
 
