@@ -7,6 +7,8 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 folder=${WINE_FOLDER:-$root/build/wine}
 export WINEPREFIX=$folder/prefix WINEARCH=win${WINE_WIDTH:-64} WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=d"
+# Without a locale Wine makes no files whose names are beyond ASCII; this one is there on every Debian.
+export LC_ALL=C.UTF-8
 if [ ! -f "$folder/ready" ]; then
   mkdir -p "$folder"
   (
