@@ -139,7 +139,9 @@ void clsFetch::LoadRows() {
 std::vector<std::string> clsFetch::FieldNames() {
   if (!fieldNames_.empty()) return fieldNames_;
   std::vector<std::string> names;
-  for (int field = 0; field < recordset_.FieldCount(); ++field) names.push_back(recordset_.FieldName(field));
+  const int count = recordset_.FieldCount();
+  names.reserve(static_cast<std::size_t>(count));
+  for (int field = 0; field < count; ++field) names.push_back(recordset_.FieldName(field));
   return names;
 }
 

@@ -10,7 +10,7 @@
 
 namespace suite {
 
-void RegisterHelpers(late::ClassRegistry& registry, std::shared_ptr<Surroundings> surroundings) {
+void RegisterHelpers(late::ClassRegistry& registry, const std::shared_ptr<Surroundings>& surroundings) {
   registry.Register("ShopCommon.clsCommonDB", [surroundings] { return std::make_shared<clsCommonDB>(surroundings); });
   registry.Register("ShopCommon.clsCommonGen", [] { return std::make_shared<clsCommonGen>(); });
   registry.Register("Lookup.clsFetch", [surroundings] { return std::make_shared<clsFetch>(surroundings); });

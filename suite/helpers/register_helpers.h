@@ -8,6 +8,6 @@
 namespace suite {
 
 /// Registers the stand-ins of the suite's seven helper components under their ProgIDs.
-void RegisterHelpers(late::ClassRegistry& registry, std::shared_ptr<Surroundings> surroundings);
+void RegisterHelpers(late::ClassRegistry& registry, const std::shared_ptr<Surroundings>& surroundings);
 
 }  // namespace suite

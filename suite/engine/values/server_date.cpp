@@ -166,7 +166,7 @@ std::string ServerDateText(std::int64_t milliseconds, int style) {
   const vb::DateParts p = vb::PartsOf(FromMilliseconds(milliseconds - inSecond));
   const int hour12 = p.hour % 12 == 0 ? 12 : p.hour % 12;
   const std::string month = kMonths[static_cast<std::size_t>(p.month - 1)];
-  const std::string time = Print("%02d:%02d:%02d", p.hour, p.minute, p.second);
+  std::string time = Print("%02d:%02d:%02d", p.hour, p.minute, p.second);
   switch (style) {
     case 0:
     case 100:
