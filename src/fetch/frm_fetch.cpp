@@ -70,7 +70,7 @@ SortRange SortRangeOf(std::int32_t itemData) {
 
 using Rows = std::vector<std::vector<std::string>>;
 
-/// The rows that a procedure gives: it may count others first.
+/// The rows that a procedure gives, after the counts that it may give first; a face without an object when there are none.
 ado::Recordset FirstRows(ado::Recordset result) {
   while (result && !result.IsOpen()) result = result.NextRecordset();
   return result;
@@ -183,10 +183,13 @@ bool FrmFetch::GridPopulate(std::string_view query) {
       recordset = ado::Recordset::Create(session.services.factory);
       recordset.Open(query, session.gAdoCon);
     }
-    const long columns = recordset.FieldCount();
-    // Everything is read before the grid is touched: a list that breaks off half-way leaves the old one standing.
-    Rows rows = ReadRows(recordset);
-    recordset.Close();
+    // Everything is read before the grid is touched: a list that breaks off half-way leaves the old one in place.
+    const long columns = recordset ? recordset.FieldCount() : 0;
+    Rows rows;
+    if (recordset) {
+      rows = ReadRows(recordset);
+      recordset.Close();
+    }
 
     flexMaster.ShowSortedBy(-1, true);
     flexMaster.SetFormatString(FilledHeadings());

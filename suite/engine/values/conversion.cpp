@@ -189,6 +189,12 @@ std::int64_t Rescale(std::int64_t units, int oldScale, int newScale, int precisi
 std::int64_t DoubleToUnits(double value, int scale) {
   const double scaled = value * static_cast<double>(PowerOfTen(scale));
   if (!(std::fabs(scaled) < 9.2e18)) RaiseOverflow("decimal");
+  constexpr double kExact = 9007199254740992.0;  // beyond, a double has no fraction left, and the product may not be exact
+  if (std::fabs(scaled) >= kExact) {
+    const double whole = std::trunc(value);
+    return static_cast<std::int64_t>(whole) * PowerOfTen(scale) +
+           std::llround((value - whole) * static_cast<double>(PowerOfTen(scale)));
+  }
   const double rounded = std::round(scaled);
   // Near a half the binary value may lie on the wrong side of the decimal one that the user sees; 15 digits decide.
   if (std::fabs(std::fabs(scaled - std::trunc(scaled)) - 0.5) < 1e-4 && std::fabs(scaled) < 1e14) {

@@ -110,10 +110,12 @@ TEST_F(Fetch, ItemsOfGodownsComeFromTheProcedureAsAFilterAlone) {
 class CountingProcedure : public late::Object {
  public:
   explicit CountingProcedure(late::ObjectPtr connection) : connection_(std::move(connection)) {}
+  bool givesRows = true;
   late::Value Invoke(std::string_view member, late::Access access, std::span<late::Value> arguments) override {
     const std::string text = arguments.empty() ? std::string() : arguments[0].TextOrEmpty();
     if (!text.starts_with("spgodownitemnotinshop")) return connection_->Invoke(member, access, arguments);
-    return connection_->Call(member, {"update aUnit set UnitCode=UnitCode; update aCity set CityName=CityName; exec " + text});
+    const std::string counts = "update aUnit set UnitCode=UnitCode; update aCity set CityName=CityName";
+    return connection_->Call(member, {givesRows ? counts + "; exec " + text : counts});
   }
   bool Has(std::string_view member) const override { return connection_->Has(member); }
   std::string TypeName() const override { return "Connection"; }
@@ -123,10 +125,15 @@ class CountingProcedure : public late::Object {
 };
 
 TEST_F(Fetch, AProcedureMayCountRowsBeforeItGivesAny) {
-  shop.session.gAdoCon = ado::Connection(std::make_shared<CountingProcedure>(shop.session.gAdoCon.Object()));
+  const auto procedure = std::make_shared<CountingProcedure>(shop.session.gAdoCon.Object());
+  shop.session.gAdoCon = ado::Connection(procedure);
   Open(ItemListMode::InGodownNotInShop, [&] {
     Filter("");
     EXPECT_NE(dialog->flexMaster.TextMatrix(1, FrmFetch::kItemCode), "");
+    procedure->givesRows = false;
+    Filter("");
+    EXPECT_EQ(dialog->flexMaster.TextMatrix(1, FrmFetch::kItemCode), "") << "no rows are an empty list, not an error";
+    EXPECT_EQ(1, RowsShown());
   });
 }
 

@@ -103,6 +103,9 @@ TEST_F(Recordsets, AnAddedRowIsWrittenAtUpdate) {
   rows->Get("Fields").ToObject()->Put("Item", {"qty"}, late::Null{});
   rows->Call("Update");
   EXPECT_EQ(Count("qty is null and remarks = 'by index'"), 1);
+  Set(rows, "qty", 123456789012345.0);  // as exact as a double is
+  rows->Call("Update");
+  EXPECT_EQ(Count("qty = 123456789012345"), 1);
   EXPECT_EQ(rows->Get("RecordCount").ToInt32(), 1);
 }
 
