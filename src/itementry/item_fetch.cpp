@@ -9,6 +9,7 @@ namespace {
 template <class Property>
 late::Value ListOf(const std::vector<FetchColumn>& columns, Property property) {
   std::vector<late::Value> items;
+  items.reserve(columns.size());
   for (const FetchColumn& column : columns) items.emplace_back(property(column));
   return late::Array::List(std::move(items));
 }

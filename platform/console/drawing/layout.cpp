@@ -108,6 +108,7 @@ void FindBands(std::vector<Block>& blocks) {
 
 void PlaceColumns(std::vector<Block>& blocks, int twipsPerColumn) {
   std::vector<Block*> byLeft;
+  byLeft.reserve(blocks.size());
   for (Block& block : blocks) byLeft.push_back(&block);
   std::stable_sort(byLeft.begin(), byLeft.end(), [](const Block* a, const Block* b) { return a->place.left < b->place.left; });
   for (std::size_t i = 0; i < byLeft.size(); ++i) {
