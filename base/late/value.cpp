@@ -33,7 +33,7 @@ vb::Decimal AsDecimal(Currency value) {
 
 constexpr long kUnsupportedType = 458;
 
-/// What an object stands for where a plain value is wanted: its default member, or that of the object which this is, and so on.
+/// The value of an object where a plain value is wanted: its default member, or that of the object which this is, and so on.
 /// Error 91 for Nothing, 13 when it has no default member, 458 when there is no end of objects.
 Value DefaultOf(ObjectPtr object) {
   constexpr int kMostObjects = 64;

@@ -23,8 +23,8 @@ class ItemEntryPort {
 
   /// The list whose option is set.
   virtual ItemListMode SelectedList() const = 0;
-  /// Looks the item's code up as if it had been typed. False when it names no item: then the user has been told so, except of an
-  /// item of the stock-out list, which is taken as it stands.
+  /// Looks the item's code up as if it had been typed. False when it names no item: then the user has been notified, except of an
+  /// item of the stock-out list, which is taken as it is.
   virtual bool TakeItemCode(const PickedItem& item) = 0;
   /// Puts an item of the stock-out list into the form as it stands, without a look-up.
   virtual void TakeStockOutItem(const PickedItem& item) = 0;

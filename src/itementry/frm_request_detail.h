@@ -138,7 +138,7 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   bool firstActivation_ = true;
   bool showAvailability_ = false;
   bool fetching_ = false;   ///< a lookup of this form is up: its closing activates this form in mid-routine
-  bool restoring_ = false;  ///< an entry of the combo comes back without being chosen anew
+  bool restoring_ = false;  ///< an entry of the combo comes back without being chosen again
   int chosenEntry_ = -1;    ///< of the combo, before its text was typed over
   std::string itemCode_;    ///< of the chosen item, for the line's item code column
 };

@@ -146,7 +146,7 @@ bool frmRequestDetail::TakeItemCode(const PickedItem& item) {
   const bool refused = !found && !MayItemCodesRepeat(objCommonDB_);
   txtitemcode.SetText(item.itemCode);
   if (refused) {
-    // An item of the stock-out list comes as it stands, whether its code is found or not: nothing is refused.
+    // An item of the stock-out list comes as it is, whether its code is found or not: nothing is refused.
     if (SelectedList() == ItemListMode::StockOut) {
       ForgetItem();
     } else {

@@ -26,7 +26,7 @@ struct ServerRegistration {
 constexpr HRESULT kProgIdOfAnother = static_cast<HRESULT>(0x80040201);  // SELFREG_E_CLASS
 
 /// Registers for the machine, or for the user where the machine's registry is refused; the user's own entries go when the machine
-/// has them. Nothing is left behind by a failure, kProgIdOfAnother excepted.
+/// has them. A failure leaves nothing registered, kProgIdOfAnother excepted.
 HRESULT RegisterServer(const ServerRegistration& server);
 /// `view`: the half of the registry for the classes.
 HRESULT RegisterServer(const ServerRegistration& server, RegistrationScope scope, RegistryView view = RegistryView::Own);

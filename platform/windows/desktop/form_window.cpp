@@ -128,7 +128,7 @@ void FormWindow::Destroy() {
 }
 
 void FormWindow::CreateViews() {
-  // In tab order, so that a label stands before its box: screen readers name the box by it. Made later is lower: the backdrops
+  // In tab order, so that a label comes before its box: screen readers name the box by it. Made later is lower: the backdrops
   // come last.
   std::vector<controls::Control*> models = form_.TabOrder();
   std::stable_sort(models.begin(), models.end(), [](auto* a, auto* b) { return IsBackdrop(*a) < IsBackdrop(*b); });

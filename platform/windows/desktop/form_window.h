@@ -37,7 +37,7 @@ class FormWindow {
   /// The form has left the screen: the window may wait for its destruction, but no message of it reaches the model any more.
   void Retire();
   bool IsRetired() const { return retired_; }
-  /// Whether somebody else has destroyed the window: whoever destroys its owner, as a rule.
+  /// Whether another party has destroyed the window: as a rule the one that destroys its owner.
   bool IsGone() const { return gone_; }
   /// Caption, size and colour from the model.
   void UpdateFrame();
@@ -78,7 +78,7 @@ class FormWindow {
   void ShowToolTip(NMTTDISPINFOW& info);
   void Flush();
   void Place();
-  /// The form and all that stands on it, once the messages at hand are done.
+  /// The form and all forms above it, once the messages at hand are done.
   void Redraw();
   RECT PlaceOf(const controls::Control& control) const;
   /// How far each edge of a control, or of the form for null, lies from where it was designed, in pixels: an edge follows the

@@ -11,7 +11,7 @@ namespace {
 /// Room that a list keeps free on both sides of a cell's text together, in pixels.
 constexpr int kCellPadding = 8;
 
-/// The arrow stands where the heading's text does not begin.
+/// The arrow is where the heading's text does not begin.
 void DrawArrow(HDC dc, const RECT& heading, bool onLeft, bool ascending) {
   const int height = std::max(4L, (heading.bottom - heading.top) / 4);
   const int margin = 2 * height + 2;

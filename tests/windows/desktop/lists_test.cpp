@@ -74,7 +74,7 @@ class ListsOnScreen : public testing::Test {
     SendMessageW(heading, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
     const int middle = (item.top + item.bottom) / 2;
     const auto at = [&](int x) { return static_cast<LPARAM>(MAKELONG(x, middle)); };
-    // On the edge itself it would take hold of a hidden column behind it.
+    // On the edge itself it would take hold of a hidden column after it.
     const LONG edge = std::max(0L, item.right - 2);
     PostMessageW(heading, WM_LBUTTONDOWN, MK_LBUTTON, at(edge));
     PostMessageW(heading, WM_MOUSEMOVE, MK_LBUTTON, at(edge + by));

@@ -90,7 +90,7 @@ Ids Without(Ids ids, const Ids& others) {
   return ids;
 }
 
-/// What the script asks of whoever runs it with /road.
+/// What the script asks the person who runs it with /road.
 void RaiseARequest(Program& program) {
   Person engineer(program);
   FormOnScreen requests = engineer.Meets("Goods Request to HQ");
@@ -146,7 +146,7 @@ TEST(ServerTrial, TheEmbeddedEngineIsAsTheServerIsAssumedToBe) {
   // The document's ids are the script's.
   EXPECT_EQ(Joined(TriedInTheDocument()), Joined(trial.All()));
 
-  // Nothing is left behind: the database would do for another trial.
+  // Nothing is left: the database would do for another trial.
   Trial again(folder);
   EXPECT_EQ(again.ExitCode(), 0u) << again.LastLine();
   EXPECT_EQ(Joined(again.With("failed")), "");
