@@ -4,7 +4,7 @@
 
 namespace counter {
 
-/// Server DLL, loaded to be told to register.
+/// A server DLL, loaded in order to register it.
 class ServerFile {
  public:
   explicit ServerFile(const wchar_t* path) : module_(LoadLibraryW(path)) {}

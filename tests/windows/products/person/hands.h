@@ -20,7 +20,7 @@ class FormOnScreen {
   void DoubleClickRow(int row);
   void ClickRow(int row);
   void RightClickList();
-  /// Puts the focus on the list, by a click on the row that is selected, or behind a label.
+  /// Puts the focus on the list, by a click on the row that is selected, or after a label.
   void GoToList();
   void GoBehind(const std::string& label);
   /// A click on the text of a cell, on a row's check box, on a heading.
