@@ -5,9 +5,9 @@
 
 #include "base/controls/form.h"
 #include "base/vb/error.h"
-#include "src/shared/user_auditing.h"
-#include "suite/database/shop/shop.h"
+#include "src/faces/user_auditing.h"
 #include "suite/helpers/register_helpers.h"
+#include "suite/shop/shop.h"
 
 namespace bench {
 namespace {

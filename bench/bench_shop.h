@@ -7,9 +7,9 @@
 #include "base/controls/desktop.h"
 #include "base/controls/workstation.h"
 #include "src/entry/module.h"
-#include "suite/database/shop/generator.h"
 #include "suite/engine/objects/database.h"
 #include "suite/helpers/surroundings.h"
+#include "suite/shop/generator.h"
 
 namespace bench {
 

@@ -12,8 +12,8 @@
 #include "src/editor/frm_request.h"
 #include "src/editor/stock_out_proposal.h"
 #include "src/fetch/frm_fetch.h"
-#include "src/shared/grid_search.h"
-#include "src/shared/request_lines.h"
+#include "src/lists/grid_search.h"
+#include "src/records/request_lines.h"
 #include "suite/helpers/frm_lookup.h"
 
 namespace {

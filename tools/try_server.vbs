@@ -5,7 +5,7 @@
 '           [/sql:FOLDER] [/report:FILE] [/road] [/road:client]
 '
 '   /connection  an ADO connection string; run the script once for each provider in use. "embedded:FILE" is the embedded database.
-'   /sql         where schema.sql, replication.sql and the folder sample are; suite\database beside this script's folder otherwise
+'   /sql         where schema.sql, replication.sql and the folder sample are; suite\shop beside this script's folder otherwise
 '   /report      the file that gets the lines, too
 '   /road        opens the component's register for somebody who raises one request there, and checks what is stored then;
 '                /road:client does so on a connection with client-side cursors
@@ -94,7 +94,7 @@ Sub ReadArguments()
   If InStr(LCase(WScript.FullName), "wscript.exe") > 0 Then Refuse "Run this with cscript."
   Set files = CreateObject("Scripting.FileSystemObject")
   here = files.GetParentFolderName(WScript.ScriptFullName)
-  sqlFolder = files.BuildPath(files.GetParentFolderName(here), "suite\database")
+  sqlFolder = files.BuildPath(files.GetParentFolderName(here), "suite\shop")
   For i = 0 To WScript.Arguments.Count - 1
     argument = WScript.Arguments(i)
     If IsOption(argument, "/connection:") Then

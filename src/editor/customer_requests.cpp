@@ -8,10 +8,10 @@
 #include "base/vb/error.h"
 #include "base/vb/format.h"
 #include "base/vb/text.h"
-#include "src/editor/customer_documents.h"
-#include "src/editor/renumbering.h"
-#include "src/shared/query_rows.h"
-#include "src/shared/request_lines.h"
+#include "src/records/customer_documents.h"
+#include "src/records/query_rows.h"
+#include "src/records/renumbering.h"
+#include "src/records/request_lines.h"
 
 namespace goods {
 namespace {

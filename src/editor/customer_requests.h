@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "base/controls/list_view.h"
-#include "src/entry/session.h"
-#include "src/shared/common_db.h"
+#include "src/faces/common_db.h"
+#include "src/module/session.h"
 
 namespace goods {
 

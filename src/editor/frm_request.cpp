@@ -2,15 +2,15 @@
 
 #include "base/vb/format.h"
 #include "base/vb/text.h"
-#include "src/editor/renumbering.h"
 #include "src/editor/request_loading.h"
 #include "src/editor/request_saving.h"
 #include "src/editor/stock_out_proposal.h"
+#include "src/faces/form_color.h"
+#include "src/faces/user_auditing.h"
 #include "src/itementry/frm_request_detail.h"
-#include "src/shared/form_color.h"
-#include "src/shared/list_views.h"
-#include "src/shared/request_lines.h"
-#include "src/shared/user_auditing.h"
+#include "src/lists/list_views.h"
+#include "src/records/renumbering.h"
+#include "src/records/request_lines.h"
 
 namespace goods {
 namespace {

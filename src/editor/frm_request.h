@@ -9,9 +9,9 @@
 #include "base/controls/tab_control.h"
 #include "base/controls/text_box.h"
 #include "src/editor/customer_requests.h"
-#include "src/shared/common_db.h"
-#include "src/shared/module_form.h"
-#include "src/shared/register_view.h"
+#include "src/faces/common_db.h"
+#include "src/lists/register_view.h"
+#include "src/module/module_form.h"
 
 namespace goods {
 

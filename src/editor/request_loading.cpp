@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "src/shared/item_lookups.h"
-#include "src/shared/query_rows.h"
-#include "src/shared/request_lines.h"
+#include "src/records/item_lookups.h"
+#include "src/records/query_rows.h"
+#include "src/records/request_lines.h"
 
 namespace goods {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/controls/list_view.h"
-#include "src/entry/session.h"
+#include "src/module/session.h"
 
 namespace goods {
 

@@ -5,12 +5,12 @@
 #include "base/vb/date.h"
 #include "base/vb/number.h"
 #include "base/vb/text.h"
-#include "src/editor/request_numbering.h"
-#include "src/shared/list_views.h"
-#include "src/shared/query_rows.h"
-#include "src/shared/register_row.h"
-#include "src/shared/request_lines.h"
-#include "src/shared/user_auditing.h"
+#include "src/faces/user_auditing.h"
+#include "src/lists/list_views.h"
+#include "src/lists/register_row.h"
+#include "src/records/query_rows.h"
+#include "src/records/request_lines.h"
+#include "src/records/request_numbering.h"
 
 namespace goods {
 namespace {

@@ -6,9 +6,9 @@
 #include "src/editor/customer_requests.h"
 #include "src/editor/frm_request.h"
 #include "src/editor/save_errors.h"
-#include "src/entry/session.h"
-#include "src/shared/common_db.h"
-#include "src/shared/register_view.h"
+#include "src/faces/common_db.h"
+#include "src/lists/register_view.h"
+#include "src/module/session.h"
 
 namespace goods {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/controls/list_view.h"
-#include "src/entry/session.h"
-#include "src/shared/common_db.h"
+#include "src/faces/common_db.h"
+#include "src/module/session.h"
 
 namespace goods {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "src/entry/session.h"
+#include "src/module/session.h"
 #include "src/register/frm_master.h"
 
 namespace goods {

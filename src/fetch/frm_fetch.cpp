@@ -4,13 +4,13 @@
 #include <vector>
 
 #include "base/vb/text.h"
+#include "src/faces/form_color.h"
 #include "src/fetch/fetch_queries.h"
 #include "src/fetch/item_type_filter.h"
-#include "src/shared/cell_text.h"
-#include "src/shared/form_color.h"
-#include "src/shared/grid_search.h"
-#include "src/shared/heading_sort.h"
-#include "src/shared/list_views.h"
+#include "src/lists/cell_text.h"
+#include "src/lists/grid_search.h"
+#include "src/lists/heading_sort.h"
+#include "src/lists/list_views.h"
 
 namespace goods {
 namespace {

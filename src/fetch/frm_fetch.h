@@ -7,10 +7,10 @@
 #include "base/controls/combo_box.h"
 #include "base/controls/flex_grid.h"
 #include "base/controls/text_box.h"
+#include "src/faces/common_db.h"
+#include "src/faces/common_gen.h"
 #include "src/fetch/item_entry_port.h"
-#include "src/shared/common_db.h"
-#include "src/shared/common_gen.h"
-#include "src/shared/module_form.h"
+#include "src/module/module_form.h"
 
 namespace goods {
 

@@ -2,7 +2,7 @@
 
 #include "base/controls/form.h"
 #include "src/fetch/frm_fetch.h"
-#include "src/shared/list_views.h"
+#include "src/lists/list_views.h"
 
 namespace goods {
 

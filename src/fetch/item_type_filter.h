@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "src/shared/common_db.h"
+#include "src/faces/common_db.h"
 
 namespace goods {
 

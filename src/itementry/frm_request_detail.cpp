@@ -5,11 +5,11 @@
 #include "base/vb/format.h"
 #include "base/vb/number.h"
 #include "base/vb/text.h"
+#include "src/faces/form_color.h"
 #include "src/itementry/item_lists.h"
 #include "src/itementry/packing_types.h"
 #include "src/itementry/stock_availability.h"
-#include "src/shared/form_color.h"
-#include "src/shared/list_views.h"
+#include "src/lists/list_views.h"
 
 namespace goods {
 

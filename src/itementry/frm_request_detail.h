@@ -10,12 +10,12 @@
 #include "base/controls/combo_box.h"
 #include "base/controls/list_view.h"
 #include "base/controls/text_box.h"
+#include "src/faces/common_db.h"
+#include "src/faces/common_gen.h"
 #include "src/fetch/item_entry_port.h"
 #include "src/itementry/item_fetch.h"
-#include "src/shared/common_db.h"
-#include "src/shared/common_gen.h"
-#include "src/shared/module_form.h"
-#include "src/shared/request_lines.h"
+#include "src/module/module_form.h"
+#include "src/records/request_lines.h"
 
 namespace goods {
 

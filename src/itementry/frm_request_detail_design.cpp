@@ -3,7 +3,7 @@
 #include "base/vb/format.h"
 #include "src/fetch/frm_fetch.h"
 #include "src/itementry/frm_request_detail.h"
-#include "src/shared/list_views.h"
+#include "src/lists/list_views.h"
 
 namespace goods {
 namespace {

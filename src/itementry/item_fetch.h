@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/ado/recordset.h"
-#include "src/entry/session.h"
+#include "src/module/session.h"
 
 namespace goods {
 

@@ -5,10 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "src/entry/session.h"
+#include "src/faces/common_db.h"
 #include "src/fetch/item_entry_port.h"
 #include "src/itementry/item_fetch.h"
-#include "src/shared/common_db.h"
+#include "src/module/session.h"
 
 namespace goods {
 

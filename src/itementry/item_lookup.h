@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "src/entry/session.h"
+#include "src/faces/common_db.h"
 #include "src/fetch/item_entry_port.h"
-#include "src/shared/common_db.h"
+#include "src/module/session.h"
 
 namespace goods {
 

@@ -6,7 +6,7 @@
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/itementry/frm_request_detail.h"
-#include "src/shared/item_lookups.h"
+#include "src/records/item_lookups.h"
 
 namespace goods {
 namespace {

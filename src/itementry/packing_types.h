@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "base/controls/list_view.h"
-#include "src/shared/common_db.h"
+#include "src/faces/common_db.h"
 
 namespace goods {
 

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "src/entry/session.h"
-#include "src/shared/common_db.h"
+#include "src/faces/common_db.h"
+#include "src/module/session.h"
 
 namespace goods {
 

@@ -2,10 +2,10 @@
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
+#include "src/faces/form_color.h"
+#include "src/module/settings_reader.h"
 #include "src/printing/text_viewer.h"
 #include "src/printing/windows_print.h"
-#include "src/shared/form_color.h"
-#include "src/shared/settings_reader.h"
 
 namespace goods {
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "base/controls/buttons.h"
+#include "src/lists/register_view.h"
+#include "src/module/module_form.h"
 #include "src/printing/request_slip.h"
-#include "src/shared/module_form.h"
-#include "src/shared/register_view.h"
 
 namespace goods {
 

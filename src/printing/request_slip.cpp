@@ -2,12 +2,12 @@
 
 #include "base/vb/format.h"
 #include "base/vb/text.h"
+#include "src/faces/common_db.h"
+#include "src/module/error_routine.h"
 #include "src/printing/slip_footer.h"
 #include "src/printing/slip_header.h"
-#include "src/shared/common_db.h"
-#include "src/shared/error_routine.h"
-#include "src/shared/item_lookups.h"
-#include "src/shared/query_rows.h"
+#include "src/records/item_lookups.h"
+#include "src/records/query_rows.h"
 
 namespace goods {
 namespace {

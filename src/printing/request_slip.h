@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/late/value.h"
-#include "src/entry/session.h"
+#include "src/module/session.h"
 #include "src/printing/slip_columns.h"
 #include "src/printing/slip_output.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "src/entry/session.h"
+#include "src/module/session.h"
 #include "src/printing/slip_output.h"
 
 namespace goods {

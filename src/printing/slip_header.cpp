@@ -7,8 +7,8 @@
 #include "base/ado/recordset.h"
 #include "base/vb/error.h"
 #include "base/vb/text.h"
+#include "src/faces/common_db.h"
 #include "src/printing/slip_settings.h"
-#include "src/shared/common_db.h"
 
 namespace goods {
 namespace {

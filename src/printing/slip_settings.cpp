@@ -4,7 +4,7 @@
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
-#include "src/shared/settings_reader.h"
+#include "src/module/settings_reader.h"
 
 namespace goods {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "src/entry/session.h"
+#include "src/module/session.h"
 
 namespace goods {
 

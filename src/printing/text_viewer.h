@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "src/entry/session.h"
+#include "src/module/session.h"
 
 namespace goods {
 

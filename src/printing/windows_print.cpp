@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "src/shared/common_db.h"
-#include "src/shared/settings_reader.h"
+#include "src/faces/common_db.h"
+#include "src/module/settings_reader.h"
 
 namespace goods {
 namespace {

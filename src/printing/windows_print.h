@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "src/entry/session.h"
+#include "src/module/session.h"
 
 namespace goods {
 

@@ -1,8 +1,8 @@
 #include "src/register/frm_cancel_reason.h"
 
 #include "base/vb/text.h"
-#include "src/shared/form_color.h"
-#include "src/shared/list_views.h"
+#include "src/faces/form_color.h"
+#include "src/lists/list_views.h"
 
 namespace goods {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "base/controls/buttons.h"
 #include "base/controls/text_box.h"
-#include "src/shared/module_form.h"
+#include "src/module/module_form.h"
 
 namespace goods {
 

@@ -1,9 +1,9 @@
 #include "src/register/frm_master.h"
 
 #include "src/editor/frm_request.h"
+#include "src/lists/list_views.h"
 #include "src/printing/frm_print.h"
 #include "src/register/frm_cancel_reason.h"
-#include "src/shared/list_views.h"
 
 namespace goods {
 

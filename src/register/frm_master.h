@@ -9,10 +9,10 @@
 #include "base/controls/flex_grid.h"
 #include "base/controls/menu.h"
 #include "base/controls/text_box.h"
-#include "src/shared/common_db.h"
-#include "src/shared/module_form.h"
-#include "src/shared/register_view.h"
-#include "src/shared/search_answer.h"
+#include "src/faces/common_db.h"
+#include "src/lists/register_view.h"
+#include "src/lists/search_answer.h"
+#include "src/module/module_form.h"
 
 namespace goods {
 

@@ -1,8 +1,8 @@
 #include "base/vb/number.h"
 #include "src/editor/frm_request.h"
+#include "src/faces/user_auditing.h"
 #include "src/printing/frm_print.h"
 #include "src/register/frm_master.h"
-#include "src/shared/user_auditing.h"
 
 namespace goods {
 

@@ -2,9 +2,9 @@
 #include <vector>
 
 #include "base/vb/text.h"
+#include "src/faces/grid_settings.h"
+#include "src/lists/cell_text.h"
 #include "src/register/frm_master.h"
-#include "src/shared/cell_text.h"
-#include "src/shared/grid_settings.h"
 
 namespace goods {
 namespace {

@@ -1,8 +1,8 @@
 #include "base/vb/number.h"
+#include "src/faces/form_color.h"
+#include "src/faces/grid_settings.h"
+#include "src/faces/user_auditing.h"
 #include "src/register/frm_master.h"
-#include "src/shared/form_color.h"
-#include "src/shared/grid_settings.h"
-#include "src/shared/user_auditing.h"
 
 namespace goods {
 namespace {

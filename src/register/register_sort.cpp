@@ -1,8 +1,8 @@
 #include "base/vb/number.h"
 #include "base/vb/text.h"
+#include "src/lists/grid_search.h"
+#include "src/lists/heading_sort.h"
 #include "src/register/frm_master.h"
-#include "src/shared/grid_search.h"
-#include "src/shared/heading_sort.h"
 
 namespace goods {
 

@@ -3,10 +3,10 @@
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/editor/frm_request.h"
+#include "src/faces/user_auditing.h"
+#include "src/lists/register_row.h"
 #include "src/register/frm_cancel_reason.h"
 #include "src/register/frm_master.h"
-#include "src/shared/register_row.h"
-#include "src/shared/user_auditing.h"
 
 namespace goods {
 namespace {

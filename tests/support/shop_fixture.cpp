@@ -6,11 +6,11 @@
 #include "base/ado/connection.h"
 #include "base/vb/error.h"
 #include "base/vb/text.h"
-#include "src/shared/common_db.h"
-#include "src/shared/user_auditing.h"
-#include "suite/database/shop/shop.h"
+#include "src/faces/common_db.h"
+#include "src/faces/user_auditing.h"
 #include "suite/engine/values/errors.h"
 #include "suite/helpers/register_helpers.h"
+#include "suite/shop/shop.h"
 
 namespace support {
 namespace {

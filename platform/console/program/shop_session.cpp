@@ -15,9 +15,9 @@
 #include "platform/console/traced_object.h"
 #include "src/entry/cls_goods_request.h"
 #include "src/entry/module.h"
-#include "suite/database/shop/generator.h"
-#include "suite/database/shop/shop.h"
 #include "suite/helpers/register_helpers.h"
+#include "suite/shop/generator.h"
+#include "suite/shop/shop.h"
 
 namespace console {
 namespace {

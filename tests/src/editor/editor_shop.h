@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "src/editor/frm_request.h"
-#include "src/shared/request_lines.h"
+#include "src/records/request_lines.h"
 #include "tests/support/shop_fixture.h"
 
 namespace editor_test {

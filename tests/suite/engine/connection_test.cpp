@@ -8,13 +8,13 @@
 #include <unistd.h>
 
 #include "base/ado/constants.h"
-#include "shop_database.h"
+#include "tests/suite/engine/request_tables.h"
 
 namespace {
 
 using suite::StatementObserver;
 
-class Connections : public ShopDatabase {
+class Connections : public RequestTables {
  protected:
   static constexpr const char* kInsert = "insert into detail (line, shop, request, item) values (1, 1, 1, 1)";
 };
@@ -176,7 +176,7 @@ class Diary : public StatementObserver {
   }
 };
 
-class Observed : public ShopDatabase {
+class Observed : public RequestTables {
  protected:
   Observed() { connection_ = database_->Connect(&diary_); }
   Diary diary_;

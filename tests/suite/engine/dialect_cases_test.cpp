@@ -137,7 +137,8 @@ class CaseFile {
 
 std::vector<std::string> CaseFiles() {
   std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(TEST_FOLDER) / "cases")) {
+  for (const auto& entry :
+       std::filesystem::directory_iterator(std::filesystem::path(SOURCE_FOLDER) / "tests/suite/engine/cases")) {
     if (entry.path().extension() == ".txt") names.push_back(entry.path().stem().string());
   }
   std::sort(names.begin(), names.end());
@@ -147,7 +148,7 @@ std::vector<std::string> CaseFiles() {
 class Dialect : public testing::TestWithParam<std::string> {};
 
 TEST_P(Dialect, AnswersAsTheServerDoes) {
-  CaseFile(std::filesystem::path(TEST_FOLDER) / "cases" / (GetParam() + ".txt")).Run();
+  CaseFile(std::filesystem::path(SOURCE_FOLDER) / "tests/suite/engine/cases" / (GetParam() + ".txt")).Run();
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, Dialect, testing::ValuesIn(CaseFiles()), [](const auto& file) { return file.param; });

@@ -1,9 +1,9 @@
 #include "base/ado/constants.h"
-#include "shop_database.h"
+#include "tests/suite/engine/request_tables.h"
 
 namespace {
 
-using Recordsets = ShopDatabase;
+using Recordsets = RequestTables;
 
 constexpr std::int32_t kAll = -1;
 

@@ -1,5 +1,5 @@
 #include "base/ado/constants.h"
-#include "shop_database.h"
+#include "tests/suite/engine/request_tables.h"
 
 namespace {
 
@@ -31,7 +31,7 @@ class Server : public StatementObserver {
 };
 
 /// What the classic library and the server refuse, and a careless caller meets in the shop for the first time.
-class Strict : public ShopDatabase {
+class Strict : public RequestTables {
  protected:
   Strict() {
     connection_ = database_->Connect(&server_);

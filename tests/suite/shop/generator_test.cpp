@@ -1,8 +1,8 @@
-#include "suite/database/shop/generator.h"
+#include "suite/shop/generator.h"
 
 #include <gtest/gtest.h>
 
-#include "tests/suite/shop/shop_database.h"
+#include "tests/suite/shop/suite_database.h"
 
 namespace {
 
@@ -12,7 +12,7 @@ class GrowingShop : public testing::Test {
 
   int Count(const std::string& from) { return shop_.Number("select count(*) from " + from); }
 
-  ShopDatabase shop_;
+  SuiteDatabase shop_;
 };
 
 TEST_F(GrowingShop, AddsWhatWasAskedForInsideTheRegistersRange) {

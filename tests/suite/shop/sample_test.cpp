@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "tests/suite/shop/shop_database.h"
+#include "tests/suite/shop/suite_database.h"
 
 namespace {
 
 class SampleShop : public testing::Test {
  protected:
   static void SetUpTestSuite() {
-    shop_ = std::make_unique<ShopDatabase>();
+    shop_ = std::make_unique<SuiteDatabase>();
     suite::LoadSample(shop_->Get());
   }
   static void TearDownTestSuite() { shop_.reset(); }
@@ -17,15 +17,15 @@ class SampleShop : public testing::Test {
   static std::vector<std::string> List(const std::string& query) { return shop_->List(query); }
   static bool Any(const std::string& fromAndWhere) { return Number("select count(*) from " + fromAndWhere) > 0; }
 
-  static inline std::unique_ptr<ShopDatabase> shop_;
+  static inline std::unique_ptr<SuiteDatabase> shop_;
 };
 
 TEST(Schema, ReplicationAddsARowIdentifierThatGrowsWithEveryLine) {
   const std::string identifiers = "select count(*) from syscolumns where colstat=2 and id=object_id('mosgoodsrequestdetail')";
-  ShopDatabase plain;
+  SuiteDatabase plain;
   EXPECT_EQ(plain.Number(identifiers), 0);
 
-  ShopDatabase replicated(true);
+  SuiteDatabase replicated(true);
   EXPECT_EQ(replicated.Number(identifiers), 1);
   suite::LoadSample(replicated.Get());
   replicated.Connection().Execute(

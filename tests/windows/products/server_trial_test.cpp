@@ -156,7 +156,7 @@ TEST(ServerTrial, AnAssumptionThatDoesNotHoldIsNamed) {
   // A shop whose quantities have one decimal.
   const ShopFolder folder;
   const std::filesystem::path sql = windows::Wide(folder.File("sql"));
-  std::filesystem::copy(std::filesystem::path(windows::Wide(OnWindows(SOURCE_FOLDER "/suite/database"))), sql,
+  std::filesystem::copy(std::filesystem::path(windows::Wide(OnWindows(SOURCE_FOLDER "/suite/shop"))), sql,
                         std::filesystem::copy_options::recursive);
   std::string schema = TextOfFile(folder.File("sql\\schema.sql"));
   const std::string column = "GRDgoodQty decimal(18,3)";

@@ -1,6 +1,6 @@
 #include "platform/windows/products/shopsuite/shop_database.h"
 
-#include "suite/database/shop/shop.h"
+#include "suite/shop/shop.h"
 
 namespace windows {
 

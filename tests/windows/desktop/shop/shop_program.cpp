@@ -7,9 +7,9 @@
 #include "platform/windows/desktop/windows_desktop.h"
 #include "platform/windows/workstation/windows_workstation.h"
 #include "src/entry/cls_goods_request.h"
-#include "suite/database/shop/shop.h"
 #include "suite/engine/objects/database.h"
 #include "suite/helpers/register_helpers.h"
+#include "suite/shop/shop.h"
 
 namespace {
 

@@ -1,0 +1,53 @@
+#include "src/records/item_lookups.h"
+
+#include "src/faces/common_db.h"
+#include "src/module/error_routine.h"
+#include "src/module/module_name.h"
+
+namespace goods {
+namespace {
+
+std::string PriceFixedQuery(std::int32_t itemId) {
+  return "SELECT PriceFixedAtHq FROM aItem WHERE ItemId = " + std::to_string(itemId);
+}
+
+std::string SellingPriceQuery(std::int32_t itemId, std::string_view shopClause) {
+  return "SELECT SellingPrice  FROM vwItemRetailPacking irp,  losShopItemShipmentDetail sisd"
+         " WHERE irp.ItemId = sisd.ItemId AND irp.PackingTypeId = sisd.PackingTypeId AND sisd.ItemId = " +
+         std::to_string(itemId) + std::string(shopClause);
+}
+
+/// The first row's first field; Null when there is no row.
+late::Value FirstValue(basGoodsRequest& session, const std::string& query) {
+  ado::Recordset rows = ado::Recordset::Create(session.services.factory);
+  rows.Open(query, session.gAdoCon, ado::kForwardOnly, ado::kReadOnly);
+  late::Value value = rows.Eof() ? late::Value(late::Null{}) : rows.Field(0);
+  rows.Close();
+  return value;
+}
+
+}  // namespace
+
+std::string GetItemUnitCode(basGoodsRequest& session, std::int32_t itemId) {
+  std::string unitCode;
+  Trapped(session, kModuleName, "GetItemUnitCode", [&] {
+    CommonDb db(session);
+    db.strTableName("aItem i, aUnit u");
+    unitCode = db.fnReturnField("u.UnitCode", "i.UnitsId = u.UnitId AND i.ItemId = " + std::to_string(itemId)).TextOrEmpty();
+  });
+  return unitCode;
+}
+
+double GetItemSellingPrice(basGoodsRequest& session, std::int32_t itemId, std::int16_t shopId) {
+  double price = 0;
+  Trapped(session, kModuleName, "GetItemSellingPrice", [&] {
+    const bool fixedAtHeadOffice = FirstValue(session, PriceFixedQuery(itemId)).TrueOrFalse();
+    const std::string shopClause =
+        fixedAtHeadOffice ? " AND sisd.ShopId IS NULL" : " AND sisd.ShopId = " + std::to_string(shopId);
+    const late::Value found = FirstValue(session, SellingPriceQuery(itemId, shopClause));
+    if (!found.IsNull() && !found.IsEmpty()) price = found.ToDouble();
+  });
+  return price;
+}
+
+}  // namespace goods
