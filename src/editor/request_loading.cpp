@@ -26,10 +26,7 @@ enum Field : std::size_t { kItemCode, kItemId, kQuantity, kDescription, kShopId,
 
 /// Only a database set up for replication knows in which order the lines were entered.
 std::string_view OrderClause(basGoodsRequest& session) {
-  ado::Recordset count = session.gAdoCon.Execute(RowIdentifierQuery());
-  const bool hasRowIdentifier = !count.Eof() && count.Field(0).ToInt32() > 0;
-  count.Close();
-  return hasRowIdentifier ? " order by a.rowguid" : " ";
+  return ExecuteForValue(session, RowIdentifierQuery()).ToInt32() > 0 ? " order by a.rowguid" : " ";
 }
 
 }  // namespace

@@ -58,13 +58,6 @@ ado::Recordset OpenForAdding(basGoodsRequest& session, std::string_view query, a
   return rows;
 }
 
-late::Value ServerTime(basGoodsRequest& session) {
-  ado::Recordset now = session.gAdoCon.Execute("select CURRENT_TIMESTAMP");
-  late::Value time = now.Field(0);
-  now.Close();
-  return time;
-}
-
 late::ArrayPtr Names(std::initializer_list<const char*> columns) {
   return late::Array::List(std::vector<late::Value>(columns.begin(), columns.end()));
 }
@@ -186,7 +179,7 @@ void RequestSaving::WriteNewRequest() {
 
 void RequestSaving::AddHeader(const std::string& userName) {
   ado::Recordset header = OpenForAdding(session_, "select * from mosGoodsRequestHeader", ado::kOptimistic);
-  const late::Value serverTime = ServerTime(session_);
+  const late::Value serverTime = ExecuteForValue(session_, "select CURRENT_TIMESTAMP");
   header.AddNew(Names({"grhrequestid", "grhrequestno", "grhrequestdate", "grhshopid", "grhremarks", "grhrecaddUser",
                        "grhTransFinished", "grhNoofDetails", "GRHrequestTime", "grhhqrequestgenerated", "grhrequesttype"}),
                 {session_.gLngRequestID, vb::Trim(editor_.txtRequestNo.Text()),

@@ -5,6 +5,7 @@
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/fetch/item_type_filter.h"
+#include "src/records/query_rows.h"
 
 namespace goods {
 namespace {
@@ -56,15 +57,11 @@ std::string ItemCodeQuery(std::string_view code, const LookupRules& rules) {
 }
 
 std::optional<PickedItem> FirstItem(basGoodsRequest& session, const std::string& query, std::string_view code) {
-  ado::Recordset rows = ado::Recordset::Create(session.services.factory);
-  rows.Open(query, session.gAdoCon, ado::kForwardOnly, ado::kReadOnly);
-  std::optional<PickedItem> found;
-  if (!rows.Eof()) {
-    found = PickedItem{rows.Field("itemid").ToInt32(), std::string(code), rows.Field("itemdescription").TextOrEmpty(),
-                       rows.Field("part_code").TextOrEmpty()};
-  }
-  rows.Close();
-  return found;
+  return ReadQuery(session, query, [&](ado::Recordset& rows) -> std::optional<PickedItem> {
+    if (rows.Eof()) return std::nullopt;
+    return PickedItem{rows.Field("itemid").ToInt32(), std::string(code), rows.Field("itemdescription").TextOrEmpty(),
+                      rows.Field("part_code").TextOrEmpty()};
+  });
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <string>
 
+#include "src/records/query_rows.h"
+
 namespace goods {
 namespace {
 
@@ -26,13 +28,6 @@ std::string IssuedGoodsQuery(std::string_view itemId, std::int16_t departmentId,
          " and INHTransFinished = " + (transferFinished ? "1" : "0");
 }
 
-double FirstFigure(basGoodsRequest& session, const std::string& query) {
-  ado::Recordset rows = session.gAdoCon.Execute(query);
-  const double figure = rows.Field(0).ToDouble();
-  rows.Close();
-  return figure;
-}
-
 /// Sums of thousandths leave binary rests: what is as good as nothing must not be shown as -5.55E-17.
 double WithoutBinaryRest(double quantity) {
   constexpr double kFinestPart = 1e8;  // of the unit; more decimals are shown nowhere
@@ -47,10 +42,10 @@ double GetAvailableQuantity(basGoodsRequest& session, CommonDb& db, std::string_
   // A shop of no department: only the issue notes that have none either are meant for it. No department has the id 0.
   const std::int16_t departmentId = department.IsNull() ? std::int16_t{0} : department.ToInt16();
 
-  const double inGodowns = FirstFigure(session, GodownStockQuery(itemId));
-  const double despatched = FirstFigure(session, UnconfirmedDespatchesQuery(itemId));
-  const double issuedFinished = FirstFigure(session, IssuedGoodsQuery(itemId, departmentId, true));
-  const double issuedOpen = FirstFigure(session, IssuedGoodsQuery(itemId, departmentId, false));
+  const double inGodowns = ExecuteForValue(session, GodownStockQuery(itemId)).ToDouble();
+  const double despatched = ExecuteForValue(session, UnconfirmedDespatchesQuery(itemId)).ToDouble();
+  const double issuedFinished = ExecuteForValue(session, IssuedGoodsQuery(itemId, departmentId, true)).ToDouble();
+  const double issuedOpen = ExecuteForValue(session, IssuedGoodsQuery(itemId, departmentId, false)).ToDouble();
   return WithoutBinaryRest(inGodowns - (issuedOpen + issuedFinished + despatched));
 }
 

@@ -3,6 +3,7 @@
 #include "src/faces/common_db.h"
 #include "src/module/error_routine.h"
 #include "src/module/module_name.h"
+#include "src/records/query_rows.h"
 
 namespace goods {
 namespace {
@@ -15,15 +16,6 @@ std::string SellingPriceQuery(std::int32_t itemId, std::string_view shopClause) 
   return "SELECT SellingPrice  FROM vwItemRetailPacking irp,  losShopItemShipmentDetail sisd"
          " WHERE irp.ItemId = sisd.ItemId AND irp.PackingTypeId = sisd.PackingTypeId AND sisd.ItemId = " +
          std::to_string(itemId) + std::string(shopClause);
-}
-
-/// The first row's first field; Null when there is no row.
-late::Value FirstValue(basGoodsRequest& session, const std::string& query) {
-  ado::Recordset rows = ado::Recordset::Create(session.services.factory);
-  rows.Open(query, session.gAdoCon, ado::kForwardOnly, ado::kReadOnly);
-  late::Value value = rows.Eof() ? late::Value(late::Null{}) : rows.Field(0);
-  rows.Close();
-  return value;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
+#include "src/records/query_rows.h"
 
 namespace goods {
 namespace {
@@ -29,30 +30,19 @@ std::string RequestNoQuery(const std::string& requestNo, std::int32_t shopId) {
          "' and grhshopid=" + std::to_string(shopId);
 }
 
-/// The first field of the query's first row as text; `otherwise` when there is no row.
-std::string FirstText(basGoodsRequest& session, const std::string& query, std::string otherwise) {
-  ado::Recordset rows = ado::Recordset::Create(session.services.factory);
-  rows.Open(query, session.gAdoCon, ado::kForwardOnly, ado::kReadOnly);
-  std::string text = rows.Eof() ? std::move(otherwise) : rows.Field(0).TextOrEmpty();
-  rows.Close();
-  return text;
-}
-
 }  // namespace
 
 void fnGenerateRequestNo(basGoodsRequest& session, controls::TextBox& txtRequestNo) {
-  const std::string prefix = FirstText(session, PrefixQuery(session.gLngInterfaceID, session.gIntShopID), "");
-  const std::string greatest = FirstText(session, GreatestCounterQuery(prefix, session.gIntShopID), "0");
+  const std::string prefix = FirstValue(session, PrefixQuery(session.gLngInterfaceID, session.gIntShopID)).TextOrEmpty();
+  const std::string greatest = FirstValue(session, GreatestCounterQuery(prefix, session.gIntShopID)).TextOrEmpty();
   const std::int16_t counter = vb::CInt(vb::Val(greatest) + 1);
   txtRequestNo.SetText(prefix + std::to_string(counter));
 }
 
 bool fnRequestNoExists(basGoodsRequest& session, const controls::TextBox& txtRequestNo) {
-  ado::Recordset rows = ado::Recordset::Create(session.services.factory);
-  rows.Open(RequestNoQuery(txtRequestNo.Text(), session.gIntShopID), session.gAdoCon, ado::kKeyset, ado::kReadOnly);
-  const bool exists = rows.RecordCount() >= 1;
-  rows.Close();
-  return exists;
+  return ReadQuery(
+      session, RequestNoQuery(txtRequestNo.Text(), session.gIntShopID),
+      [](ado::Recordset& rows) { return rows.RecordCount() >= 1; }, ado::kKeyset, ado::kReadOnly);
 }
 
 }  // namespace goods
