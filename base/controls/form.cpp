@@ -13,18 +13,6 @@ namespace {
 /// The classic runtime's number for showing a modal form twice.
 constexpr long kAlreadyShown = 400;
 
-/// Sets a flag for as long as it lives.
-class FlagSet {
- public:
-  explicit FlagSet(bool& flag) : flag_(flag) { flag_ = true; }
-  ~FlagSet() { flag_ = false; }
-  FlagSet(const FlagSet&) = delete;
-  FlagSet& operator=(const FlagSet&) = delete;
-
- private:
-  bool& flag_;
-};
-
 }  // namespace
 
 Form::Form(controls::Desktop& desktop, std::string name) : desktop_(desktop), name_(std::move(name)) {}
@@ -90,7 +78,7 @@ bool Form::CloseWith(int mode) {
   if (closing_) return false;
   const auto keep = weak_from_this().lock();
   {
-    const FlagSet closing(closing_);
+    const ScopedFlag closing(closing_);
     bool stay = false;
     QueryUnload.Fire(stay, mode);
     if (stay) return false;

@@ -7,6 +7,7 @@
 
 #include "base/controls/control.h"
 #include "base/controls/desktop.h"
+#include "base/controls/scoped_flag.h"
 #include "base/late/object.h"
 #include "base/vb/error.h"
 
@@ -79,11 +80,11 @@ class Form : public late::Object {
   /// What Tab and access keys do: moves the focus, and tells the desktop that it came by key.
   void GoByKey(Control* control);
   /// The keystroke {TAB} sent to the form goes to the very next control: carried out when the key being handled is finished
-  /// (Keyboard does it), at once outside of one.
+  /// (PressKey does it), at once outside of one.
   void SendTab();
   bool TakePendingTab();
-  /// True while Keyboard handles a key of this form.
-  void SetHandlingKey(bool handling) { handlingKey_ = handling; }
+  /// Held while a key of this form is handled.
+  ScopedFlag HandleKey() { return ScopedFlag(handlingKey_); }
 
   /// The control that an access key reaches (a label's is the next control that can take the focus); null when there is none.
   Control* FindAccessKey(char32_t upperCaseKey) const;

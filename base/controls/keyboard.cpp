@@ -287,13 +287,8 @@ bool SwitchPage(Form& form, char32_t key) {
 void PressKey(Form& form, const KeyStroke& key) {
   if (!IsActive(form)) return;
   const auto keep = form.weak_from_this().lock();
-  struct Handling {
-    Form& form;
-    explicit Handling(Form& handled) : form(handled) { form.SetHandlingKey(true); }
-    ~Handling() { form.SetHandlingKey(false); }
-  };
   {
-    const Handling handling(form);
+    const ScopedFlag handling = form.HandleKey();
     if (!ActAsDialogKey(form, key)) HandleDownAndPress(form, key);
     // The key comes up again whoever swallowed it, over the control that has the focus by then.
     if (IsActive(form)) {
