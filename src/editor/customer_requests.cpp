@@ -6,24 +6,12 @@
 #include <unordered_map>
 
 #include "base/vb/error.h"
-#include "base/vb/format.h"
 #include "base/vb/text.h"
 #include "src/records/customer_documents.h"
 #include "src/records/query_rows.h"
-#include "src/records/renumbering.h"
-#include "src/records/request_lines.h"
 
 namespace goods {
 namespace {
-
-/// A quantity as the item list keeps it.
-std::string QuantityText(double quantity) {
-  return vb::Format(quantity, "#0.000");
-}
-
-double QuantityOf(const controls::ListItem& line) {
-  return vb::Val(line.SubItem(kLineQty));
-}
 
 double DocumentQuantity(const late::Array& documentLines, std::size_t record) {
   const late::Value& quantity = documentLines.At(kDocLineQty, record);
@@ -39,10 +27,8 @@ bool SameQuantity(double a, double b) {
 /// several lines is found in the first.
 class LinesByItem {
  public:
-  explicit LinesByItem(const controls::ListView& lines) {
-    for (int line = lines.Count(); line >= 1; --line) {
-      places_[vb::CLng(vb::Val(lines.Item(line).SubItem(kLineItemId)))].push_back(line);
-    }
+  explicit LinesByItem(const RequestLines& lines) {
+    for (int line = lines.Count(); line >= 1; --line) places_[lines.ItemId(line)].push_back(line);
   }
   /// 0 when the item has no line.
   int Find(std::int32_t itemId) const {
@@ -175,17 +161,16 @@ void CustomerRequests::AddQuantities(const late::Array& documentLines) {
     const std::int32_t itemId = documentLines.At(kDocLineItemId, record).ToInt32();
     const double quantity = DocumentQuantity(documentLines, record);
     if (const int place = places.Find(itemId)) {
-      controls::ListItem& line = lines_.Item(place);
-      line.SetSubItem(kLineQty, QuantityText(QuantityOf(line) + quantity));
+      lines_.SetQuantity(place, lines_.Quantity(place) + quantity);
       continue;
     }
-    controls::ListItem& line = lines_.Add(std::to_string(lines_.Count() + 1));
-    line.SetSubItem(kLineItemCode, documentLines.At(kDocLineCode, record).TextOrEmpty());
-    line.SetSubItem(kLineItemName, documentLines.At(kDocLineName, record).TextOrEmpty());
-    line.SetSubItem(kLineQty, QuantityText(quantity));
-    line.SetSubItem(kLineItemId, std::to_string(itemId));
-    line.SetSubItem(kLineRemarks, documentLines.At(kDocLineRemarks, record).TextOrEmpty());
-    line.SetSubItem(kLineUnit, documentLines.At(kDocLineUnit, record).TextOrEmpty());
+    lines_.Append({.itemCode = documentLines.At(kDocLineCode, record).TextOrEmpty(),
+                   .itemName = documentLines.At(kDocLineName, record).TextOrEmpty(),
+                   .quantity = QuantityText(quantity),
+                   .itemId = itemId,
+                   .remarks = documentLines.At(kDocLineRemarks, record).TextOrEmpty(),
+                   .unit = documentLines.At(kDocLineUnit, record).TextOrEmpty(),
+                   .partCode = ""});
     places.Added(itemId, lines_.Count());
   }
 }
@@ -198,25 +183,25 @@ void CustomerRequests::TakeOutQuantities(const late::Array& documentLines) {
     const double quantity = DocumentQuantity(documentLines, record);
     const int place = places.Find(itemId);
     if (place == 0) continue;
-    controls::ListItem& line = lines_.Item(place);
-    if (SameQuantity(QuantityOf(line), quantity)) {
+    if (SameQuantity(lines_.Quantity(place), quantity)) {
       doomed.insert(place);
       places.ForgetFirst(itemId);
     } else {
       // Changed by hand in between, it may well become negative: the user then sees what is wrong.
-      line.SetSubItem(kLineQty, QuantityText(QuantityOf(line) - quantity));
+      lines_.SetQuantity(place, lines_.Quantity(place) - quantity);
     }
   }
   for (const int line : doomed) RemoveLine(line);
-  if (!doomed.empty()) RenumberLines(lines_);
+  if (!doomed.empty()) lines_.Renumber();
 }
 
 void CustomerRequests::RemoveLine(int line) {
   // The helper removes the selected line; the user's own selection moves along with its line.
-  const int selected = lines_.SelectedItem();
-  lines_.Select(line);
-  db_.fnDeleteListview(lines_, line, lines_.Count());
-  if (selected != line) lines_.Select(selected > line ? selected - 1 : selected);
+  controls::ListView& list = lines_.List();
+  const int selected = list.SelectedItem();
+  list.Select(line);
+  db_.fnDeleteListview(list, line, list.Count());
+  if (selected != line) list.Select(selected > line ? selected - 1 : selected);
 }
 
 bool CustomerRequests::IsProjectRequestChecked() const {

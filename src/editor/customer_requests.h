@@ -7,6 +7,7 @@
 #include "base/controls/list_view.h"
 #include "src/faces/common_db.h"
 #include "src/module/session.h"
+#include "src/records/request_lines.h"
 
 namespace goods {
 
@@ -22,8 +23,8 @@ enum CustomerRequestColumn : int {
 /// and what checking one does to the request's lines. Knows the two lists, not the window around them.
 class CustomerRequests {
  public:
-  /// All four outlive this object.
-  CustomerRequests(basGoodsRequest& session, CommonDb& db, controls::ListView& documents, controls::ListView& lines)
+  /// All but the face over the lines outlive this object; so does their list.
+  CustomerRequests(basGoodsRequest& session, CommonDb& db, controls::ListView& documents, RequestLines lines)
       : session_(session), db_(db), documents_(documents), lines_(lines) {}
 
   /// Shows the documents on offer, unchecked. A database error leaves the list as it was.
@@ -67,7 +68,7 @@ class CustomerRequests {
   basGoodsRequest& session_;
   CommonDb& db_;
   controls::ListView& documents_;
-  controls::ListView& lines_;
+  RequestLines lines_;
 };
 
 }  // namespace goods

@@ -9,20 +9,16 @@
 #include "src/faces/user_auditing.h"
 #include "src/itementry/frm_request_detail.h"
 #include "src/lists/list_views.h"
-#include "src/records/renumbering.h"
-#include "src/records/request_lines.h"
 
 namespace goods {
 namespace {
 
-/// The tag of the item list once lines were changed.
-constexpr std::string_view kChanged = "C";
 constexpr std::string_view kQuantityPicture = "###,###,##0.000";
 
 }  // namespace
 
 frmRequest::frmRequest(basGoodsRequest& session, RegisterView& view)
-    : ModuleForm(session, "frmRequest"), view_(view), customerRequests_(session, objCommonDB_, lvwCustomerReq, lvwrequest) {
+    : ModuleForm(session, "frmRequest"), view_(view), customerRequests_(session, objCommonDB_, lvwCustomerReq, lines_) {
   PublishField("lngCurrentLine", [this] { return late::Value(lngCurrentLine); });
   WireEvents();
 }
@@ -76,7 +72,7 @@ void frmRequest::LoadNewRequest() {
   objCommonDB_.strTableName("mosGoodsRequestHeader");
   Session().gLngRequestID = objCommonDB_.fnGetNextMaxNo("grhrequestid");
   if (Tell("Do you want to add stock out items?", controls::kYesNo + controls::kInformation) == controls::Answer::Yes) {
-    Trap("ProposeStockOutItems", [this] { ProposeStockOutItems(Session(), objCommonDB_, lvwrequest); });
+    Trap("ProposeStockOutItems", [this] { ProposeStockOutItems(Session(), objCommonDB_, lines_); });
   }
   optgoodreq.SetValue(true);
 }
@@ -101,7 +97,7 @@ void frmRequest::LoadExistingRequest() {
   }
   const std::string type = objCommonDB_.fnReturnField("grhrequesttype", condition).TextOrEmpty();
   (vb::UCase(type) == "G" ? optgoodreq : optporeq).SetValue(true);
-  const bool isComplete = Trap("LoadRequestLines", [this] { LoadRequestLines(Session(), lvwrequest); });
+  const bool isComplete = Trap("LoadRequestLines", [this] { LoadRequestLines(Session(), lines_); });
   if (!isComplete) cmdOK.SetEnabled(false);  // saved, the request would lose the lines that could not be read
 }
 
@@ -130,7 +126,7 @@ void frmRequest::Form_QueryUnload(bool& cancel, int) {
 }
 
 bool frmRequest::IsChanged() const {
-  return lvwrequest.Tag() == kChanged || vb::Trim(txtRemarks.Text()) != vb::Trim(txtRemarks.Tag());
+  return lines_.IsChanged() || vb::Trim(txtRemarks.Text()) != vb::Trim(txtRemarks.Tag());
 }
 
 void frmRequest::cmdOK_Click() {
@@ -178,20 +174,13 @@ void frmRequest::lvwCustomerReq_ItemCheck(controls::ListItem& document) {
   customerRequests_.TakeChecked(document);
 }
 
-bool frmRequest::HasLineWithQuantity() const {
-  for (int line = 1; line <= lvwrequest.Count(); ++line) {
-    if (vb::Val(lvwrequest.Item(line).SubItem(kLineQty)) > 0) return true;
-  }
-  return false;
-}
-
 void frmRequest::lvwrequest_DblClick() {
-  (lvwrequest.Count() > 0 ? mnuEdit : mnuAdd).Click.Fire();
+  (lines_.Count() > 0 ? mnuEdit : mnuAdd).Click.Fire();
 }
 
 void frmRequest::lvwrequest_KeyDown(int& keyCode, int) {
   if (keyCode == controls::kKeyF10) {
-    (HasLineWithQuantity() ? mnuEdit : mnuAdd).Click.Fire();
+    (lines_.HasQuantity() ? mnuEdit : mnuAdd).Click.Fire();
   } else if (keyCode == controls::kKeyDelete) {
     mnudel.Click.Fire();
   }
@@ -207,7 +196,7 @@ void frmRequest::lvwrequest_KeyPress(int& character) {
 
 void frmRequest::lvwrequest_MouseUp(int button, int) {
   if (button != controls::kRightButton || !cmdOK.Enabled()) return;
-  const bool hasLines = HasLineWithQuantity();
+  const bool hasLines = lines_.HasQuantity();
   mnuEdit.SetEnabled(hasLines);
   mnudel.SetEnabled(hasLines);
   PopupMenu(mnuPopup);
@@ -220,30 +209,30 @@ void frmRequest::lvwrequest_ItemClick(controls::ListItem& line) {
 void frmRequest::mnuAdd_Click() {
   if (!cmdOK.Enabled()) return;
   Session().gStrDetailMode = "N";
-  lngCurrentLine = lvwrequest.Count();  // item entry moves it on to each line that it appends
+  lngCurrentLine = lines_.Count();  // item entry moves it on to each line that it appends
   EnterItems();
 }
 
 void frmRequest::mnuEdit_Click() {
   if (!cmdOK.Enabled()) return;
   Session().gStrDetailMode = "E";
-  if (lvwrequest.SelectedItem() == 0) return;
-  lngCurrentLine = lvwrequest.SelectedItem();
+  if (lines_.Selected() == 0) return;
+  lngCurrentLine = lines_.Selected();
   EnterItems();
 }
 
 void frmRequest::mnudel_Click() {
-  const int line = lvwrequest.SelectedItem();
+  const int line = lines_.Selected();
   if (!cmdOK.Enabled() || line == 0) return;
-  const std::string question = "Are you sure you want to delete \r" + lvwrequest.Item(line).SubItem(kLineItemName);
+  const std::string question = "Are you sure you want to delete \r" + lines_.At(line).itemName;
   if (Tell(question, controls::kYesNo + controls::kQuestion + controls::kDefaultButton2) != controls::Answer::Yes) return;
-  lvwrequest.Remove(line);
-  RenumberLines(lvwrequest);
-  lvwrequest.SetTag(std::string(kChanged));
+  lines_.Remove(line);
+  lines_.Renumber();
+  lines_.MarkChanged();
 }
 
 void frmRequest::EnterItems() {
-  if (!itemEntry_) itemEntry_ = std::make_shared<frmRequestDetail>(Session(), RequestLines{lvwrequest, lngCurrentLine});
+  if (!itemEntry_) itemEntry_ = std::make_shared<frmRequestDetail>(Session(), lines_, lngCurrentLine);
   itemEntry_->Show(this);
   if (IsShown() && lvwrequest.CanFocus()) lvwrequest.SetFocus();
 }

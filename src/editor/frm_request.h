@@ -66,9 +66,6 @@ class frmRequest : public ModuleForm {
   /// are raised before the editor is loaded: shown without its links, the request would lose them at the next save.
   void ShowOwnLinks(std::int32_t requestId);
 
-  /// Whether a line of lvwrequest asks for more than 0.
-  bool HasLineWithQuantity() const;
-
  protected:
   void Design() override;
 
@@ -103,6 +100,7 @@ class frmRequest : public ModuleForm {
   void EnterItems();
 
   RegisterView& view_;
+  RequestLines lines_{lvwrequest};
   CommonDb objCommonDB_;
   CustomerRequests customerRequests_;
   std::shared_ptr<frmRequestDetail> itemEntry_;

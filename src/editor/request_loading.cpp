@@ -4,7 +4,6 @@
 
 #include "src/records/item_lookups.h"
 #include "src/records/query_rows.h"
-#include "src/records/request_lines.h"
 
 namespace goods {
 namespace {
@@ -31,19 +30,18 @@ std::string_view OrderClause(basGoodsRequest& session) {
 
 }  // namespace
 
-void LoadRequestLines(basGoodsRequest& session, controls::ListView& lines) {
+void LoadRequestLines(basGoodsRequest& session, RequestLines lines) {
   const std::string_view order = OrderClause(session);
   const late::ArrayPtr rows = ReadRows(session, RequestLinesQuery(session.gLngRequestID, session.gIntShopID, order));
   for (std::size_t row = 0; row < rows->columns; ++row) {
     const std::int32_t itemId = rows->At(kItemId, row).ToInt32();
-    controls::ListItem& line = lines.Add(std::to_string(row + 1));
-    line.SetSubItem(kLineItemCode, rows->At(kItemCode, row).TextOrEmpty());
-    line.SetSubItem(kLineItemName, rows->At(kDescription, row).TextOrEmpty());
-    line.SetSubItem(kLineQty, rows->At(kQuantity, row).TextOrEmpty());
-    line.SetSubItem(kLineItemId, std::to_string(itemId));
-    line.SetSubItem(kLineRemarks, rows->At(kComments, row).TextOrEmpty());
-    line.SetSubItem(kLineUnit, GetItemUnitCode(session, itemId));
-    line.SetSubItem(kLinePartCode, rows->At(kPartCode, row).TextOrEmpty());
+    lines.Append({.itemCode = rows->At(kItemCode, row).TextOrEmpty(),
+                  .itemName = rows->At(kDescription, row).TextOrEmpty(),
+                  .quantity = rows->At(kQuantity, row).TextOrEmpty(),
+                  .itemId = itemId,
+                  .remarks = rows->At(kComments, row).TextOrEmpty(),
+                  .unit = GetItemUnitCode(session, itemId),
+                  .partCode = rows->At(kPartCode, row).TextOrEmpty()});
   }
 }
 

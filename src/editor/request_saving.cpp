@@ -110,7 +110,7 @@ bool RequestSaving::Save() {
 }
 
 bool RequestSaving::Write(ado::Transaction& transaction, SaveStep& step) {
-  if (!editor_.HasLineWithQuantity()) {
+  if (!RequestLines(editor_.lvwrequest).HasQuantity()) {
     Tell("Atleast one detail needed");
     transaction.Rollback();
     editor_.cmdOK.SetFocus();

@@ -5,7 +5,6 @@
 #include "base/vb/error.h"
 #include "src/records/item_lookups.h"
 #include "src/records/query_rows.h"
-#include "src/records/request_lines.h"
 
 namespace goods {
 namespace {
@@ -49,7 +48,7 @@ class NoTimeout {
 
 }  // namespace
 
-void ProposeStockOutItems(basGoodsRequest& session, CommonDb& db, controls::ListView& lines) {
+void ProposeStockOutItems(basGoodsRequest& session, CommonDb& db, RequestLines lines) {
   // The shop's limit is read and does not limit the proposal: leaving out items that have run out is the user's decision.
   db.strTableName("ashops");
   db.fnReturnField("MaxRequestItemsToHQ", " shopid=" + std::to_string(session.gIntShopID));
@@ -58,12 +57,13 @@ void ProposeStockOutItems(basGoodsRequest& session, CommonDb& db, controls::List
   const late::ArrayPtr rows = ReadRows(session, StockOutItemsQuery(session.gStrStockView, session.gIntShopID));
   for (std::size_t row = 0; row < rows->columns; ++row) {
     const std::int32_t itemId = rows->At(kItemId, row).ToInt32();
-    controls::ListItem& line = lines.Add(std::to_string(lines.Count() + 1));
-    line.SetSubItem(kLineItemCode, rows->At(kItemCode, row).TextOrEmpty());
-    line.SetSubItem(kLineItemName, rows->At(kDescription, row).TextOrEmpty());
-    line.SetSubItem(kLineQty, rows->At(kReorderQuantity, row).TextOrEmpty());
-    line.SetSubItem(kLineItemId, std::to_string(itemId));
-    line.SetSubItem(kLineUnit, GetItemUnitCode(session, itemId));
+    lines.Append({.itemCode = rows->At(kItemCode, row).TextOrEmpty(),
+                  .itemName = rows->At(kDescription, row).TextOrEmpty(),
+                  .quantity = rows->At(kReorderQuantity, row).TextOrEmpty(),
+                  .itemId = itemId,
+                  .remarks = "",
+                  .unit = GetItemUnitCode(session, itemId),
+                  .partCode = ""});
   }
 }
 

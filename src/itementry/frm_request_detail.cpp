@@ -17,7 +17,7 @@ void frmRequestDetail::Form_Load() {
   firstActivation_ = true;
   itemCode_.clear();
   CreateHelpers();
-  if (lines_.lvwrequest.Count() < 2) EnableNavigation(false, false);
+  if (lines_.Count() < 2) EnableNavigation(false, false);
   // In front of what is read: after a database error, too, no shop is offered a list that is not for it.
   if (!Session().gBlnRequestForNonShopItem) optItemsNotInShop.SetVisible(false);
   ArrangeOptionButtons();

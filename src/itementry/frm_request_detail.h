@@ -25,8 +25,8 @@ class FrmFetch;
 /// it and changes it in mode "E". Has no data of its own to hand back. Numbers, saves and checks nothing of the request itself.
 class frmRequestDetail : public ModuleForm, private ItemEntryPort {
  public:
-  /// `lines` is the editor's item list; it outlives this form.
-  frmRequestDetail(basGoodsRequest& session, RequestLines lines);
+  /// `lines` are in the editor's item list, `lngCurrentLine` is the editor's current one, 1-based; both outlive this form.
+  frmRequestDetail(basGoodsRequest& session, RequestLines lines, std::int32_t& lngCurrentLine);
   ~frmRequestDetail() override;
 
   controls::CommandButton cmdOk{*this, "cmdOk"};
@@ -131,6 +131,7 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void RememberLoadedValues();
 
   RequestLines lines_;
+  std::int32_t& lngCurrentLine_;
   CommonDb objCommonDB_;
   CommonGen objCommonGen_;
   ItemFetch objFetch_;

@@ -19,8 +19,8 @@ void Place(controls::Captioned& control, std::string_view caption, int left, int
 
 }  // namespace
 
-frmRequestDetail::frmRequestDetail(basGoodsRequest& session, RequestLines lines)
-    : ModuleForm(session, "frmRequestDetail"), lines_(lines) {
+frmRequestDetail::frmRequestDetail(basGoodsRequest& session, RequestLines lines, std::int32_t& lngCurrentLine)
+    : ModuleForm(session, "frmRequestDetail"), lines_(lines), lngCurrentLine_(lngCurrentLine) {
   On(Loading, "Form_Load", &frmRequestDetail::Form_Load);
   On(Activated, "Form_Activate", &frmRequestDetail::Form_Activate);
   On(KeyDown, "Form_KeyDown", &frmRequestDetail::Form_KeyDown);

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "base/vb/format.h"
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/itementry/frm_request_detail.h"
@@ -59,16 +58,15 @@ bool frmRequestDetail::RefusesEntry() {
 
 bool frmRequestDetail::IsDuplicateItem() const {
   if (!IsAdding()) return false;
-  const double itemId = SelectedItemId();
-  for (int line = 1; line <= lines_.lvwrequest.Count(); ++line) {
-    if (vb::Val(lines_.lvwrequest.Item(line).SubItem(kLineItemId)) == itemId) return true;
+  const std::int32_t itemId = SelectedItemId();
+  for (int line = 1; line <= lines_.Count(); ++line) {
+    if (lines_.ItemId(line) == itemId) return true;
   }
   return false;
 }
 
 bool frmRequestDetail::AddLine(double limit) {
-  controls::ListView& list = lines_.lvwrequest;
-  const int number = list.Count() + 1;
+  const int number = lines_.Count() + 1;
   if (limit >= 1 && number > limit) {
     Tell("No more items can be Added in this request");
     return false;
@@ -76,18 +74,11 @@ bool frmRequestDetail::AddLine(double limit) {
   const std::int32_t itemId = SelectedItemId();
   const std::string unit = GetItemUnitCode(Session(), itemId);
 
-  ++lines_.lngCurrentLine;
-  controls::ListItem& line = list.Add(std::to_string(number));
-  line.SetSubItem(kLineItemCode, itemCode_);
-  line.SetSubItem(kLineItemName, cboItem.Text());
-  line.SetSubItem(kLineQty, vb::Format(EnteredQuantity(), "#0.000"));
-  line.SetSubItem(kLineItemId, std::to_string(itemId));
-  line.SetSubItem(kLineRemarks, vb::Trim(txtreqcomments.Text()));
-  line.SetSubItem(kLineUnit, unit);
-  line.SetSubItem(kLinePartCode, vb::Trim(txtpartcode.Text()));
-  if (list.Count() > 1) EnableNavigation(true, true);
-  list.Select(number);
-  list.EnsureVisible(number);
+  ++lngCurrentLine_;
+  lines_.Append({itemCode_, cboItem.Text(), QuantityText(EnteredQuantity()), itemId, std::string(vb::Trim(txtreqcomments.Text())),
+                 unit, std::string(vb::Trim(txtpartcode.Text()))});
+  if (number > 1) EnableNavigation(true, true);
+  lines_.GoTo(number);
   return true;
 }
 
@@ -97,12 +88,13 @@ void frmRequestDetail::RewriteLine() {
   const std::string partCode = objCommonDB_.fnReturnField("part_code", "itemid=" + std::to_string(itemId)).TextOrEmpty();
 
   // A changed line keeps its item code and unit, and takes the part code from the item: unlike an added one.
-  controls::ListItem& line = lines_.lvwrequest.Item(lines_.lvwrequest.SelectedItem());
-  line.SetSubItem(kLineItemName, cboItem.Text());
-  line.SetSubItem(kLineQty, vb::Format(EnteredQuantity(), "#0.000"));
-  line.SetSubItem(kLineItemId, std::to_string(itemId));
-  line.SetSubItem(kLinePartCode, partCode);
-  line.SetSubItem(kLineRemarks, vb::Trim(txtreqcomments.Text()));
+  RequestLine line = lines_.At(lines_.Selected());
+  line.itemName = cboItem.Text();
+  line.quantity = QuantityText(EnteredQuantity());
+  line.itemId = itemId;
+  line.partCode = partCode;
+  line.remarks = vb::Trim(txtreqcomments.Text());
+  lines_.Change(lines_.Selected(), line);
 }
 
 void frmRequestDetail::ClearForNextLine() {
@@ -115,14 +107,13 @@ void frmRequestDetail::ClearForNextLine() {
 }
 
 void frmRequestDetail::ShowNextLineOrClose() {
-  controls::ListView& list = lines_.lvwrequest;
-  const int next = list.SelectedItem() + 1;
-  if (next > list.Count()) {
+  const int next = lines_.Selected() + 1;
+  if (next > lines_.Count()) {
     Unload();
     return;
   }
   GoToLine(next);
-  EnableNavigation(true, next < list.Count());
+  EnableNavigation(true, next < lines_.Count());
   FocusFirstOf({&txtQuantity});
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/vb/format.h"
-#include "base/vb/number.h"
 #include "src/itementry/frm_request_detail.h"
 
 namespace goods {
@@ -15,28 +14,27 @@ void frmRequestDetail::cmdFirst_Click() {
 
 void frmRequestDetail::Cmdprev_Click() {
   // Never in front of the first line, where a person may be without having come by these buttons.
-  const int line = std::max(std::min(lines_.lngCurrentLine - 1, lines_.lvwrequest.Count()), 1);
+  const int line = std::max(std::min(lngCurrentLine_ - 1, lines_.Count()), 1);
   GoToLine(line);
   EnableNavigation(line > 1, true);
 }
 
 void frmRequestDetail::cmdNext_Click() {
-  const int line = lines_.lngCurrentLine + 1;
-  if (line > lines_.lvwrequest.Count()) return;
+  const int line = lngCurrentLine_ + 1;
+  if (line > lines_.Count()) return;
   GoToLine(line);
-  EnableNavigation(true, line < lines_.lvwrequest.Count());
+  EnableNavigation(true, line < lines_.Count());
 }
 
 void frmRequestDetail::cmdLast_Click() {
-  GoToLine(lines_.lvwrequest.Count());
+  GoToLine(lines_.Count());
   EnableNavigation(true, false);
 }
 
 void frmRequestDetail::GoToLine(int line) {
   Session().gStrDetailMode = "E";
-  lines_.lngCurrentLine = line;
-  lines_.lvwrequest.Select(line);
-  lines_.lvwrequest.EnsureVisible(line);
+  lngCurrentLine_ = line;
+  lines_.GoTo(line);
   ShowLineToChange();
 }
 
@@ -54,31 +52,29 @@ void frmRequestDetail::EnableNavigation(bool backwards, bool forwards) {
 }
 
 void frmRequestDetail::LoadCurrentLine() {
-  const int selected = lines_.lvwrequest.SelectedItem();
+  const int selected = lines_.Selected();
   if (selected == 0) return;
-  const controls::ListItem& line = lines_.lvwrequest.Item(selected);
+  const RequestLine line = lines_.At(selected);
   for (controls::Control* control : std::initializer_list<controls::Control*>{&optStockoutitems, &optAvaingodnotinshop, &optall,
                                                                               &optItemsNotInShop, &cboItem}) {
     control->SetEnabled(false);
   }
-  txtitemcode.SetText(line.SubItem(kLineItemCode));
+  txtitemcode.SetText(line.itemCode);
 
   // The line shows its own name where the item's cannot be read: a form left showing the line before would overwrite this one.
-  const std::string& itemId = line.SubItem(kLineItemId);
   std::string description;
   Trap("LoadCurrentLine", [&] {
     objCommonDB_.strTableName("vwitemdescription");
-    description = objCommonDB_.fnReturnField("itemdescription", " itemid = " + itemId).TextOrEmpty();
+    description = objCommonDB_.fnReturnField("itemdescription", " itemid = " + std::to_string(line.itemId)).TextOrEmpty();
   });
-  if (description.empty()) description = line.SubItem(kLineItemName);
+  if (description.empty()) description = line.itemName;
   cboItem.Clear();
-  cboItem.AddItem(description, vb::CLng(vb::Val(itemId)));
+  cboItem.AddItem(description, line.itemId);
   cboItem.SetListIndex(0);
 
-  const std::string& quantity = line.SubItem(kLineQty);
-  txtQuantity.SetText(Session().gBlnIntegerQuantity ? vb::FormatText(quantity, "#0") : quantity);
-  txtreqcomments.SetText(line.SubItem(kLineRemarks));
-  txtpartcode.SetText(line.SubItem(kLinePartCode));
+  txtQuantity.SetText(Session().gBlnIntegerQuantity ? vb::FormatText(line.quantity, "#0") : line.quantity);
+  txtreqcomments.SetText(line.remarks);
+  txtpartcode.SetText(line.partCode);
   FillPackTypeinList(SelectedItemId());
   Calcpacktypeqty();
   RememberLoadedValues();

@@ -10,7 +10,7 @@ void EditorForm::Design() {
 
 ItemEntryShop::ItemEntryShop() {
   shop.LogOn();
-  form = std::make_shared<goods::frmRequestDetail>(session, goods::RequestLines{editor->lvwrequest, editor->lngCurrentLine});
+  form = std::make_shared<goods::frmRequestDetail>(session, goods::RequestLines(editor->lvwrequest), editor->lngCurrentLine);
 }
 
 void ItemEntryShop::LogOnTo(std::int32_t shopId) {

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace goods {
+
+/// One line of a request. Its place in the request is its number.
+struct RequestLine {
+  std::string itemCode;
+  std::string itemName;
+  std::string quantity;  ///< as it is shown; see Quantity()
+  std::int32_t itemId = 0;
+  std::string remarks;
+  std::string unit;
+  std::string partCode;
+
+  /// The quantity in base units; 0 where the text begins with no number.
+  double Quantity() const;
+};
+
+/// The customer document that a request is raised for.
+struct CustomerLink {
+  enum class Kind { Invoice, Reexport };
+  Kind kind = Kind::Invoice;
+  std::int32_t id = 0;  ///< the invoice's, or the re-export's
+  std::string number;
+  int position = 0;  ///< in the list that it was checked in, from 1
+};
+
+enum class RequestType { ToGodown, PurchaseOrder };
+
+/// A goods request as it was entered: texts are what was typed, with their blanks.
+struct Request {
+  std::int32_t id = 0;  ///< provisional until a new request is saved, as the number is
+  std::string number;
+  std::string date;
+  RequestType type = RequestType::ToGodown;
+  std::string remarks;
+  bool finished = false;  ///< confirmed: it can be changed no more
+  std::vector<RequestLine> lines;
+  std::vector<CustomerLink> links;
+
+  /// Whether a line asks for more than 0.
+  bool HasLineWithQuantity() const;
+};
+
+}  // namespace goods
