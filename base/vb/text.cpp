@@ -198,7 +198,7 @@ int CompareNoCase(std::string_view a, std::string_view b) {
 }
 
 bool EqualNoCase(std::string_view a, std::string_view b) {
-  return CompareNoCase(a, b) == 0;
+  return a == b || CompareNoCase(a, b) == 0;
 }
 
 int CompareServer(std::string_view a, std::string_view b) {

@@ -8,6 +8,20 @@ namespace suite {
 using late::Arguments;
 using late::Value;
 
+namespace {
+
+/// These are called once a line of a request: the text is allocated once.
+std::string Joined(std::initializer_list<std::string_view> pieces) {
+  std::size_t size = 0;
+  for (const std::string_view piece : pieces) size += piece.size();
+  std::string text;
+  text.reserve(size);
+  for (const std::string_view piece : pieces) text += piece;
+  return text;
+}
+
+}  // namespace
+
 const late::MemberTable<clsCommonDB>& clsCommonDB::Members() {
   static const late::MemberTable<clsCommonDB> table{
       {"adocon", [](clsCommonDB& self, Arguments&) { return Value(self.connection_.Object()); },
@@ -50,9 +64,9 @@ void clsCommonDB::SetConnection(const Value& connection) {
 }
 
 Value clsCommonDB::fnReturnField(std::string_view field, std::string_view condition) {
-  std::string statement = "select " + std::string(field) + " from " + strTableName_;
-  if (!vb::Trim(condition).empty()) statement += " where " + std::string(condition);
-  ado::Recordset row = connection_.Execute(statement);
+  const bool all = vb::Trim(condition).empty();
+  ado::Recordset row =
+      connection_.Execute(Joined({"select ", field, " from ", strTableName_, all ? "" : " where ", all ? "" : condition}));
   Value value = row.Eof() ? Value(late::Null{}) : row.Field(0);
   row.Close();
   return value;
@@ -66,10 +80,8 @@ std::int32_t clsCommonDB::fnGetNextMaxNo(std::string_view column) {
 }
 
 void clsCommonDB::fnUpdateSelectedRecord(std::string_view condition, std::string_view column, std::int16_t value) {
-  std::string statement = "update ";
-  statement.append(strTableName_).append(" set ").append(column).append("=").append(std::to_string(value));
-  statement.append(" where ").append(condition);
-  connection_.ExecuteNoRecords(statement);
+  connection_.ExecuteNoRecords(
+      Joined({"update ", strTableName_, " set ", column, "=", std::to_string(value), " where ", condition}));
 }
 
 void clsCommonDB::PopulateListview(late::Object& list, std::string_view tables, std::string_view condition,

@@ -1,5 +1,6 @@
 #include "suite/engine/language/lexer.h"
 
+#include <algorithm>
 #include <array>
 
 #include "suite/engine/values/errors.h"
@@ -31,7 +32,8 @@ class Scanner {
     result.text = text;
     result.tokens.clear();
     result.literals.clear();
-    result.key.clear();
+    result.key.resize(2 * text.size() + 2);  // every token has a character, and adds its text and at most two more
+    key_ = result.key.data();
   }
 
   void Run() {
@@ -39,6 +41,7 @@ class Scanner {
     Token end;
     end.begin = end.end = static_cast<std::uint32_t>(text_.size());
     result_.tokens.push_back(end);
+    result_.key.resize(static_cast<std::size_t>(key_ - result_.key.data()));
   }
 
  private:
@@ -47,7 +50,9 @@ class Scanner {
   /// Moves over blanks and comments; false at the end.
   bool SkipBlanks() {
     for (;;) {
-      while (position_ < text_.size() && ClassOf(text_[position_]) == kBlank) ++position_;
+      std::size_t next = position_;
+      while (next < text_.size() && ClassOf(text_[next]) == kBlank) ++next;
+      position_ = next;
       if (At(position_) == '-' && At(position_ + 1) == '-') {
         position_ = std::min(text_.find('\n', position_), text_.size());
       } else if (At(position_) == '/' && At(position_ + 1) == '*') {
@@ -86,11 +91,13 @@ class Scanner {
     Token token;
     token.kind = text_[position_] == '@' ? TokenKind::Variable : TokenKind::Word;
     token.begin = static_cast<std::uint32_t>(position_);
-    while (position_ < text_.size()) {
-      const unsigned char kind = ClassOf(text_[position_]);
-      if (kind != kLetter && kind != kDigit && text_[position_] != '$') break;
-      ++position_;
+    std::size_t end = position_ + 1;
+    while (end < text_.size()) {
+      const unsigned char kind = ClassOf(text_[end]);
+      if (kind != kLetter && kind != kDigit && text_[end] != '$') break;
+      ++end;
     }
+    position_ = end;
     Push(token);
   }
 
@@ -174,8 +181,8 @@ class Scanner {
 
   void Push(Token& token, std::uint32_t end = 0) {
     token.end = end ? end : static_cast<std::uint32_t>(position_);
-    result_.key.append(text_.substr(token.begin, token.end - token.begin));
-    result_.key.push_back(token.kind == TokenKind::Quoted ? '\x02' : '\x01');
+    key_ = std::copy_n(text_.data() + token.begin, token.end - token.begin, key_);
+    *key_++ = token.kind == TokenKind::Quoted ? '\x02' : '\x01';
     result_.tokens.push_back(token);
   }
 
@@ -184,14 +191,15 @@ class Scanner {
     token.end = end ? end : static_cast<std::uint32_t>(position_);
     token.literal = static_cast<int>(result_.literals.size());
     result_.literals.push_back(static_cast<std::uint32_t>(result_.tokens.size()));
-    result_.key.push_back(static_cast<char>(3 + static_cast<int>(token.kind)));
-    if (token.kind == TokenKind::Decimal) result_.key.push_back(static_cast<char>(token.scale));
+    *key_++ = static_cast<char>(3 + static_cast<int>(token.kind));
+    if (token.kind == TokenKind::Decimal) *key_++ = static_cast<char>(token.scale);
     result_.tokens.push_back(token);
   }
 
   std::string_view text_;
   Lexed& result_;
   std::size_t position_ = 0;
+  char* key_ = nullptr;  ///< where the next token's part of the key goes
 };
 
 }  // namespace

@@ -48,7 +48,9 @@ void Connection::Close() {
 late::Value Connection::Execute(late::Arguments& arguments) {
   if (!session_) RaiseAdo(ado::kObjectClosed, kSource);
   const std::shared_ptr<Session> session = session_;
-  const late::Value text = arguments[0];
+  // A text that came by reference could change while it runs.
+  const late::Value held = arguments.All()[0].IsByRef() ? late::Value(arguments[0]) : late::Value();
+  const late::Value& text = held.IsEmpty() ? arguments[0] : held;
   const auto* statement = text.If<std::string>();
   RunResult result = Run(statement ? std::string_view(*statement) : std::string_view(), false);
   if (arguments.Has(1)) arguments.Write(1, result.affected);

@@ -75,7 +75,7 @@ Cell ByClientRules(const late::Value& value, const Type& to) {
 Cell FromValue(const late::Value& value, const Type& to, std::string& buffer) {
   Type from;
   const Cell cell = NaturalCell(value, from);
-  if (cell.form == Cell::Form::Null) return cell;
+  if (cell.form == Cell::Form::Null || (from.kind == Kind::Int && to.kind == Kind::Int)) return cell;
   Type target = to;
   target.assign = true;
   const bool client = to.kind == Kind::DateTime ? from.kind != Kind::DateTime
@@ -106,28 +106,30 @@ Cell FromValue(const late::Value& value, const Type& to, std::string& buffer) {
 }
 
 late::Value ToValue(sqlite3_stmt* statement, int column, const Type& type) {
-  const int form = sqlite3_column_type(statement, column);
+  // Nobody else uses the connection meanwhile, so that the value needs no lock and is looked up once.
+  sqlite3_value* value = sqlite3_column_value(statement, column);
+  const int form = sqlite3_value_type(value);
   if (form == SQLITE_NULL) return late::Null{};
   if (form == SQLITE_TEXT) {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-    return std::string(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return std::string(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
   }
   // An integer that grew beyond 64 bits turns into a real in the store: the server would have called it an overflow.
   if (form == SQLITE_FLOAT && type.kind != Kind::Float) RaiseOverflow(TypeName(type));
   switch (type.kind) {
     case Kind::Bit:
-      return sqlite3_column_int64(statement, column) != 0;
+      return sqlite3_value_int64(value) != 0;
     case Kind::TinyInt:
     case Kind::SmallInt:
-      return static_cast<std::int16_t>(sqlite3_column_int64(statement, column));
+      return static_cast<std::int16_t>(sqlite3_value_int64(value));
     case Kind::Decimal:
-      return vb::Decimal{sqlite3_column_int64(statement, column), type.scale};
+      return vb::Decimal{sqlite3_value_int64(value), type.scale};
     case Kind::Float:
-      return sqlite3_column_double(statement, column);
+      return sqlite3_value_double(value);
     case Kind::DateTime:
-      return FromMilliseconds(sqlite3_column_int64(statement, column));
+      return FromMilliseconds(sqlite3_value_int64(value));
     default: {
-      const std::int64_t number = sqlite3_column_int64(statement, column);
+      const std::int64_t number = sqlite3_value_int64(value);
       const auto narrow = static_cast<std::int32_t>(number);
       if (narrow == number) return narrow;
       if (type.kind == Kind::Int) RaiseOverflow("int");
