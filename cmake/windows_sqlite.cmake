@@ -6,7 +6,7 @@ if(NOT EXISTS ${SQLITE_AMALGAMATION}/sqlite3.c)
 endif()
 add_library(sqlite3 STATIC ${SQLITE_AMALGAMATION}/sqlite3.c)
 target_include_directories(sqlite3 SYSTEM PUBLIC ${SQLITE_AMALGAMATION})
-# For size: at full speed the 32-bit DLL would stand at its limit of 3 MB.
+# For size: at full speed the 32-bit DLL would be at its limit of 3 MB.
 target_compile_options(sqlite3 PRIVATE -w -Os)
 target_compile_definitions(sqlite3 PRIVATE SQLITE_OMIT_LOAD_EXTENSION)
 add_library(SQLite::SQLite3 ALIAS sqlite3)

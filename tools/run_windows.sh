@@ -10,7 +10,7 @@ folder=build/windows-x64
 # A prefix of its own: the tests register and unregister in theirs.
 export WINE_FOLDER=$PWD/build/wine_host
 for server in tq8v4461 shopsuite; do
-  # Registered anew only when the file moved or changed: registering starts a program of its own.
+  # Registered again only when the file moved or changed: registering starts a program of its own.
   mark=$WINE_FOLDER/$server.registered
   if [ ! -f "$mark" ] || [ "$folder/$server.dll" -nt "$mark" ]; then
     tools/in_wine.sh regsvr32 /s "Z:${PWD//\//\\}\\build\\windows-x64\\$server.dll"

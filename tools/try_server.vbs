@@ -233,7 +233,7 @@ Function Makes(batch)
   End If
 End Function
 
-' The batches of a file, which stand between lines that hold only "go".
+' The batches of a file, between lines that hold only "go".
 Function Batches(name)
   Dim line, batch, all
   all = ""

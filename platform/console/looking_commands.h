@@ -2,7 +2,7 @@
 
 #include "platform/console/command_table.h"
 #include "platform/console/output.h"
-#include "platform/console/surroundings.h"
+#include "platform/console/shop_tools.h"
 #include "platform/console/text_desktop.h"
 
 namespace console {

@@ -8,7 +8,7 @@
 
 namespace support {
 
-/// Stands in for the error component and notes what it is told, "form|routine|number|mode", instead of showing it.
+/// Stands in for the error component and notes what is reported, "form|routine|number|mode", instead of showing it.
 class ErrorNotes : public late::TableObject<ErrorNotes> {
  public:
   /// Puts itself in the place of whatever is registered; the notes outlive the registry's objects.
@@ -24,10 +24,10 @@ class ErrorNotes : public late::TableObject<ErrorNotes> {
 
   static const late::MemberTable<ErrorNotes>& Members() {
     static const late::MemberTable<ErrorNotes> table{{"ErrorTrack",
-                                                      [](ErrorNotes& self, late::Arguments& told) {
-                                                        self.lines.push_back(told[0].ToText() + "|" + told[2].ToText() + "|" +
-                                                                             told[3].ToText() + "|" + told[6].ToText());
-                                                        self.users.push_back(told[1].ToText());
+                                                      [](ErrorNotes& self, late::Arguments& report) {
+                                                        self.lines.push_back(report[0].ToText() + "|" + report[2].ToText() + "|" +
+                                                                             report[3].ToText() + "|" + report[6].ToText());
+                                                        self.users.push_back(report[1].ToText());
                                                         return late::Value(true);
                                                       },
                                                       nullptr, 8, 8}};

@@ -13,7 +13,7 @@
 
 namespace support {
 
-/// What went to the connection, in the component's own words: statements as they stand, "begin", "commit", "rollback", and
+/// What went to the connection, in the component's own words: statements as they are, "begin", "commit", "rollback", and
 /// "insert TABLE column=value ..." for rows sent through a recordset. Can make the n-th statement, row change or commit fail.
 class StatementLog : public suite::StatementObserver {
  public:

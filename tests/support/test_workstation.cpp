@@ -1,5 +1,8 @@
 #include "tests/support/test_workstation.h"
 
+#include <fstream>
+#include <gtest/gtest.h>
+
 #include "base/vb/error.h"
 
 namespace support {
@@ -34,9 +37,21 @@ class Writer : public controls::OutputFile {
 
 }  // namespace
 
-void TestWorkstation::WriteSettings(const std::vector<std::pair<std::string, std::string>>& settings) {
+std::set<std::string> TestWorkstation::ShippedSettings() {
+  std::ifstream file(SOURCE_FOLDER "/suite/host/ShopSetting.txt");
+  EXPECT_TRUE(file.is_open()) << "the shipped settings are not where they were";
+  std::set<std::string> keys;
+  for (std::string line; std::getline(file, line);) keys.insert(line.substr(0, line.find(" :=")));
+  return keys;
+}
+
+void TestWorkstation::WriteSettings(const std::map<std::string, std::string>& settings) {
+  const std::set<std::string> shipped = ShippedSettings();
   std::string text;
-  for (const auto& [key, value] : settings) text += key + " :=" + value + "\r\n";
+  for (const auto& [key, value] : settings) {
+    EXPECT_TRUE(shipped.contains(key)) << "no such setting: " << key;
+    text += key + " :=" + value + "\r\n";
+  }
   files["C:\\shop\\ShopSetting.txt"] = text;
 }
 

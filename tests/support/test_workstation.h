@@ -11,7 +11,7 @@
 
 namespace support {
 
-/// A machine in memory: a clock that stands still, files by name, programs that are only noted.
+/// A machine in memory: a clock that does not run, files by name, programs that are only noted.
 class TestWorkstation : public controls::Workstation {
  public:
   vb::Date now = vb::MakeDate(2024, 3, 15, 10, 30, 5);
@@ -21,8 +21,11 @@ class TestWorkstation : public controls::Workstation {
   std::vector<std::pair<std::string, int>> started;  ///< command lines with their window styles
   bool startsPrograms = true;                        ///< else starting one is error 53
 
-  /// Puts ShopSetting.txt into the application folder: one "key :=value" a line.
-  void WriteSettings(const std::vector<std::pair<std::string, std::string>>& settings);
+  /// The keys of the shipped ShopSetting.txt.
+  static std::set<std::string> ShippedSettings();
+  /// Puts ShopSetting.txt into the application folder: one "key :=value" a line. A key that the shipped file lacks fails the
+  /// test.
+  void WriteSettings(const std::map<std::string, std::string>& settings);
 
   vb::Date Now() override { return now; }
   std::string ApplicationFolder() override { return "C:\\shop"; }

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "platform/console/output.h"
-#include "platform/console/surroundings.h"
+#include "platform/console/shop_tools.h"
 #include "suite/engine/objects/database.h"
 
 namespace console {

@@ -11,24 +11,21 @@ namespace suite {
 namespace {
 
 /// Words that can be neither a name nor an alias.
-constexpr std::array<std::string_view, 67> kReserved = {
-    "add",     "all",     "alter",    "and",      "as",        "asc",    "begin",    "between",
-    "by",      "case",    "coalesce", "commit",   "convert",   "create", "cross",    "current_timestamp",
-    "default", "delete",  "desc",     "distinct", "drop",      "else",   "end",      "escape",
-    "exec",    "execute", "exists",   "for",      "from",      "full",   "function", "group",
-    "having",  "if",      "in",       "index",    "inner",     "insert", "into",     "is",
-    "join",    "key",     "left",     "like",     "not",       "null",   "nullif",   "on",
-    "or",      "order",   "outer",    "primary",  "procedure", "proc",   "right",    "rollback",
-    "select",  "set",     "table",    "then",     "top",       "union",  "unique",   "update",
-    "values",  "view",    "when"};
+constexpr auto kReserved = std::to_array<std::string_view>(
+    {"add",         "all",     "alter",    "and",      "as",        "asc",    "begin",    "between",
+     "by",          "case",    "coalesce", "commit",   "convert",   "create", "cross",    "current_timestamp",
+     "default",     "delete",  "desc",     "distinct", "drop",      "else",   "end",      "escape",
+     "exec",        "execute", "exists",   "for",      "from",      "full",   "function", "group",
+     "having",      "if",      "in",       "index",    "inner",     "insert", "into",     "is",
+     "join",        "key",     "left",     "like",     "not",       "null",   "nullif",   "on",
+     "or",          "order",   "outer",    "primary",  "procedure", "proc",   "right",    "rollback",
+     "select",      "set",     "table",    "then",     "top",       "union",  "unique",   "update",
+     "values",      "view",    "when",     "where",    "with",      "go",     "option",   "tran",
+     "transaction", "while"});
 
 }  // namespace
 
 bool IsReserved(std::string_view word) {
-  if (EqualWord(word, "where") || EqualWord(word, "with") || EqualWord(word, "go") || EqualWord(word, "option") ||
-      EqualWord(word, "tran") || EqualWord(word, "transaction") || EqualWord(word, "while")) {
-    return true;
-  }
   return std::any_of(kReserved.begin(), kReserved.end(), [&](std::string_view reserved) { return EqualWord(word, reserved); });
 }
 

@@ -2,7 +2,6 @@
 
 #include <map>
 #include <string>
-#include <vector>
 
 #include "src/printing/request_slip.h"
 #include "tests/support/error_notes.h"
@@ -38,46 +37,18 @@ insert into mosGoodsRequestHeader (GRHrequestID,GRHshopID,GRHrequestno,GRHreques
         std::to_string(line) + ",1,5," + std::to_string(item) + "," + quantity + ")");
   }
 
-  /// Every key of the slip: all switches off on a page of 40, but for those named.
-  void Settings(const std::map<std::string, std::string>& changed) {
-    std::vector<std::pair<std::string, std::string>> lines;
-    for (const auto& [key, value] : std::map<std::string, std::string>{{"port", "LPT1"},
-                                                                       {"internalprintnoofrecords", "0"},
-                                                                       {"pagewidth", "40"},
-                                                                       {"SlNo", "5"},
-                                                                       {"Qty", "10"},
-                                                                       {"Unit", "6"},
-                                                                       {"Rate", "9"},
-                                                                       {"Amount", "11"},
-                                                                       {"ExtraLine", "0"},
-                                                                       {"EndPage", "0"},
-                                                                       {"Seperator", "0"},
-                                                                       {"printheadertopline", "0"},
-                                                                       {"printheaderbottomline", "0"},
-                                                                       {"printdetailbottomline", "0"},
-                                                                       {"spaceinlinecode", "0"},
-                                                                       {"printfooterineachpage", "0"},
-                                                                       {"showcostintrans", "0"},
-                                                                       {"showspintransrep", "0"},
-                                                                       {"showitemcodeinprint", "0"},
-                                                                       {"printinsavedorder", "0"},
-                                                                       {"showtotalqty", "0"},
-                                                                       {"headerleftmargin", "0"},
-                                                                       {"linesafterheader", "0"},
-                                                                       {"linesafteraddress", "0"},
-                                                                       {"totalheadcount", "0"},
-                                                                       {"printtransnameabove", "0"},
-                                                                       {"linetoskipfirst", "0"},
-                                                                       {"PrintCompanyName", "0"},
-                                                                       {"printadd1", "0"},
-                                                                       {"printadd2", "0"},
-                                                                       {"printadd3", "0"},
-                                                                       {"windowsprint", "0"},
-                                                                       {"printtoscreen", "1"}}) {
-      const auto change = changed.find(key);
-      lines.emplace_back(key, change == changed.end() ? value : change->second);
-    }
-    workstation.WriteSettings(lines);
+  /// Every shipped key: all switches off on a page of 40, but for those named.
+  void Settings(std::map<std::string, std::string> settings) {
+    settings.insert({{"port", "LPT1"},
+                     {"pagewidth", "40"},
+                     {"SlNo", "5"},
+                     {"Qty", "10"},
+                     {"Unit", "6"},
+                     {"Rate", "9"},
+                     {"Amount", "11"},
+                     {"printtoscreen", "1"}});
+    for (const std::string& key : workstation.ShippedSettings()) settings.try_emplace(key, "0");
+    workstation.WriteSettings(settings);
   }
 
   std::string PrintToScreen() {
