@@ -9,6 +9,7 @@
 #include "base/vb/text.h"
 #include "src/records/customer_documents.h"
 #include "src/records/query_rows.h"
+#include "src/records/request_store.h"
 
 namespace goods {
 namespace {
@@ -42,15 +43,15 @@ class LinesByItem {
   std::unordered_map<std::int32_t, std::vector<int>> places_;  ///< the last one is the first line of the item
 };
 
+/// A document of the list is an invoice unless it has a re-export number.
+CustomerLink LinkTo(const controls::ListItem& document, int position) {
+  const bool isInvoice = vb::Trim(document.SubItem(kDocumentReexportNo)).empty();
+  return {isInvoice ? CustomerLink::Kind::Invoice : CustomerLink::Kind::Reexport,
+          vb::CLng(vb::Val(document.SubItem(kDocumentId))), document.SubItem(kDocumentRequestNo),
+          static_cast<std::size_t>(position)};
+}
+
 }  // namespace
-
-bool CustomerRequests::IsInvoice(const controls::ListItem& document) {
-  return vb::Trim(document.SubItem(kDocumentReexportNo)).empty();
-}
-
-std::int32_t CustomerRequests::DocumentId(const controls::ListItem& document) {
-  return vb::CLng(vb::Val(document.SubItem(kDocumentId)));
-}
 
 void CustomerRequests::ShowOnOffer() {
   Documents documents;
@@ -68,27 +69,10 @@ bool CustomerRequests::ShowOwn(std::int32_t requestId) {
 }
 
 void CustomerRequests::AppendOwn(Documents& documents, std::int32_t requestId) const {
-  const std::int32_t shop = session_.gIntShopID;
-  const std::int32_t company = session_.gIntCompanyID;
-  std::set<std::int32_t> invoices;
-  const late::ArrayPtr linked = ReadRows(session_, LinkedInvoicesQuery(requestId, shop, company));
-  for (std::size_t row = 0; row < linked->columns; ++row) {
-    const std::int32_t id = linked->At(kLinkedInvoiceId, row).ToInt32();
-    invoices.insert(id);
-    documents.push_back({linked->At(kLinkedInvoiceNo, row).TextOrEmpty(), "", id, true});
-  }
   // The next save writes the links anew from the list, so each of them must be in it: re-exports, too, and a document that the
-  // shop no longer has. Where no number can be shown, the id stands for it.
-  const late::ArrayPtr links = ReadRows(session_, LinksQuery(requestId, shop, company));
-  for (std::size_t row = 0; row < links->columns; ++row) {
-    if (const late::Value& reexport = links->At(kLinkReexportId, row); !reexport.IsNull()) {
-      std::string number(vb::Trim(links->At(kLinkReexportNo, row).TextOrEmpty()));
-      if (number.empty()) number = std::to_string(reexport.ToInt32());
-      documents.push_back({number, number, reexport.ToInt32(), true});
-    } else if (const late::Value& invoice = links->At(kLinkInvoiceId, row); !invoice.IsNull()) {
-      const std::int32_t id = invoice.ToInt32();
-      if (!invoices.contains(id)) documents.push_back({std::to_string(id), "", id, true});
-    }
+  // shop no longer has.
+  for (const CustomerLink& link : RequestStore(session_, db_).LinksOf(requestId)) {
+    documents.push_back({link.number, link.kind == CustomerLink::Kind::Reexport ? link.number : "", link.id, true});
   }
 }
 
@@ -150,9 +134,9 @@ void CustomerRequests::TakeChecked(controls::ListItem& document) {
 }
 
 late::ArrayPtr CustomerRequests::LinesOf(const controls::ListItem& document) const {
-  const std::int32_t id = DocumentId(document);
-  return ReadRows(session_,
-                  IsInvoice(document) ? InvoiceLinesQuery(id, session_.gIntShopID) : ReexportLinesQuery(id, session_.gIntShopID));
+  const CustomerLink link = LinkTo(document, 0);
+  return ReadRows(session_, link.kind == CustomerLink::Kind::Invoice ? InvoiceLinesQuery(link.id, session_.gIntShopID)
+                                                                     : ReexportLinesQuery(link.id, session_.gIntShopID));
 }
 
 void CustomerRequests::AddQuantities(const late::Array& documentLines) {
@@ -204,14 +188,13 @@ void CustomerRequests::RemoveLine(int line) {
   if (selected != line) list.Select(selected > line ? selected - 1 : selected);
 }
 
-bool CustomerRequests::IsProjectRequestChecked() const {
+std::vector<CustomerLink> CustomerRequests::Checked() const {
+  std::vector<CustomerLink> links;
   for (int entry = 1; entry <= documents_.Count(); ++entry) {
     const controls::ListItem& document = documents_.Item(entry);
-    if (!document.Checked() || !IsInvoice(document)) continue;
-    const std::string query = ProjectRequestQuery(DocumentId(document), session_.gIntShopID, session_.gIntCompanyID);
-    if (ReadRows(session_, query)->columns > 0) return true;
+    if (document.Checked()) links.push_back(LinkTo(document, entry));
   }
-  return false;
+  return links;
 }
 
 }  // namespace goods

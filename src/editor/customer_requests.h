@@ -40,12 +40,8 @@ class CustomerRequests {
   /// After a person has checked or unchecked the document: adds its quantities to the lines, or takes them out. A database error
   /// puts the mark back and is raised.
   void TakeChecked(controls::ListItem& document);
-  /// Whether a checked invoice is a project request.
-  bool IsProjectRequestChecked() const;
-
-  /// A document of the list is an invoice unless it has a re-export number.
-  static bool IsInvoice(const controls::ListItem& document);
-  static std::int32_t DocumentId(const controls::ListItem& document);
+  /// The checked documents.
+  std::vector<CustomerLink> Checked() const;
 
  private:
   struct Document {

@@ -2,7 +2,6 @@
 
 #include "base/vb/format.h"
 #include "base/vb/text.h"
-#include "src/editor/request_loading.h"
 #include "src/editor/request_saving.h"
 #include "src/editor/stock_out_proposal.h"
 #include "src/faces/form_color.h"
@@ -97,7 +96,9 @@ void frmRequest::LoadExistingRequest() {
   }
   const std::string type = objCommonDB_.fnReturnField("grhrequesttype", condition).TextOrEmpty();
   (vb::UCase(type) == "G" ? optgoodreq : optporeq).SetValue(true);
-  const bool isComplete = Trap("LoadRequestLines", [this] { LoadRequestLines(Session(), lines_); });
+  const bool isComplete = Trap("LoadRequestLines", [this] {
+    for (const RequestLine& line : RequestStore(Session(), objCommonDB_).LinesOf(Session().gLngRequestID)) lines_.Append(line);
+  });
   if (!isComplete) cmdOK.SetEnabled(false);  // saved, the request would lose the lines that could not be read
 }
 
@@ -130,10 +131,35 @@ bool frmRequest::IsChanged() const {
 }
 
 void frmRequest::cmdOK_Click() {
-  if (!RequestSaving(Session(), *this, customerRequests_, objCommonDB_, view_).Save()) return;
+  if (!RequestSaving(Session(), Entered(), *this, objCommonDB_, view_).Save()) return;
   keepOpen_ = false;
   cmdOK.SetEnabled(false);
   Unload();
+}
+
+Request frmRequest::Entered() const {
+  return {.id = Session().gLngRequestID,
+          .number = txtRequestNo.Text(),
+          .date = txtrequestDate.Text(),
+          .type = optgoodreq.Value() ? RequestType::ToGodown : RequestType::PurchaseOrder,
+          .remarks = txtRemarks.Text(),
+          .finished = chkTransFinished.IsChecked(),
+          .lines = lines_.All(),
+          .links = customerRequests_.Checked()};
+}
+
+void frmRequest::GoTo(SaveField field) {
+  switch (field) {
+    case SaveField::Date:
+      return txtrequestDate.SetFocus();
+    case SaveField::CustomerRequests:
+      sstabGoodsReq.SetTab(kCustomerPage);
+      return lvwCustomerReq.SetFocus();
+    case SaveField::Finished:
+      return chkTransFinished.SetFocus();
+    case SaveField::Ok:
+      return cmdOK.SetFocus();
+  }
 }
 
 void frmRequest::ShowOwnLinks(std::int32_t requestId) {

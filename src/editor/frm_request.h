@@ -9,6 +9,7 @@
 #include "base/controls/tab_control.h"
 #include "base/controls/text_box.h"
 #include "src/editor/customer_requests.h"
+#include "src/editor/save_port.h"
 #include "src/faces/common_db.h"
 #include "src/lists/register_view.h"
 #include "src/module/module_form.h"
@@ -19,7 +20,7 @@ class frmRequestDetail;
 
 /// The request editor: one request's header, its item lines and the customer documents it is raised for. Creates a request in
 /// mode "N" of the session, shows and changes the one of gLngRequestID in any other. What is saved, and how, is request_saving's.
-class frmRequest : public ModuleForm {
+class frmRequest : public ModuleForm, private SavePort {
  public:
   frmRequest(basGoodsRequest& session, RegisterView& view);
   ~frmRequest() override;
@@ -66,6 +67,9 @@ class frmRequest : public ModuleForm {
   /// are raised before the editor is loaded: shown without its links, the request would lose them at the next save.
   void ShowOwnLinks(std::int32_t requestId);
 
+  /// What the editor shows, as it was typed.
+  Request Entered() const;
+
  protected:
   void Design() override;
 
@@ -87,6 +91,10 @@ class frmRequest : public ModuleForm {
   void chkcutomerrequest_Click();
   void lvwCustomerReq_ItemCheck(controls::ListItem& document);
   void SetBoxQuietly(bool ticked);
+
+  controls::Form& Window() override { return *this; }
+  void GoTo(SaveField field) override;
+  void ShowRequestNo(const std::string& number) override { txtRequestNo.SetText(number); }
 
   void lvwrequest_DblClick();
   void lvwrequest_KeyDown(int& keyCode, int shift);

@@ -1,25 +1,23 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
+#include <string_view>
 
-#include "src/editor/customer_requests.h"
-#include "src/editor/frm_request.h"
 #include "src/editor/save_errors.h"
+#include "src/editor/save_port.h"
 #include "src/faces/common_db.h"
 #include "src/lists/register_view.h"
 #include "src/module/session.h"
+#include "src/records/request_store.h"
 
 namespace goods {
 
-/// Writes what the editor shows in one transaction on the host's connection: header, lines, request-raised flags and
-/// customer-document links together or not at all. Reads the editor, tells the user what it refuses, and leaves closing to it.
+/// Writes an entered request in one transaction on the host's connection: header, lines, request-raised flags and
+/// customer-document links together or not at all. Tells the user what it refuses, and leaves closing to the editor.
 class RequestSaving {
  public:
-  /// All outlive this object, which lives for one save.
-  RequestSaving(basGoodsRequest& session, frmRequest& editor, CustomerRequests& customerRequests, CommonDb& db,
-                RegisterView& view)
-      : session_(session), editor_(editor), customerRequests_(customerRequests), db_(db), view_(view) {}
+  /// All but the request outlive this object, which lives for one save.
+  RequestSaving(basGoodsRequest& session, Request entered, SavePort& editor, CommonDb& db, RegisterView& view)
+      : session_(session), request_(std::move(entered)), editor_(editor), store_(session, db), view_(view) {}
 
   /// Checks, writes and commits, and brings the register's row up to date. False is a refusal that the user has been told of,
   /// with the focus where it can be mended. Any error is raised. In both cases database and editor are as they were before.
@@ -36,18 +34,13 @@ class RequestSaving {
   bool IsFinishConfirmed();
 
   void WriteNewRequest();
-  void AddHeader(const std::string& userName);
-  void UpdateRequest(std::int32_t requestId);
-  void UpdateHeader(std::int32_t requestId, const std::string& userName);
-  void AddDetails(const std::string& source);
-  void SetOrdeRaisedStatus(std::int16_t flag, std::int32_t requestId);
+  void UpdateRequest();
   void WriteCustomerLinks();
-  std::string UserName(const std::string& condition);
 
   basGoodsRequest& session_;
-  frmRequest& editor_;
-  CustomerRequests& customerRequests_;
-  CommonDb& db_;
+  Request request_;
+  SavePort& editor_;
+  RequestStore store_;
   RegisterView& view_;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -26,7 +27,7 @@ struct CustomerLink {
   Kind kind = Kind::Invoice;
   std::int32_t id = 0;  ///< the invoice's, or the re-export's
   std::string number;
-  int position = 0;  ///< in the list that it was checked in, from 1
+  std::size_t position = 0;  ///< in the list that it was checked in, from 1
 };
 
 enum class RequestType { ToGodown, PurchaseOrder };

@@ -1,10 +1,11 @@
-#include "src/records/request_numbering.h"
+// The numbers of a shop's requests.
 
 #include <string>
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/records/query_rows.h"
+#include "src/records/request_store.h"
 
 namespace goods {
 namespace {
@@ -32,17 +33,17 @@ std::string RequestNoQuery(const std::string& requestNo, std::int32_t shopId) {
 
 }  // namespace
 
-void fnGenerateRequestNo(basGoodsRequest& session, controls::TextBox& txtRequestNo) {
-  const std::string prefix = FirstValue(session, PrefixQuery(session.gLngInterfaceID, session.gIntShopID)).TextOrEmpty();
-  const std::string greatest = FirstValue(session, GreatestCounterQuery(prefix, session.gIntShopID)).TextOrEmpty();
+std::string RequestStore::fnGenerateRequestNo() {
+  const std::string prefix = FirstValue(session_, PrefixQuery(session_.gLngInterfaceID, session_.gIntShopID)).TextOrEmpty();
+  const std::string greatest = FirstValue(session_, GreatestCounterQuery(prefix, session_.gIntShopID)).TextOrEmpty();
   const std::int16_t counter = vb::CInt(vb::Val(greatest) + 1);
-  txtRequestNo.SetText(prefix + std::to_string(counter));
+  return prefix + std::to_string(counter);
 }
 
-bool fnRequestNoExists(basGoodsRequest& session, const controls::TextBox& txtRequestNo) {
+bool RequestStore::fnRequestNoExists(const std::string& requestNo) {
   return ReadQuery(
-      session, RequestNoQuery(txtRequestNo.Text(), session.gIntShopID),
-      [](ado::Recordset& rows) { return rows.RecordCount() >= 1; }, ado::kKeyset, ado::kReadOnly);
+      session_, RequestNoQuery(requestNo, session_.gIntShopID), [](ado::Recordset& rows) { return rows.RecordCount() >= 1; },
+      ado::kKeyset, ado::kReadOnly);
 }
 
 }  // namespace goods

@@ -1,10 +1,8 @@
-#include <vector>
-
-#include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/editor/frm_request.h"
 #include "src/faces/user_auditing.h"
 #include "src/lists/register_row.h"
+#include "src/records/request_store.h"
 #include "src/register/frm_cancel_reason.h"
 #include "src/register/frm_master.h"
 
@@ -13,27 +11,6 @@ namespace {
 
 constexpr long kUserNameLength = 20;  // characters of a name that a cancellation remark keeps
 constexpr int kConfirmDelete = controls::kYesNo | controls::kCritical | controls::kDefaultButton2;
-
-std::string HeaderQuery(std::int32_t requestId, std::int32_t shopId) {
-  return "select * from  mosGoodsRequestHeader where GRHrequestID  = " + std::to_string(requestId) +
-         " and grhshopid=" + std::to_string(shopId);
-}
-
-std::string LinesQuery(std::int32_t requestId, std::int32_t shopId) {
-  return "select * from mosGoodsRequestDetail where GRDrequestID=" + std::to_string(requestId) +
-         " and grdshopid=" + std::to_string(shopId);
-}
-
-/// Rewrites the request's header with its own values, so that whatever the database does on an update runs again.
-std::string RefreshHeaderStatement(const std::string& requestId, std::int32_t shopId) {
-  return "update mosgoodsrequestheader set GRHcancel=GRHcancel where  GRHrequestID=" + requestId +
-         " and GRHshopID=" + std::to_string(shopId);
-}
-
-std::string RefreshLinesStatement(const std::string& requestId, std::int32_t shopId) {
-  return "update mosgoodsrequestdetail set GRDbadQty=GRDbadQty where GRDrequestID=" + requestId +
-         " and GRDshopID=" + std::to_string(shopId);
-}
 
 std::string CancellationRemark(std::string_view userName, std::string_view reason) {
   return vb::Left(vb::Trim(userName), kUserNameLength) + ":" + vb::Left(vb::Trim(reason), kReasonLength);
@@ -107,37 +84,16 @@ void frmMaster::CmdDelete_Click() {
 
 // Header and item marks are two steps without a transaction: once the header says cancelled, the request is.
 void frmMaster::MarkRequestCancelled(std::string_view remark) {
-  ado::Recordset header = ado::Recordset::Create(Session().services.factory);
-  header.SetCursorLocation(ado::kUseServer);  // a host's client-side cursors miss the row when a trigger counts others
-  header.Open(HeaderQuery(Session().gLngRequestID, Session().gIntShopID), Session().gAdoCon, ado::kKeyset, ado::kOptimistic);
-  const bool found = !header.Eof();
-  if (found) {
-    header.SetField("grhcancel", std::int32_t{1});
-    header.SetField("grhcancelRemarks", remark);
-    header.Update();
-  }
-  header.Close();
-  if (found) RemoveRequestRaisedFromShopItemDetail();
+  if (RequestStore(Session(), objCommonDB_).Cancel(Session().gLngRequestID, remark)) RemoveRequestRaisedFromShopItemDetail();
 }
 
-// The condition names the item alone: its mark goes in every shop.
 void frmMaster::RemoveRequestRaisedFromShopItemDetail() {
-  Trap("RemoveRequestRaisedFromShopItemDetail", [&] {
-    objCommonDB_.strTableName("aShopItemDetail");
-    ado::Recordset lines = ado::Recordset::Create(Session().services.factory);
-    lines.Open(LinesQuery(Session().gLngRequestID, Session().gIntShopID), Session().gAdoCon);
-    std::vector<std::string> items;  // read first: the updates need the connection to themselves
-    for (; !lines.Eof(); lines.MoveNext()) items.push_back(lines.Field("GRDitemID").ToText());
-    lines.Close();
-    for (const std::string& item : items) objCommonDB_.fnUpdateSelectedRecord("Itemid = " + item, "RequestRaised", 0);
-  });
+  Trap("RemoveRequestRaisedFromShopItemDetail",
+       [&] { RequestStore(Session(), objCommonDB_).RemoveRequestRaised(Session().gLngRequestID); });
 }
 
 void frmMaster::mnurefresh_Click() {
-  if (!IsOnRequest()) return;
-  const std::string requestId = CurrentCell(kRegisterId);
-  Session().gAdoCon.ExecuteNoRecords(RefreshHeaderStatement(requestId, Session().gIntShopID));
-  Session().gAdoCon.ExecuteNoRecords(RefreshLinesStatement(requestId, Session().gIntShopID));
+  if (IsOnRequest()) RequestStore(Session(), objCommonDB_).Refresh(CurrentRequestId());
 }
 
 }  // namespace goods

@@ -1,4 +1,4 @@
-#include "src/records/request_numbering.h"
+#include "src/records/request_store.h"
 #include "tests/src/editor/editor_shop.h"
 
 namespace editor_test {
@@ -11,15 +11,9 @@ class Numbering : public EditorShop {
     shop.Run("insert into mosGoodsRequestHeader (GRHrequestID, GRHshopID, GRHrequestno) values (" + std::to_string(++lastId_) +
              ", " + std::to_string(shopId) + ", '" + number + "')");
   }
-  std::string Next() {
-    session.gStrEntryMode = "N";
-    desktop.ExpectMessage("Do you want to add stock out items?", controls::Answer::No);
-    editor->Load();
-    goods::fnGenerateRequestNo(session, editor->txtRequestNo);
-    const std::string number = editor->txtRequestNo.Text();
-    editor->Unload();
-    return number;
-  }
+  std::string Next() { return store_.fnGenerateRequestNo(); }
+  goods::CommonDb db_{session};
+  goods::RequestStore store_{session, db_};
 
  private:
   int lastId_ = 100;
@@ -73,12 +67,8 @@ TEST_F(Numbering, TheCounterEndsAtSixteenBits) {
 TEST_F(Numbering, ANumberExistsInItsOwnShopOnly) {
   Take("GR/5");
   Take("GR/6", 2);
-  New([&] {
-    editor->txtRequestNo.SetText("GR/5");
-    EXPECT_TRUE(goods::fnRequestNoExists(session, editor->txtRequestNo));
-    editor->txtRequestNo.SetText("GR/6");
-    EXPECT_FALSE(goods::fnRequestNoExists(session, editor->txtRequestNo));
-  });
+  EXPECT_TRUE(store_.fnRequestNoExists("GR/5"));
+  EXPECT_FALSE(store_.fnRequestNoExists("GR/6"));
 }
 
 }  // namespace

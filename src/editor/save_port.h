@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "base/controls/form.h"
+
+namespace goods {
+
+/// Where a refused save puts the focus, so that it can be mended.
+enum class SaveField { Date, CustomerRequests, Finished, Ok };
+
+/// What a save touches of the editor.
+class SavePort {
+ public:
+  /// The window that asks, waits and is audited.
+  virtual controls::Form& Window() = 0;
+  virtual void GoTo(SaveField field) = 0;
+  /// Shows the number that a new request has got.
+  virtual void ShowRequestNo(const std::string& number) = 0;
+
+ protected:
+  ~SavePort() = default;
+};
+
+}  // namespace goods
