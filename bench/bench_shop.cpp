@@ -36,13 +36,13 @@ void EmptyDesktop::RunModal(controls::Form& form) {
   if (form.IsShown()) form.Unload();
 }
 
-std::unique_ptr<controls::InputFile> EmptyWorkstation::OpenForInput(std::string_view) {
+std::unique_ptr<workstation::InputFile> EmptyWorkstation::OpenForInput(std::string_view) {
   vb::Raise(vb::kFileNotFound);
 }
-std::unique_ptr<controls::OutputFile> EmptyWorkstation::OpenForOutput(std::string_view) {
+std::unique_ptr<workstation::OutputFile> EmptyWorkstation::OpenForOutput(std::string_view) {
   vb::Raise(vb::kPermissionDenied);
 }
-std::unique_ptr<controls::OutputFile> EmptyWorkstation::OpenForAppend(std::string_view) {
+std::unique_ptr<workstation::OutputFile> EmptyWorkstation::OpenForAppend(std::string_view) {
   vb::Raise(vb::kPermissionDenied);
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/controls/desktop.h"
-#include "base/controls/workstation.h"
+#include "base/workstation/workstation.h"
 #include "src/entry/module.h"
 #include "suite/engine/objects/database.h"
 #include "suite/helpers/surroundings.h"
@@ -24,16 +24,16 @@ class EmptyDesktop : public controls::Desktop {
   void RunModal(controls::Form& form) override;
 };
 
-class EmptyWorkstation : public controls::Workstation {
+class EmptyWorkstation : public workstation::Workstation {
  public:
   vb::Date Now() override { return vb::MakeDate(2024, 3, 15, 10, 0, 0); }
   std::string ApplicationFolder() override { return "C:\\shop"; }
   std::string WindowsDirectory() override { return "C:\\WINDOWS"; }
   std::string TempFolder() override { return "C:\\TEMP"; }
   bool FileExists(std::string_view) override { return false; }
-  std::unique_ptr<controls::InputFile> OpenForInput(std::string_view path) override;
-  std::unique_ptr<controls::OutputFile> OpenForOutput(std::string_view path) override;
-  std::unique_ptr<controls::OutputFile> OpenForAppend(std::string_view path) override;
+  std::unique_ptr<workstation::InputFile> OpenForInput(std::string_view path) override;
+  std::unique_ptr<workstation::OutputFile> OpenForOutput(std::string_view path) override;
+  std::unique_ptr<workstation::OutputFile> OpenForAppend(std::string_view path) override;
   void StartProgram(std::string_view, int) override {}
 };
 

@@ -10,6 +10,7 @@
 #include "base/vb/error.h"
 #include "base/vb/file_error.h"
 #include "base/vb/text.h"
+#include "base/workstation/printer_port.h"
 #include "platform/console/escape.h"
 
 namespace console {
@@ -17,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class TextInput : public controls::InputFile {
+class TextInput : public workstation::InputFile {
  public:
   explicit TextInput(std::string content) : content_(std::move(content)) {
     if (content_.starts_with("\xEF\xBB\xBF")) at_ = 3;
@@ -35,7 +36,7 @@ class TextInput : public controls::InputFile {
   std::size_t at_ = 0;
 };
 
-class TextOutput : public controls::OutputFile {
+class TextOutput : public workstation::OutputFile {
  public:
   TextOutput(std::ofstream stream, std::string_view path) : stream_(std::move(stream)), path_(path) {}
   void Write(std::string_view text) override { stream_.write(text.data(), static_cast<std::streamsize>(text.size())); }
@@ -55,15 +56,6 @@ std::string WithSlashes(std::string_view path) {
 
 bool StartsWithNoCase(std::string_view text, std::string_view start) {
   return text.size() >= start.size() && vb::EqualNoCase(text.substr(0, start.size()), start);
-}
-
-/// The port's name without its colon, or "" when the path names no port.
-std::string PortName(std::string_view path) {
-  if (path.ends_with(':')) path.remove_suffix(1);
-  if (vb::EqualNoCase(path, "PRN")) return "PRN";
-  const bool port = path.size() == 4 && path[3] >= '1' && path[3] <= '9' &&
-                    (vb::EqualNoCase(path.substr(0, 3), "LPT") || vb::EqualNoCase(path.substr(0, 3), "COM"));
-  return port ? vb::UCase(path) : "";
 }
 
 /// The entry of a folder with that name in whatever case; the name itself when there is none.
@@ -104,7 +96,7 @@ std::filesystem::path TextWorkstation::LocateInFolder(std::string_view relative)
 std::optional<std::filesystem::path> TextWorkstation::Locate(std::string_view path) const {
   path = vb::Trim(path);
   if (path.empty()) vb::Raise(vb::kBadFileName);
-  if (const std::string port = PortName(path); !port.empty()) return LocateInFolder(port);
+  if (const std::string port = workstation::PrinterPort(path); !port.empty()) return LocateInFolder(port);
   const std::string plain = WithSlashes(path);
   const std::string folder = WithSlashes(settings_.applicationFolder) + '/';
   if (StartsWithNoCase(plain, folder)) return LocateInFolder(std::string_view(plain).substr(folder.size()));
@@ -126,7 +118,7 @@ bool TextWorkstation::FileExists(std::string_view path) {
   return file && fs::is_regular_file(*file, ignored);
 }
 
-std::unique_ptr<controls::InputFile> TextWorkstation::OpenForInput(std::string_view path) {
+std::unique_ptr<workstation::InputFile> TextWorkstation::OpenForInput(std::string_view path) {
   const auto file = Locate(path);
   std::error_code ignored;
   if (!file) vb::RaiseFileError(vb::kPathNotFound, path);
@@ -134,7 +126,7 @@ std::unique_ptr<controls::InputFile> TextWorkstation::OpenForInput(std::string_v
   return std::make_unique<TextInput>(ReadAll(*file));
 }
 
-std::unique_ptr<controls::OutputFile> TextWorkstation::OpenToWrite(std::string_view path, bool append) {
+std::unique_ptr<workstation::OutputFile> TextWorkstation::OpenToWrite(std::string_view path, bool append) {
   const auto file = Locate(path);
   if (!file) vb::RaiseFileError(vb::kPathNotFound, path);
   std::error_code ignored;
@@ -146,11 +138,11 @@ std::unique_ptr<controls::OutputFile> TextWorkstation::OpenToWrite(std::string_v
   return std::make_unique<TextOutput>(std::move(stream), path);
 }
 
-std::unique_ptr<controls::OutputFile> TextWorkstation::OpenForOutput(std::string_view path) {
+std::unique_ptr<workstation::OutputFile> TextWorkstation::OpenForOutput(std::string_view path) {
   return OpenToWrite(path, false);
 }
 
-std::unique_ptr<controls::OutputFile> TextWorkstation::OpenForAppend(std::string_view path) {
+std::unique_ptr<workstation::OutputFile> TextWorkstation::OpenForAppend(std::string_view path) {
   return OpenToWrite(path, true);
 }
 

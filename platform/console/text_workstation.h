@@ -4,14 +4,14 @@
 #include <optional>
 #include <string>
 
-#include "base/controls/workstation.h"
+#include "base/workstation/workstation.h"
 #include "platform/console/output.h"
 
 namespace console {
 
 /// A workstation whose drive C, temporary folder and printer ports are files of one folder on this machine. Its character set is
 /// UTF-8; file names are found without regard to case. Programs are announced, never started.
-class TextWorkstation : public controls::Workstation {
+class TextWorkstation : public workstation::Workstation {
  public:
   struct Settings {
     std::string applicationFolder;                 ///< as the component is told, and as this machine knows it
@@ -25,9 +25,9 @@ class TextWorkstation : public controls::Workstation {
   std::string WindowsDirectory() override { return settings_.windowsDirectory; }
   std::string TempFolder() override { return "C:\\TEMP"; }
   bool FileExists(std::string_view path) override;
-  std::unique_ptr<controls::InputFile> OpenForInput(std::string_view path) override;
-  std::unique_ptr<controls::OutputFile> OpenForOutput(std::string_view path) override;
-  std::unique_ptr<controls::OutputFile> OpenForAppend(std::string_view path) override;
+  std::unique_ptr<workstation::InputFile> OpenForInput(std::string_view path) override;
+  std::unique_ptr<workstation::OutputFile> OpenForOutput(std::string_view path) override;
+  std::unique_ptr<workstation::OutputFile> OpenForAppend(std::string_view path) override;
   void StartProgram(std::string_view commandLine, int style) override;
 
   /// A whole file of the application folder; error 53 when there is none.
@@ -37,7 +37,7 @@ class TextWorkstation : public controls::Workstation {
   /// Where a path of the workstation lies on this machine; nothing for a path it does not have. Error 52 for an empty name.
   std::optional<std::filesystem::path> Locate(std::string_view path) const;
   std::filesystem::path LocateInFolder(std::string_view relative) const;
-  std::unique_ptr<controls::OutputFile> OpenToWrite(std::string_view path, bool append);
+  std::unique_ptr<workstation::OutputFile> OpenToWrite(std::string_view path, bool append);
 
   Settings settings_;
   Output& output_;

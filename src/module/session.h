@@ -6,15 +6,15 @@
 
 #include "base/ado/connection.h"
 #include "base/controls/desktop.h"
-#include "base/controls/workstation.h"
 #include "base/late/object.h"
+#include "base/workstation/workstation.h"
 
 namespace goods {
 
 /// What the component needs from its surroundings; they outlive the session.
 struct Services {
   controls::Desktop& desktop;
-  controls::Workstation& workstation;
+  workstation::Workstation& workstation;
   late::Factory& factory;
 };
 

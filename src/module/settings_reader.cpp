@@ -15,7 +15,7 @@ constexpr std::string_view kNotFound = "NotFound";
 
 /// The value of the first line that carries the key. The files are written "key := value": the one character before the
 /// separator belongs to neither side.
-std::optional<std::string> ScanForKey(controls::InputFile& file, std::string_view key) {
+std::optional<std::string> ScanForKey(workstation::InputFile& file, std::string_view key) {
   const std::string wanted = vb::UCase(key);
   while (const std::optional<std::string> line = file.ReadLine()) {
     const auto separator = static_cast<long>(vb::InStr(*line, kSeparator));
@@ -30,7 +30,7 @@ void TellCritical(basGoodsRequest& session, std::string text) {
   desktop.MsgBox(desktop.ActiveForm(), {std::move(text), controls::kCritical, session.gStrMsgboxCaption});
 }
 
-std::unique_ptr<controls::InputFile> OpenOrTell(basGoodsRequest& session, std::string_view path) {
+std::unique_ptr<workstation::InputFile> OpenOrTell(basGoodsRequest& session, std::string_view path) {
   try {
     return session.services.workstation.OpenForInput(path);
   } catch (const vb::RunTimeError&) {
@@ -44,7 +44,7 @@ std::unique_ptr<controls::InputFile> OpenOrTell(basGoodsRequest& session, std::s
 std::string FileCode(basGoodsRequest& session, std::string_view key, std::string_view path) {
   std::string result;
   Trapped(session, kModuleName, "FileCode ", [&] {
-    const std::unique_ptr<controls::InputFile> file = OpenOrTell(session, path);
+    const std::unique_ptr<workstation::InputFile> file = OpenOrTell(session, path);
     std::optional<std::string> value = ScanForKey(*file, key);
     if (!value) TellCritical(session, std::string(key) + "  invalid parameter in Settings.ini file");
     if (value && !vb::EqualNoCase(*value, kNotFound)) result = std::move(*value);
@@ -54,7 +54,7 @@ std::string FileCode(basGoodsRequest& session, std::string_view key, std::string
 
 std::string QuietFileCode(basGoodsRequest& session, std::string_view key, std::string_view path, std::string_view otherwise) {
   try {
-    const std::unique_ptr<controls::InputFile> file = session.services.workstation.OpenForInput(path);
+    const std::unique_ptr<workstation::InputFile> file = session.services.workstation.OpenForInput(path);
     std::optional<std::string> value = ScanForKey(*file, key);
     if (value && !vb::EqualNoCase(*value, kNotFound)) return std::move(*value);
   } catch (const vb::RunTimeError&) {

@@ -40,13 +40,13 @@ double CostFactor(basGoodsRequest& session) {
 }
 
 struct OpenedOutput {
-  std::unique_ptr<controls::OutputFile> file;
+  std::unique_ptr<workstation::OutputFile> file;
   std::string path;
 };
 
 /// Ordinary users may not write to the root of drive C on every machine: then the same file name in their temporary folder
 /// serves.
-OpenedOutput OpenScreenFile(controls::Workstation& workstation) {
+OpenedOutput OpenScreenFile(workstation::Workstation& workstation) {
   try {
     return {workstation.OpenForOutput(kScreenFile), std::string(kScreenFile)};
   } catch (const vb::RunTimeError&) {
@@ -55,7 +55,7 @@ OpenedOutput OpenScreenFile(controls::Workstation& workstation) {
   }
 }
 
-OpenedOutput OpenOutput(controls::Workstation& workstation, SlipDestination destination, const std::string& port) {
+OpenedOutput OpenOutput(workstation::Workstation& workstation, SlipDestination destination, const std::string& port) {
   if (destination == SlipDestination::Screen) return OpenScreenFile(workstation);
   return {workstation.OpenForOutput(port), port};
 }

@@ -4,14 +4,14 @@
 #include <string>
 #include <string_view>
 
-#include "base/controls/workstation.h"
+#include "base/workstation/workstation.h"
 
 namespace goods {
 
 /// The file or port that a slip is written to, line by line with CR LF.
 class SlipOutput {
  public:
-  explicit SlipOutput(std::unique_ptr<controls::OutputFile> file) : file_(std::move(file)) {}
+  explicit SlipOutput(std::unique_ptr<workstation::OutputFile> file) : file_(std::move(file)) {}
 
   void Line(std::string_view text) {
     file_->Write(pageBreak_ ? "\f" + std::string(text) + "\r\n" : std::string(text) + "\r\n");
@@ -22,7 +22,7 @@ class SlipOutput {
   void Close() { file_->Close(); }
 
  private:
-  std::unique_ptr<controls::OutputFile> file_;
+  std::unique_ptr<workstation::OutputFile> file_;
   bool pageBreak_ = false;
 };
 

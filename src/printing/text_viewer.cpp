@@ -21,7 +21,7 @@ std::string TextViewer(basGoodsRequest& session) {
 }
 
 void ShowTextFile(basGoodsRequest& session, std::string_view viewer, std::string_view file) {
-  controls::Workstation& workstation = session.services.workstation;
+  workstation::Workstation& workstation = session.services.workstation;
   const bool usualFile = file.empty() || vb::EqualNoCase(file, kUsualFile);
   std::string command;
   if (workstation.FileExists(vb::RTrim(viewer))) {

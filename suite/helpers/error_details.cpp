@@ -42,7 +42,7 @@ void ErrorDetails::Note(std::string_view module, std::string_view routine, const
 
 void ErrorDetails::Log(Arguments& arguments) const {
   const std::string line = LineOf(arguments);
-  controls::Workstation& workstation = surroundings_->workstation;
+  workstation::Workstation& workstation = surroundings_->workstation;
   // An application folder that may not be written, or a full disk, must not hide the error itself.
   if (!Append(workstation.ApplicationFolder(), line)) Append(workstation.TempFolder(), line);
 }

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "base/controls/desktop.h"
-#include "base/controls/workstation.h"
 #include "base/late/object.h"
+#include "base/workstation/workstation.h"
 
 namespace suite {
 
@@ -14,7 +14,7 @@ namespace suite {
 /// last handed to one of them (grid settings are asked for without one).
 struct Surroundings {
   controls::Desktop& desktop;
-  controls::Workstation& workstation;
+  workstation::Workstation& workstation;
   late::Factory& factory;  ///< makes recordsets
   std::weak_ptr<late::Object> lastConnection;
   std::set<std::string> refusedTables = {};  ///< own tables that the database user may not create

@@ -8,7 +8,7 @@
 namespace support {
 namespace {
 
-class Reader : public controls::InputFile {
+class Reader : public workstation::InputFile {
  public:
   explicit Reader(std::string text) : text_(std::move(text)) {}
   std::optional<std::string> ReadLine() override {
@@ -25,7 +25,7 @@ class Reader : public controls::InputFile {
   std::size_t position_ = 0;
 };
 
-class Writer : public controls::OutputFile {
+class Writer : public workstation::OutputFile {
  public:
   explicit Writer(std::string& file) : file_(file) {}
   void Write(std::string_view text) override { file_ += text; }
@@ -55,13 +55,13 @@ void TestWorkstation::WriteSettings(const std::map<std::string, std::string>& se
   files["C:\\shop\\ShopSetting.txt"] = text;
 }
 
-std::unique_ptr<controls::InputFile> TestWorkstation::OpenForInput(std::string_view path) {
+std::unique_ptr<workstation::InputFile> TestWorkstation::OpenForInput(std::string_view path) {
   const auto found = files.find(std::string(path));
   if (found == files.end()) vb::Raise(vb::kFileNotFound);
   return std::make_unique<Reader>(found->second);
 }
 
-std::unique_ptr<controls::OutputFile> TestWorkstation::OpenForOutput(std::string_view path) {
+std::unique_ptr<workstation::OutputFile> TestWorkstation::OpenForOutput(std::string_view path) {
   if (path.empty()) vb::Raise(vb::kBadFileName);
   if (refusedPaths.contains(std::string(path))) vb::Raise(vb::kPermissionDenied);
   std::string& file = files[std::string(path)];
@@ -69,7 +69,7 @@ std::unique_ptr<controls::OutputFile> TestWorkstation::OpenForOutput(std::string
   return std::make_unique<Writer>(file);
 }
 
-std::unique_ptr<controls::OutputFile> TestWorkstation::OpenForAppend(std::string_view path) {
+std::unique_ptr<workstation::OutputFile> TestWorkstation::OpenForAppend(std::string_view path) {
   if (refusedPaths.contains(std::string(path))) vb::Raise(vb::kPermissionDenied);
   return std::make_unique<Writer>(files[std::string(path)]);
 }

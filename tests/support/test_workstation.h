@@ -6,13 +6,13 @@
 #include <utility>
 #include <vector>
 
-#include "base/controls/workstation.h"
 #include "base/vb/error.h"
+#include "base/workstation/workstation.h"
 
 namespace support {
 
 /// A machine in memory: a clock that does not run, files by name, programs that are only noted.
-class TestWorkstation : public controls::Workstation {
+class TestWorkstation : public workstation::Workstation {
  public:
   vb::Date now = vb::MakeDate(2024, 3, 15, 10, 30, 5);
   std::string windowsDirectory = "C:\\WINDOWS";
@@ -32,9 +32,9 @@ class TestWorkstation : public controls::Workstation {
   std::string WindowsDirectory() override { return windowsDirectory; }
   std::string TempFolder() override { return "C:\\temp"; }
   bool FileExists(std::string_view path) override { return files.contains(std::string(path)); }
-  std::unique_ptr<controls::InputFile> OpenForInput(std::string_view path) override;
-  std::unique_ptr<controls::OutputFile> OpenForOutput(std::string_view path) override;
-  std::unique_ptr<controls::OutputFile> OpenForAppend(std::string_view path) override;
+  std::unique_ptr<workstation::InputFile> OpenForInput(std::string_view path) override;
+  std::unique_ptr<workstation::OutputFile> OpenForOutput(std::string_view path) override;
+  std::unique_ptr<workstation::OutputFile> OpenForAppend(std::string_view path) override;
   void StartProgram(std::string_view commandLine, int style) override {
     if (!startsPrograms) vb::Raise(vb::kFileNotFound);
     started.emplace_back(commandLine, style);

@@ -6,6 +6,7 @@
 
 #include "base/vb/error.h"
 #include "base/vb/file_error.h"
+#include "base/workstation/printer_port.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_gate.h"
 
@@ -77,7 +78,7 @@ class FileHandle {
   HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
-class Reader : public controls::InputFile {
+class Reader : public workstation::InputFile {
  public:
   explicit Reader(std::string_view path) {
     const FileHandle file(path, GENERIC_READ, OPEN_EXISTING);
@@ -104,7 +105,7 @@ class Reader : public controls::InputFile {
   bool isUtf8_ = false;
 };
 
-class Writer : public controls::OutputFile {
+class Writer : public workstation::OutputFile {
  public:
   Writer(std::string_view path, DWORD disposition)
       : file_(path, disposition == OPEN_ALWAYS ? FILE_APPEND_DATA : GENERIC_WRITE, disposition) {}
@@ -125,12 +126,6 @@ class Writer : public controls::OutputFile {
  private:
   FileHandle file_;
 };
-
-/// A printer port ("LPT1") opens as what it is; making a file of its name is not asked for.
-bool IsPort(std::string_view path) {
-  return path.size() >= 4 && path.size() <= 5 &&
-         (path.starts_with("LPT") || path.starts_with("COM") || path.starts_with("lpt") || path.starts_with("com"));
-}
 
 std::string FolderOfModule() {
   HMODULE module = nullptr;
@@ -172,15 +167,16 @@ bool WindowsWorkstation::FileExists(std::string_view path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-std::unique_ptr<controls::InputFile> WindowsWorkstation::OpenForInput(std::string_view path) {
+std::unique_ptr<workstation::InputFile> WindowsWorkstation::OpenForInput(std::string_view path) {
   return std::make_unique<Reader>(path);
 }
 
-std::unique_ptr<controls::OutputFile> WindowsWorkstation::OpenForOutput(std::string_view path) {
-  return std::make_unique<Writer>(path, IsPort(path) ? OPEN_EXISTING : CREATE_ALWAYS);
+std::unique_ptr<workstation::OutputFile> WindowsWorkstation::OpenForOutput(std::string_view path) {
+  // A printer port opens as what it is; no file of its name is made.
+  return std::make_unique<Writer>(path, workstation::PrinterPort(path).empty() ? CREATE_ALWAYS : OPEN_EXISTING);
 }
 
-std::unique_ptr<controls::OutputFile> WindowsWorkstation::OpenForAppend(std::string_view path) {
+std::unique_ptr<workstation::OutputFile> WindowsWorkstation::OpenForAppend(std::string_view path) {
   return std::make_unique<Writer>(path, OPEN_ALWAYS);
 }
 

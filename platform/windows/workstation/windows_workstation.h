@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "base/controls/workstation.h"
+#include "base/workstation/workstation.h"
 
 namespace windows {
 
 /// This machine: its clock, folders and files. Texts of files are in the system's ANSI character set.
-class WindowsWorkstation : public controls::Workstation {
+class WindowsWorkstation : public workstation::Workstation {
  public:
   /// The application folder without a trailing separator; empty for the folder of the module that this code is part of.
   explicit WindowsWorkstation(std::string applicationFolder = {});
@@ -17,9 +17,9 @@ class WindowsWorkstation : public controls::Workstation {
   std::string WindowsDirectory() override;
   std::string TempFolder() override;
   bool FileExists(std::string_view path) override;
-  std::unique_ptr<controls::InputFile> OpenForInput(std::string_view path) override;
-  std::unique_ptr<controls::OutputFile> OpenForOutput(std::string_view path) override;
-  std::unique_ptr<controls::OutputFile> OpenForAppend(std::string_view path) override;
+  std::unique_ptr<workstation::InputFile> OpenForInput(std::string_view path) override;
+  std::unique_ptr<workstation::OutputFile> OpenForOutput(std::string_view path) override;
+  std::unique_ptr<workstation::OutputFile> OpenForAppend(std::string_view path) override;
   void StartProgram(std::string_view commandLine, int style) override;
 
  private:

@@ -7,7 +7,7 @@
 
 #include "base/vb/date.h"
 
-namespace controls {
+namespace workstation {
 
 /// A text file opened for input. Text comes out as UTF-8, whatever the workstation's character set.
 class InputFile {
@@ -50,4 +50,4 @@ class Workstation {
   virtual void StartProgram(std::string_view commandLine, int style) = 0;
 };
 
-}  // namespace controls
+}  // namespace workstation
