@@ -1,7 +1,10 @@
 #include "base/controls/buttons.h"
 
+#include <algorithm>
+
 #include "base/controls/control_members.h"
 #include "base/controls/form.h"
+#include "base/controls/keys.h"
 
 namespace controls {
 
@@ -9,12 +12,12 @@ using members::MemberList;
 using members::Property;
 
 const std::string& Captioned::Caption() const {
-  Touch();
+  EnsureLoaded();
   return caption_;
 }
 
 void Captioned::SetCaption(std::string_view caption) {
-  Touch();
+  EnsureLoaded();
   if (caption_ == caption) return;
   caption_ = caption;
   Changed(Aspect::Text);
@@ -32,6 +35,10 @@ const Control::LateMember* Captioned::FindMember(std::string_view name) const {
   };
   if (const LateMember* member = list.Find(name)) return member;
   return Control::FindMember(name);
+}
+
+void CommandButton::OnCharacter(int character) {
+  if (character == kKeySpace || character == kCharReturn) Click.Fire();
 }
 
 void CommandButton::Reset() {
@@ -55,17 +62,17 @@ const Control::LateMember* CommandButton::FindMember(std::string_view name) cons
 }
 
 bool OptionButton::Value() const {
-  Touch();
+  EnsureLoaded();
   return value_;
 }
 
 void OptionButton::SetValue(bool value) {
-  Touch();
+  EnsureLoaded();
   if (value_ == value) return;
   value_ = value;
   if (value) {
     for (Control* control : Owner().Controls()) {
-      auto* other = dynamic_cast<OptionButton*>(control);
+      auto* other = As<OptionButton>(control);
       if (!other || other == this || !other->value_ || !other->SharesGroupWith(*this)) continue;
       other->value_ = false;
       other->Changed(Aspect::Selection);
@@ -73,6 +80,26 @@ void OptionButton::SetValue(bool value) {
   }
   Changed(Aspect::Selection);
   if (value) Click.Fire();
+}
+
+/// Arrows move through the options of the group and select.
+void OptionButton::OnKey(int keyCode, int) {
+  const bool back = keyCode == kKeyUp || keyCode == kKeyLeft;
+  if (!back && keyCode != kKeyDown && keyCode != kKeyRight) return;
+  std::vector<OptionButton*> group;
+  for (Control* control : Owner().TabOrder()) {
+    auto* other = As<OptionButton>(control);
+    if (other && other->SharesGroupWith(*this) && other->CanFocus()) group.push_back(other);
+  }
+  if (back) std::reverse(group.begin(), group.end());
+  const auto here = std::find(group.begin(), group.end(), this);
+  if (here == group.end()) return;
+  OptionButton* next = here + 1 == group.end() ? group.front() : *(here + 1);
+  if (Owner().MoveFocus(next)) next->SetValue(true);
+}
+
+void OptionButton::OnCharacter(int character) {
+  if (character == kKeySpace) SetValue(true);
 }
 
 void OptionButton::Reset() {
@@ -90,17 +117,21 @@ const Control::LateMember* OptionButton::FindMember(std::string_view name) const
 }
 
 int CheckBox::Value() const {
-  Touch();
+  EnsureLoaded();
   return value_;
 }
 
 void CheckBox::SetValue(int value) {
-  Touch();
+  EnsureLoaded();
   if (value != 0 && value != 1) vb::Raise(vb::kInvalidPropertyValue);
   if (value_ == value) return;
   value_ = value;
   Changed(Aspect::Selection);
   Click.Fire();
+}
+
+void CheckBox::OnCharacter(int character) {
+  if (character == kKeySpace) SetValue(1 - Value());
 }
 
 void CheckBox::Reset() {

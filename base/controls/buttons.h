@@ -22,12 +22,15 @@ class Captioned : public Control {
 
 class CommandButton : public Captioned {
  public:
-  CommandButton(Form& form, std::string name) : Captioned(form, ControlKind::CommandButton, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::CommandButton;
+  CommandButton(Form& form, std::string name) : Captioned(form, kKind, std::move(name)) {}
   /// Enter anywhere on the form clicks the default button, Esc the cancel button.
   bool IsDefault() const { return default_; }
   void SetDefault(bool isDefault) { default_ = isDefault; }
   bool IsCancel() const { return cancel_; }
   void SetCancel(bool isCancel) { cancel_ = isCancel; }
+  void OnCharacter(int character) override;
+  void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "CommandButton"; }
 
@@ -43,10 +46,15 @@ class CommandButton : public Captioned {
 /// when it was false.
 class OptionButton : public Captioned {
  public:
-  OptionButton(Form& form, std::string name) : Captioned(form, ControlKind::OptionButton, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::OptionButton;
+  OptionButton(Form& form, std::string name) : Captioned(form, kKind, std::move(name)) {}
   bool Value() const;
   void SetValue(bool value);
   bool SharesGroupWith(const OptionButton& other) const { return other.Container() == Container() && other.Page() == Page(); }
+  void OnKey(int keyCode, int shift) override;
+  void OnCharacter(int character) override;
+  void ClickedByPerson() override { SetValue(true); }
+  void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "OptionButton"; }
 
@@ -60,11 +68,15 @@ class OptionButton : public Captioned {
 /// Setting a different value, by code or by a person, fires Click.
 class CheckBox : public Captioned {
  public:
-  CheckBox(Form& form, std::string name) : Captioned(form, ControlKind::CheckBox, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::CheckBox;
+  CheckBox(Form& form, std::string name) : Captioned(form, kKind, std::move(name)) {}
   /// 0 unchecked, 1 checked; other values are error 380.
   int Value() const;
   void SetValue(int value);
   bool IsChecked() const { return Value() == 1; }
+  void OnCharacter(int character) override;
+  void ClickedByPerson() override { SetValue(1 - Value()); }
+  void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "CheckBox"; }
 
@@ -78,21 +90,36 @@ class CheckBox : public Captioned {
 /// Takes no focus itself: its access key moves the focus to the next control in tab order.
 class Label : public Captioned {
  public:
-  Label(Form& form, std::string name) : Captioned(form, ControlKind::Label, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::Label;
+  Label(Form& form, std::string name) : Captioned(form, kKind, std::move(name)) {}
+  void Accept(ControlVisitor& visitor) override;
   std::string TypeName() const override { return "Label"; }
+
+ protected:
+  bool TakesFocus() const override { return false; }
 };
 
 class Frame : public Captioned {
  public:
-  Frame(Form& form, std::string name) : Captioned(form, ControlKind::Frame, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::Frame;
+  Frame(Form& form, std::string name) : Captioned(form, kKind, std::move(name)) {}
+  void Accept(ControlVisitor& visitor) override;
   std::string TypeName() const override { return "Frame"; }
+
+ protected:
+  bool TakesFocus() const override { return false; }
 };
 
 /// A container without a caption.
 class PictureBox : public Control {
  public:
-  PictureBox(Form& form, std::string name) : Control(form, ControlKind::PictureBox, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::PictureBox;
+  PictureBox(Form& form, std::string name) : Control(form, kKind, std::move(name)) {}
+  void Accept(ControlVisitor& visitor) override;
   std::string TypeName() const override { return "PictureBox"; }
+
+ protected:
+  bool TakesFocus() const override { return false; }
 };
 
 }  // namespace controls

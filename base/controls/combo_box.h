@@ -1,16 +1,16 @@
 #pragma once
 
-#include "base/controls/control.h"
-#include "base/controls/edit_history.h"
+#include "base/controls/text_entry.h"
 
 namespace controls {
 
 enum class ComboStyle { DropDown = 0, DropDownList = 2 };
 
 /// Combo box with item data. DropDown lets text be typed; DropDownList only picks.
-class ComboBox : public Control {
+class ComboBox : public TextEntry {
  public:
-  ComboBox(Form& form, std::string name) : Control(form, ControlKind::ComboBox, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::ComboBox;
+  ComboBox(Form& form, std::string name) : TextEntry(form, kKind, std::move(name)) {}
 
   ComboStyle Style() const { return style_; }
   void SetStyle(ComboStyle style) { style_ = style; }
@@ -32,38 +32,29 @@ class ComboBox : public Control {
   std::int32_t ItemData(int index) const;
   void SetItemData(int index, std::int32_t data);
 
-  /// The text shown; for a DropDownList the selected entry's.
-  std::string Text() const;
   /// DropDown: sets the typed text, deselects any entry, fires Change. DropDownList: selects the entry of that text, error 383
   /// when there is none.
-  void SetText(std::string_view text);
-  int SelStart() const;
-  int SelLength() const;
-  void SetSelStart(int start);
-  void SetSelLength(int length);
-  void SelectAll();
+  void SetText(std::string_view text) override;
+  bool IsEditable() const override { return style_ == ComboStyle::DropDown; }
 
-  /// What a person does: picks an entry (fires Click also for the current one), or edits the text of a DropDown.
+  /// What a person does: picks an entry (fires Click also for the current one), or edits the text of a DropDown. An undo that
+  /// brings back the text of the entry picked before brings back the entry.
   void Pick(int index);
-  void TypeOver(std::string_view text);
-  void EraseBack();
-  void EraseForward();
   void TakeEdited(std::string text);
-  /// Takes the last run of edits of a DropDown's text back, and with the text of the entry picked before that entry; then the
-  /// undo itself. Fires Change.
-  bool CanUndo() const;
-  void Undo();
-  void Paste(std::string_view text);
-  /// The next entry that starts with the letter, round and round. False when there is none.
+  /// The next entry that starts with the letter, wrapping around at the end. False when there is none.
   bool PickByLetter(char32_t character);
 
-  Event<> Change;
-
+  void OnKey(int keyCode, int shift) override;
+  void OnCharacter(int character) override;
+  void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "ComboBox"; }
 
  protected:
   const LateMember* FindMember(std::string_view name) const override;
+  void Edit(EditHistory::Edit edit, std::string text, int selStart, int selLength) override;
+  void Restore(EditHistory::State state) override;
+  void ForgetEdits() override;
 
  private:
   struct Entry {
@@ -72,18 +63,12 @@ class ComboBox : public Control {
   };
   const Entry& EntryAt(int index) const;
   void Select(int index);
-  void Edit(EditHistory::Edit edit, std::string text, int caret);
-  void Store(std::string text, int selStart, int selLength);
-  void ForgetEdits();
+  void MoveEntry(int keyCode);
 
   ComboStyle style_ = ComboStyle::DropDown;
   std::vector<Entry> entries_;
   int listIndex_ = -1;
   int newIndex_ = -1;
-  std::string text_;
-  int selStart_ = 0;
-  int selLength_ = 0;
-  EditHistory history_;
   int editedEntry_ = -1;  // the one whose text was typed over
 };
 

@@ -2,7 +2,6 @@
 
 #include "base/controls/control_members.h"
 #include "base/controls/form.h"
-#include "base/controls/tab_control.h"
 #include "base/vb/text.h"
 
 namespace controls {
@@ -22,8 +21,8 @@ late::ObjectPtr Control::AsObject() {
   return {form_.shared_from_this(), this};
 }
 
-void Control::Touch() const {
-  form_.Touch();
+void Control::EnsureLoaded() const {
+  form_.EnsureLoaded();
 }
 
 void Control::Changed(Aspect aspect) {
@@ -36,60 +35,53 @@ void Control::ReachChanged(Aspect aspect) {
 }
 
 void Control::SetEnabled(bool enabled) {
-  Touch();
+  EnsureLoaded();
   if (enabled_ == enabled) return;
   enabled_ = enabled;
   ReachChanged(Aspect::Enabled);
 }
 
 void Control::SetVisible(bool visible) {
-  Touch();
+  EnsureLoaded();
   if (visible_ == visible) return;
   visible_ = visible;
   ReachChanged(Aspect::Visible);
 }
 
 bool Control::IsShown() const {
-  Touch();
-  for (const Control* control = this; control; control = control->container_) {
-    if (!control->visible_) return false;
-    if (const auto* tab = dynamic_cast<const TabControl*>(control->container_)) {
-      if (tab->Tab() != control->page_ || !tab->TabVisible(control->page_)) return false;
-    }
+  EnsureLoaded();
+  for (const Control* control = this; control; control = control->Holder()) {
+    if (!control->visible_ || (control->container_ && !control->container_->ShowsPage(control->page_))) return false;
+  }
+  return true;
+}
+
+bool Control::AcceptsInput() const {
+  EnsureLoaded();
+  for (const Control* control = this; control; control = control->Holder()) {
+    if (!control->enabled_) return false;
   }
   return true;
 }
 
 bool Control::CanFocus() const {
-  switch (kind_) {
-    case ControlKind::Label:
-    case ControlKind::Frame:
-    case ControlKind::PictureBox:
-    case ControlKind::Menu:
-      return false;
-    default:
-      break;
-  }
-  for (const Control* control = this; control; control = control->container_) {
-    if (!control->enabled_) return false;
-  }
-  return IsShown();
+  return TakesFocus() && AcceptsInput() && IsShown();
 }
 
 void Control::SetTag(std::string tag) {
-  Touch();
+  EnsureLoaded();
   tag_ = std::move(tag);
 }
 
 void Control::SetToolTipText(std::string text) {
-  Touch();
+  EnsureLoaded();
   if (toolTip_ == text) return;
   toolTip_ = std::move(text);
   Changed(Aspect::ToolTip);
 }
 
 void Control::Move(int left, int top, int width, int height) {
-  Touch();
+  EnsureLoaded();
   place_ = {left, top, width, height};
   Changed(Aspect::Position);
 }
@@ -108,21 +100,21 @@ void Control::SetHeight(int height) {
 }
 
 void Control::SetForeColor(Color color) {
-  Touch();
+  EnsureLoaded();
   if (foreColor_ == color) return;
   foreColor_ = color;
   Changed(Aspect::Colors);
 }
 
 void Control::SetBackColor(Color color) {
-  Touch();
+  EnsureLoaded();
   if (backColor_ == color) return;
   backColor_ = color;
   Changed(Aspect::Colors);
 }
 
 void Control::SetMousePointer(int pointer) {
-  Touch();
+  EnsureLoaded();
   mousePointer_ = pointer;
 }
 
@@ -149,7 +141,7 @@ char32_t Control::AccessKey() const {
 }
 
 void Control::SetFocus() {
-  Touch();
+  EnsureLoaded();
   if (!CanFocus()) vb::Raise(vb::kInvalidCall);
   form_.RequestFocus(*this);
 }
@@ -186,8 +178,8 @@ late::Value Control::Invoke(std::string_view member, late::Access access, std::s
   const LateMember* found = FindMember(member);
   const bool put = access == late::Access::Put || access == late::Access::PutRef;
   if (!found || (put ? !found->put : !found->get)) late::detail::RaiseUnknownMember(TypeName(), member);
-  late::detail::CheckArgumentCount(TypeName(), member, values.size() - (put && !values.empty() ? 1 : 0), found->least,
-                                   found->most);
+  late::detail::CheckArgumentCount(TypeName(), member, values.size() - (put && !values.empty() ? 1 : 0), found->minArguments,
+                                   found->maxArguments);
   late::Arguments arguments(values);
   if (!put) return found->get(*this, arguments);
   found->put(*this, arguments);

@@ -13,8 +13,8 @@
 
 namespace controls {
 
+class ControlVisitor;
 class Form;
-class TabControl;
 
 enum class ControlKind {
   TextBox,
@@ -37,7 +37,7 @@ enum class Aspect { Text, Enabled, Visible, Position, Items, Selection, Colors, 
 /// What sticks to the form's edges when a resizable form grows.
 enum Anchor { kAnchorLeft = 1, kAnchorTop = 2, kAnchorRight = 4, kAnchorBottom = 8 };
 
-/// A position in twips (1440 an inch), relative to the container.
+/// A position in twips (1440 per inch), relative to the container.
 struct Position {
   int left = 0, top = 0, width = 0, height = 0;
 };
@@ -57,20 +57,22 @@ class Control : public late::Object {
   /// This control as a late-bound object that shares the form's ownership (the form is held by a shared_ptr).
   late::ObjectPtr AsObject();
 
-  bool Enabled() const { return Touched().enabled_; }
+  bool Enabled() const { return Loaded().enabled_; }
   void SetEnabled(bool enabled);
   /// The property itself; see IsShown for what a person sees.
-  bool Visible() const { return Touched().visible_; }
+  bool Visible() const { return Loaded().visible_; }
   void SetVisible(bool visible);
-  /// Visible with all its containers, on the current page of its tab.
+  /// Visible with all its containers, on the current page of its tab; a menu's entry with the menus above it.
   bool IsShown() const;
+  /// Enabled with all its containers; a menu's entry with the menus above it.
+  bool AcceptsInput() const;
   /// Shown, enabled with all its containers, and of a kind that takes the focus.
   bool CanFocus() const;
-  const std::string& Tag() const { return Touched().tag_; }
+  const std::string& Tag() const { return Loaded().tag_; }
   void SetTag(std::string tag);
-  const std::string& ToolTipText() const { return Touched().toolTip_; }
+  const std::string& ToolTipText() const { return Loaded().toolTip_; }
   void SetToolTipText(std::string text);
-  const Position& Place() const { return Touched().place_; }
+  const Position& Place() const { return Loaded().place_; }
   void Move(int left, int top, int width, int height);
   void SetLeft(int left);
   void SetTop(int top);
@@ -78,16 +80,16 @@ class Control : public late::Object {
   void SetHeight(int height);
   int Anchors() const { return anchors_; }
   void SetAnchors(int anchors) { anchors_ = anchors; }
-  int TabIndex() const { return Touched().tabIndex_; }
+  int TabIndex() const { return Loaded().tabIndex_; }
   void SetTabIndex(int index) { tabIndex_ = index; }
-  bool TabStop() const { return Touched().tabStop_; }
+  bool TabStop() const { return Loaded().tabStop_; }
   void SetTabStop(bool stop) { tabStop_ = stop; }
-  Color ForeColor() const { return Touched().foreColor_; }
+  Color ForeColor() const { return Loaded().foreColor_; }
   void SetForeColor(Color color);
-  Color BackColor() const { return Touched().backColor_; }
+  Color BackColor() const { return Loaded().backColor_; }
   void SetBackColor(Color color);
   /// 0 default, 11 hourglass.
-  int MousePointer() const { return Touched().mousePointer_; }
+  int MousePointer() const { return Loaded().mousePointer_; }
   void SetMousePointer(int pointer);
   bool CausesValidation() const { return causesValidation_; }
   void SetCausesValidation(bool causes) { causesValidation_ = causes; }
@@ -114,9 +116,17 @@ class Control : public late::Object {
   Event<int&, int> KeyDown;  ///< key code (0 swallows the key), shift state
   Event<int&> KeyPress;      ///< character (0 swallows it)
   Event<int&, int> KeyUp;
-  Event<int, int> MouseDown;  ///< button, shift state
-  Event<int, int> MouseUp;
+  Event<MouseButton, int> MouseDown;  ///< button, shift state
+  Event<MouseButton, int> MouseUp;
   Event<> MouseMove;
+
+  // What the control does by itself with a person's key, character or click, once the handlers let them pass.
+  virtual void OnKey(int /*keyCode*/, int /*shift*/) {}
+  virtual void OnCharacter(int /*character*/) {}
+  virtual void ClickedByPerson() { Click.Fire(); }
+
+  /// Calls the visitor's function for this kind of control.
+  virtual void Accept(ControlVisitor& visitor) = 0;
 
   // Late-bound face.
   late::Value Invoke(std::string_view member, late::Access access, std::span<late::Value> arguments) override;
@@ -127,8 +137,13 @@ class Control : public late::Object {
   virtual void Reset();
 
  protected:
+  virtual bool TakesFocus() const { return true; }
+  /// What hides and disables this control with itself; null for the form.
+  virtual const Control* Holder() const { return container_; }
+  /// Whether a control it holds on that page can be seen.
+  virtual bool ShowsPage(int) const { return true; }
   /// Loads the form on first touch.
-  void Touch() const;
+  void EnsureLoaded() const;
   void Changed(Aspect aspect);
   /// The same for a change that may have taken the focus away from where it is.
   void ReachChanged(Aspect aspect);
@@ -137,15 +152,15 @@ class Control : public late::Object {
     std::string_view name;
     std::function<late::Value(Control&, late::Arguments&)> get;
     std::function<void(Control&, late::Arguments&)> put;
-    int least = 0;  ///< arguments that must be there (the value put not counted)
-    int most = 0;   ///< arguments that may be there
+    int minArguments = 0;  ///< arguments that must be there (the value put not counted)
+    int maxArguments = 0;  ///< arguments that may be there
   };
   virtual const LateMember* FindMember(std::string_view name) const;
 
  private:
   friend class Form;
-  const Control& Touched() const {
-    Touch();
+  const Control& Loaded() const {
+    EnsureLoaded();
     return *this;
   }
 
@@ -168,5 +183,15 @@ class Control : public late::Object {
   Control* container_ = nullptr;
   int page_ = 0;
 };
+
+/// The control as its own kind; null for null and for a control of another kind.
+template <class Kind>
+Kind* As(Control* control) {
+  return control && control->Kind() == Kind::kKind ? static_cast<Kind*>(control) : nullptr;
+}
+template <class Kind>
+const Kind* As(const Control* control) {
+  return control && control->Kind() == Kind::kKind ? static_cast<const Kind*>(control) : nullptr;
+}
 
 }  // namespace controls

@@ -101,7 +101,7 @@ class MemberList {
   MemberList(std::initializer_list<late::Member<T>> members) {
     for (const late::Member<T>& member : members) {
       index_.Add(member.name, entries_.size());
-      Late entry{member.name, {}, {}, member.least, member.most};
+      Late entry{member.name, {}, {}, member.minArguments, member.maxArguments};
       if (member.get) {
         entry.get = [get = member.get](Control& self, late::Arguments& arguments) {
           return get(static_cast<T&>(self), arguments);

@@ -12,7 +12,6 @@ class Event {
   using Handler = std::function<void(A...)>;
 
   void Wire(Handler handler) { handler_ = std::move(handler); }
-  bool IsWired() const { return static_cast<bool>(handler_); }
   void Fire(A... arguments) const {
     if (handler_) handler_(arguments...);
   }

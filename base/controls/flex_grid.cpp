@@ -34,12 +34,12 @@ void FlexGrid::ItemsChanged() {
 }
 
 long FlexGrid::Rows() const {
-  Touch();
+  EnsureLoaded();
   return static_cast<long>(rows_.size());
 }
 
 long FlexGrid::Cols() const {
-  Touch();
+  EnsureLoaded();
   return static_cast<long>(columns_.size());
 }
 
@@ -54,7 +54,7 @@ void FlexGrid::SetRows(long rows) {
 
 void FlexGrid::SetCols(long cols) {
   if (cols < 0) RaiseCol();
-  Touch();
+  EnsureLoaded();
   inOrderBy_ = kUnknown;
   columns_.resize(At(cols));
   for (GridRow& row : rows_) {
@@ -67,7 +67,7 @@ void FlexGrid::SetCols(long cols) {
 }
 
 long FlexGrid::FixedRows() const {
-  Touch();
+  EnsureLoaded();
   return fixedRows_;
 }
 
@@ -81,7 +81,7 @@ void FlexGrid::SetFixedRows(long rows) {
 }
 
 long FlexGrid::FixedCols() const {
-  Touch();
+  EnsureLoaded();
   return fixedCols_;
 }
 
@@ -93,12 +93,12 @@ void FlexGrid::SetFixedCols(long cols) {
 }
 
 long FlexGrid::Row() const {
-  Touch();
+  EnsureLoaded();
   return row_;
 }
 
 long FlexGrid::Col() const {
-  Touch();
+  EnsureLoaded();
   return col_;
 }
 
@@ -144,13 +144,18 @@ void FlexGrid::CurrentIntoData(bool hadNone) {
 }
 
 long FlexGrid::RowSel() const {
-  Touch();
+  EnsureLoaded();
   return rowSel_;
 }
 
 long FlexGrid::ColSel() const {
-  Touch();
+  EnsureLoaded();
   return colSel_;
+}
+
+FlexGrid::RowRange FlexGrid::SelectedRows() const {
+  const auto [first, last] = std::minmax({Row(), rowSel_});
+  return {first, last};
 }
 
 void FlexGrid::SetRowSel(long row) {
@@ -164,7 +169,7 @@ void FlexGrid::SetColSel(long col) {
 }
 
 long FlexGrid::TopRow() const {
-  Touch();
+  EnsureLoaded();
   return topRow_;
 }
 
@@ -228,7 +233,7 @@ void FlexGrid::AppendRow(std::vector<std::string>&& cells) {
 }
 
 void FlexGrid::ReserveRows(long rows) {
-  Touch();
+  EnsureLoaded();
   rows_.reserve(At(std::max(0L, rows)));
 }
 
@@ -241,14 +246,14 @@ void FlexGrid::RemoveItem(long row) {
 }
 
 void FlexGrid::Clear() {
-  Touch();
+  EnsureLoaded();
   for (GridRow& row : rows_) row = GridRow();
   sortedCol_ = -1;
   ItemsChanged();
 }
 
 std::string FlexGrid::Clip() const {
-  Touch();
+  EnsureLoaded();
   std::string clip;
   const auto [left, right] = std::minmax(col_, colSel_);
   const auto [top, bottom] = std::minmax(row_, rowSel_);
@@ -263,7 +268,7 @@ std::string FlexGrid::Clip() const {
 }
 
 void FlexGrid::SetClip(std::string_view text) {
-  Touch();
+  EnsureLoaded();
   if (text.empty()) return;
   const long left = std::min(col_, colSel_);
   const long right = std::max(col_, colSel_);

@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "base/controls/alignment.h"
 #include "base/controls/control.h"
 
 namespace controls {
@@ -18,14 +19,13 @@ enum class GridSort {
   TextDescending = 8,
 };
 
-enum class GridAlignment { Left = 1, Center = 4, Right = 7 };
-
 /// Hierarchical flex grid. Rows and columns count from 0, row 0 being the heading row. A bad row is error 30009, a bad column
 /// 30010, a bad subscript of TextMatrix and the like 381. Made for a hundred thousand rows: cells are plain strings, colours are
 /// kept only for the rows that have any.
 class FlexGrid : public Control {
  public:
-  FlexGrid(Form& form, std::string name) : Control(form, ControlKind::FlexGrid, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::FlexGrid;
+  FlexGrid(Form& form, std::string name) : Control(form, kKind, std::move(name)) {}
 
   long Rows() const;
   long Cols() const;
@@ -44,6 +44,12 @@ class FlexGrid : public Control {
   void SetCol(long col);
   long RowSel() const;
   long ColSel() const;
+  /// The rows from Row to RowSel, from top to bottom.
+  struct RowRange {
+    long first = 0, last = 0;
+    bool Has(long row) const { return row >= first && row <= last; }
+  };
+  RowRange SelectedRows() const;
   void SetRowSel(long row);
   void SetColSel(long col);
   long TopRow() const;
@@ -54,7 +60,7 @@ class FlexGrid : public Control {
   void SetTextMatrix(long row, long col, std::string_view text);
   const std::string& Text() const;  ///< of the current cell
   void SetText(std::string_view text);
-  /// Tab-separated cells; at `index`, or behind the last row (-1).
+  /// Tab-separated cells; at `index`, or after the last row (-1).
   void AddItem(std::string_view tabSeparated, long index = -1);
   /// Appends one row, taking its cells over; columns grow when there are more cells than columns. The fast way to fill.
   void AppendRow(std::vector<std::string>&& cells);
@@ -86,7 +92,7 @@ class FlexGrid : public Control {
   /// Sorts whole rows (with their colours) by the columns Col..ColSel from left to right: the rows Row..RowSel, or all but the
   /// fixed ones when those are equal. Stable. The current cell keeps its place (row number).
   void Sort(GridSort kind);
-  /// Whether the rows below the fixed ones stand in the generic ascending order of a column: two numbers by value, anything else
+  /// Whether the rows below the fixed ones are in the generic ascending order of a column: two numbers by value, anything else
   /// as text without regard to case. A list found in order is not looked at again before it changes.
   bool IsInOrder(long col) const;
   /// The selected range as text, tabs between cells and CR between rows; setting it fills the range, extra cells stay, extra text
@@ -122,6 +128,8 @@ class FlexGrid : public Control {
   Event<> SelChange;
   Event<long> HeadingClick;  ///< the column
 
+  void OnKey(int keyCode, int shift) override { NavigationKey(keyCode, shift); }
+  void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "MSHFlexGrid"; }
 
@@ -141,9 +149,6 @@ class FlexGrid : public Control {
   struct GridColumn {
     int width = -1;
     GridAlignment alignment = GridAlignment::Left;
-  };
-  struct RowRange {
-    long first = 0, last = 0;
   };
   static constexpr long kUnknown = -1;
   void ItemsChanged();

@@ -35,7 +35,7 @@ std::size_t At(long index) {
 }  // namespace
 
 void FlexGrid::SetFormatString(std::string_view format) {
-  Touch();
+  EnsureLoaded();
   formatString_ = format;
   if (format.empty()) return;
   const std::vector<std::string> parts = vb::Split(format, "|");
@@ -144,22 +144,22 @@ void FlexGrid::SetCellBackColor(long row, long col, Color color) {
 }
 
 Color FlexGrid::BackColorSel() const {
-  Touch();
+  EnsureLoaded();
   return backColorSel_;
 }
 
 void FlexGrid::SetBackColorSel(Color color) {
-  Touch();
+  EnsureLoaded();
   if (std::exchange(backColorSel_, color) != color) Changed(Aspect::Selection);
 }
 
 Color FlexGrid::ForeColorSel() const {
-  Touch();
+  EnsureLoaded();
   return foreColorSel_;
 }
 
 void FlexGrid::SetForeColorSel(Color color) {
-  Touch();
+  EnsureLoaded();
   if (std::exchange(foreColorSel_, color) != color) Changed(Aspect::Selection);
 }
 

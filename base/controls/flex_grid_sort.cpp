@@ -224,7 +224,7 @@ bool FlexGrid::IsInOrder(long col) const {
 }
 
 void FlexGrid::Sort(GridSort kind) {
-  Touch();
+  EnsureLoaded();
   if (kind == GridSort::None) return;
   if (kind < GridSort::None || kind > GridSort::TextDescending) vb::Raise(vb::kInvalidPropertyValue);
   const auto [first, last] = SortedRows();

@@ -30,7 +30,7 @@ void Form::Forget(Control& control) {
   if (requestedFocus_ == &control) requestedFocus_ = nullptr;
 }
 
-void Form::Touch() const {
+void Form::EnsureLoaded() const {
   // An object that no shared_ptr owns is being made or destroyed: nothing to load then.
   if (state_ != State::Unloaded || weak_from_this().expired()) return;
   const_cast<Form*>(this)->Load();
@@ -66,14 +66,14 @@ void Form::Show(Form* owner) {
 }
 
 bool Form::Unload() {
-  return CloseWith(1);
+  return CloseWith(kClosedByCode);
 }
 
 bool Form::CloseByUser() {
-  return CloseWith(0);
+  return CloseWith(kClosedByUser);
 }
 
-bool Form::CloseWith(int mode) {
+bool Form::CloseWith(UnloadMode mode) {
   if (!IsLoaded()) return true;
   if (closing_) return false;
   const auto keep = weak_from_this().lock();
@@ -100,12 +100,12 @@ void Form::BecomeUnloaded() {
 }
 
 const std::string& Form::Caption() const {
-  Touch();
+  EnsureLoaded();
   return caption_;
 }
 
 void Form::SetCaption(std::string_view caption) {
-  Touch();
+  EnsureLoaded();
   if (caption_ == caption) return;
   caption_ = caption;
   if (shown_) desktop_.FormChanged(*this);
@@ -118,12 +118,12 @@ void Form::SetSize(int width, int height) {
 }
 
 Color Form::BackColor() const {
-  Touch();
+  EnsureLoaded();
   return backColor_;
 }
 
 void Form::SetBackColor(Color color) {
-  Touch();
+  EnsureLoaded();
   if (backColor_ == color) return;
   backColor_ = color;
   if (shown_) desktop_.FormChanged(*this);
@@ -151,7 +151,7 @@ std::vector<Control*> Form::TabOrder() const {
 
 CommandButton* Form::DefaultButton() const {
   for (Control* control : controls_) {
-    auto* button = dynamic_cast<CommandButton*>(control);
+    auto* button = As<CommandButton>(control);
     if (button && button->IsDefault() && button->CanFocus()) return button;
   }
   return nullptr;
@@ -159,7 +159,7 @@ CommandButton* Form::DefaultButton() const {
 
 CommandButton* Form::CancelButton() const {
   for (Control* control : controls_) {
-    auto* button = dynamic_cast<CommandButton*>(control);
+    auto* button = As<CommandButton>(control);
     if (button && button->IsCancel() && button->CanFocus()) return button;
   }
   return nullptr;

@@ -16,6 +16,9 @@ namespace controls {
 class CommandButton;
 class Menu;
 
+/// Why a form is about to be unloaded.
+enum UnloadMode { kClosedByUser = 0, kClosedByCode = 1 };
+
 /// A modal form: a named set of controls with a life of its own. Lives in a shared_ptr; the object outlives its unloading and is
 /// reused: loading gives the controls their design-time state, the class's other fields keep their values. Knows no window: a
 /// Desktop shows it.
@@ -29,7 +32,7 @@ class Form : public late::Object {
   const std::string& Name() const { return name_; }
   controls::Desktop& Desktop() const { return desktop_; }
 
-  /// Loads unless it is loaded: controls reset, Design, the Load handler. Not shown by it.
+  /// Loads unless it is loaded: controls reset, Design, the Load handler. Does not show the form.
   void Load();
   bool IsLoaded() const { return state_ != State::Unloaded; }
   bool IsShown() const { return shown_; }
@@ -37,7 +40,7 @@ class Form : public late::Object {
   void Show(Form* owner = nullptr);
   /// Asks QueryUnload, which may keep it open, then unloads. Whether it is unloaded now (also when it was not loaded).
   bool Unload();
-  /// The title bar's close; the same as Unload, but QueryUnload is told (mode 0 by the user, 1 from code).
+  /// The title bar's close; the same as Unload, but QueryUnload gets kClosedByUser.
   bool CloseByUser();
 
   const std::string& Caption() const;
@@ -71,7 +74,7 @@ class Form : public late::Object {
   /// Moves the focus: validates and leaves the control that has it, enters `control` (null: nobody). False when validation kept
   /// it.
   bool MoveFocus(Control* control);
-  /// The next (previous) control that can take the focus, round and round; null when none can.
+  /// The next (previous) control that can take the focus, wrapping around at the end; null when none can.
   Control* NextInTabOrder(const Control* from, bool backwards = false) const;
   void FocusNext();
   /// The same as the Tab key goes: a group of options is one stop, its chosen option, the first where none is chosen.
@@ -93,9 +96,9 @@ class Form : public late::Object {
   /// Shows the menu's entries where the mouse is and fires Click of the one chosen; returns it, or null.
   Menu* PopupMenu(Menu& menu);
 
-  Event<> Loading;                ///< the form's load handler
-  Event<> Activated;              ///< shown, or the focus came back from another form of the component
-  Event<bool&, int> QueryUnload;  ///< set true to stay open; 0 by the user, 1 from code
+  Event<> Loading;                       ///< the form's load handler
+  Event<> Activated;                     ///< shown, or the focus came back from another form of the component
+  Event<bool&, UnloadMode> QueryUnload;  ///< set true to stay open
   Event<> Unloading;
   Event<int&, int> KeyDown;  ///< with key preview, before the control
   Event<int&> KeyPress;
@@ -147,7 +150,7 @@ class Form : public late::Object {
   void Register(Control& control);
   void Forget(Control& control);
   /// Loads an unloaded form whose property or control is touched; not while the object is being made or destroyed.
-  void Touch() const;
+  void EnsureLoaded() const;
   bool IsActive() const;
   /// SetFocus from code: at once on the active form, otherwise when the form becomes active.
   void RequestFocus(Control& control);
@@ -156,7 +159,7 @@ class Form : public late::Object {
   Control* FirstAfter(const Control* from, bool backwards, const std::function<bool(const Control&)>& suits) const;
   bool Leave(Control& left, Control* entered, unsigned move);
   void Enter(Control* control);
-  bool CloseWith(int mode);
+  bool CloseWith(UnloadMode mode);
   void BecomeUnloaded();
 
   controls::Desktop& desktop_;

@@ -19,7 +19,7 @@ bool IsStop(const Control& control) {
 bool IsStopOfGroup(const OptionButton& option, const std::vector<Control*>& order) {
   const OptionButton* stop = nullptr;
   for (const Control* control : order) {
-    const auto* other = dynamic_cast<const OptionButton*>(control);
+    const auto* other = As<OptionButton>(control);
     if (!other || !IsStop(*other) || !other->SharesGroupWith(option)) continue;
     if (!stop || other->Value()) stop = other;
   }
@@ -90,9 +90,9 @@ Control* Form::NextInTabOrder(const Control* from, bool backwards) const {
 }
 
 Control* Form::NextTabStop(const Control* from, bool backwards) const {
-  const auto* left = dynamic_cast<const OptionButton*>(from);
+  const auto* left = As<OptionButton>(from);
   return FirstAfter(from, backwards, [&](const Control& control) {
-    const auto* option = dynamic_cast<const OptionButton*>(&control);
+    const auto* option = As<OptionButton>(&control);
     if (!option || !IsStop(control)) return IsStop(control);
     return !(left && left->SharesGroupWith(*option)) && IsStopOfGroup(*option, TabOrder());
   });
@@ -133,7 +133,7 @@ bool Form::TakePendingTab() {
 
 Control* Form::FindAccessKey(char32_t upperCaseKey) const {
   std::vector<Control*> order = TabOrder();
-  // The search starts behind the focus, so that a key that several controls share goes round among them.
+  // The search starts after the focus, so that a key that several controls share goes round among them.
   const auto start = std::find(order.begin(), order.end(), activeControl_);
   if (start != order.end()) std::rotate(order.begin(), start + 1, order.end());
   for (Control* control : order) {

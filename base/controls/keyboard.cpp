@@ -1,14 +1,7 @@
 #include "base/controls/keyboard.h"
 
-#include <algorithm>
-#include <array>
-
 #include "base/controls/buttons.h"
-#include "base/controls/combo_box.h"
-#include "base/controls/flex_grid.h"
-#include "base/controls/list_view.h"
 #include "base/controls/tab_control.h"
-#include "base/controls/text_box.h"
 #include "base/vb/text.h"
 
 namespace controls {
@@ -37,159 +30,19 @@ bool FireKeyPress(Form& form, int& character) {
   return character != 0 && IsActive(form);
 }
 
-/// Arrows move through the options of a group and select.
-bool MoveOption(OptionButton& option, int keyCode) {
-  const bool back = keyCode == kKeyUp || keyCode == kKeyLeft;
-  if (!back && keyCode != kKeyDown && keyCode != kKeyRight) return false;
-  std::vector<OptionButton*> group;
-  for (Control* control : option.Owner().TabOrder()) {
-    auto* other = dynamic_cast<OptionButton*>(control);
-    if (other && other->SharesGroupWith(option) && other->CanFocus()) group.push_back(other);
-  }
-  if (back) std::reverse(group.begin(), group.end());
-  const auto here = std::find(group.begin(), group.end(), &option);
-  if (here == group.end()) return true;
-  OptionButton* next = here + 1 == group.end() ? group.front() : *(here + 1);
-  if (option.Owner().MoveFocus(next)) next->SetValue(true);
-  return true;
-}
-
-void MoveComboEntry(ComboBox& combo, int keyCode) {
-  const int count = combo.ListCount();
-  if (count == 0) return;
-  int target = combo.ListIndex();
-  // Home and End belong to the typed text where there is one.
-  const bool list = combo.Style() == ComboStyle::DropDownList;
-  switch (keyCode) {
-    case kKeyUp:
-      target -= 1;
-      break;
-    case kKeyDown:
-      target += 1;
-      break;
-    case kKeyHome:
-      if (!list) return;
-      target = 0;
-      break;
-    case kKeyEnd:
-      if (!list) return;
-      target = count - 1;
-      break;
-    default:
-      return;
-  }
-  target = std::clamp(target, 0, count - 1);
-  if (target != combo.ListIndex()) combo.Pick(target);
-}
-
-/// Left, Right, Home and End in typed text; with Shift they select.
-void MoveCaret(TextBox& box, int keyCode, int shift) {
-  const int length = static_cast<int>(vb::Len(box.Text()));
-  const int start = box.SelStart();
-  const int end = start + box.SelLength();
-  const bool extend = (shift & kShift) != 0;
-  switch (keyCode) {
-    case kKeyLeft:
-      // A selection made by keys grows and shrinks at its end; without Shift it collapses to its start.
-      if (extend) return box.SetSelLength(std::max(0, end - start - 1));
-      return box.SetSelStart(end > start ? start : std::max(0, start - 1));
-    case kKeyRight:
-      if (extend) return box.SetSelLength(end - start + 1);
-      return box.SetSelStart(end > start ? end : start + 1);
-    case kKeyHome:
-      box.SetSelStart(0);
-      if (extend) box.SetSelLength(start);
-      return;
-    case kKeyEnd:
-      if (extend) return box.SetSelLength(length - start);
-      return box.SetSelStart(length);
-    default:
-      return;
-  }
-}
-
-/// What a control does with a key by itself, before any character.
-void ActOnKey(Control& control, int keyCode, int shift) {
-  if (auto* box = dynamic_cast<TextBox*>(&control)) {
-    if (keyCode == kKeyDelete) return box->EraseForward();
-    return MoveCaret(*box, keyCode, shift);
-  }
-  if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
-    if (keyCode == kKeyDelete) return combo->EraseForward();
-    return MoveComboEntry(*combo, keyCode);
-  }
-  if (auto* option = dynamic_cast<OptionButton*>(&control)) {
-    MoveOption(*option, keyCode);
-  } else if (auto* list = dynamic_cast<ListView*>(&control)) {
-    list->NavigationKey(keyCode);
-  } else if (auto* grid = dynamic_cast<FlexGrid*>(&control)) {
-    grid->NavigationKey(keyCode, shift);
-  } else if (auto* tab = dynamic_cast<TabControl*>(&control)) {
-    const int step = keyCode == kKeyLeft ? -1 : keyCode == kKeyRight ? 1 : 0;
-    for (int page = tab->Tab() + step; step != 0 && page >= 0 && page < tab->Tabs(); page += step) {
-      if (tab->TabVisible(page)) return tab->SetTab(page);
-    }
-  }
-}
-
-void TypeInto(TextBox& box, int character) {
-  if (character == kCharCtrlZ) return box.Undo();
-  if (character == kCharBack) return box.EraseBack();
-  if (character == kCharReturn || character == kCharLineFeed) {
-    if (box.MultiLine()) box.TypeOver("\r\n");
-    return;
-  }
-  if (character < ' ') return;
-  std::string typed;
-  vb::AppendCharacter(typed, static_cast<char32_t>(character));
-  box.TypeOver(typed);
-}
-
-void TypeInto(ComboBox& combo, int character) {
-  if (combo.Style() == ComboStyle::DropDownList) {
-    if (character >= ' ') combo.PickByLetter(static_cast<char32_t>(character));
-    return;
-  }
-  if (character == kCharCtrlZ) return combo.Undo();
-  if (character == kCharBack) return combo.EraseBack();
-  if (character < ' ') return;
-  std::string typed;
-  vb::AppendCharacter(typed, static_cast<char32_t>(character));
-  combo.TypeOver(typed);
-}
-
-/// What a control does with a character that the handlers let pass, possibly changed.
-void ActOnCharacter(Control& control, int character) {
-  if (auto* box = dynamic_cast<TextBox*>(&control)) {
-    TypeInto(*box, character);
-  } else if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
-    TypeInto(*combo, character);
-  } else if (auto* button = dynamic_cast<CommandButton*>(&control)) {
-    if (character == kKeySpace || character == kCharReturn) button->Click.Fire();
-  } else if (character != kKeySpace) {
-    return;
-  } else if (auto* check = dynamic_cast<CheckBox*>(&control)) {
-    check->SetValue(1 - check->Value());
-  } else if (auto* option = dynamic_cast<OptionButton*>(&control)) {
-    option->SetValue(true);
-  } else if (auto* list = dynamic_cast<ListView*>(&control)) {
-    if (const int line = list->SelectedItem(); list->CheckBoxes() && line > 0) list->CheckItem(line, !list->Item(line).Checked());
-  }
-}
-
 /// The pages that Ctrl+Tab turns: those around the focus, else the form's first ones. Null when there are none.
 TabControl* PagesToTurn(const Form& form) {
   for (Control* control = form.ActiveControl(); control; control = control->Container()) {
-    if (auto* tab = dynamic_cast<TabControl*>(control)) return tab;
+    if (auto* tab = As<TabControl>(control)) return tab;
   }
   for (Control* control : form.TabOrder()) {
-    auto* tab = dynamic_cast<TabControl*>(control);
+    auto* tab = As<TabControl>(control);
     if (tab && tab->CanFocus()) return tab;
   }
   return nullptr;
 }
 
-/// The page after (before) the current one that can be seen, round and round; the current one when it is the only one.
+/// The page after (before) the current one that can be seen, wrapping around; the current one when it is the only one.
 int NextPage(const TabControl& tab, bool backwards) {
   const int step = backwards ? tab.Tabs() - 1 : 1;
   int page = tab.Tab();
@@ -227,7 +80,7 @@ bool ActAsDialogKey(Form& form, const KeyStroke& key) {
   if (key.keyCode == kKeyReturn) {
     CommandButton* button = form.DefaultButton();
     if (!button) return false;
-    if (auto* focused = dynamic_cast<CommandButton*>(form.ActiveControl())) button = focused;
+    if (auto* focused = As<CommandButton>(form.ActiveControl())) button = focused;
     button->Click.Fire();
     return true;
   }
@@ -247,7 +100,7 @@ void HandleDownAndPress(Form& form, const KeyStroke& key) {
     if (!FireKey(
             form, code, key.shift, [](auto& target) -> auto& { return target.KeyDown; }))
       return;
-    if ((key.shift & kAlt) == 0 && form.ActiveControl()) ActOnKey(*form.ActiveControl(), code, key.shift);
+    if ((key.shift & kAlt) == 0 && form.ActiveControl()) form.ActiveControl()->OnKey(code, key.shift);
     if (!IsActive(form)) return;
   }
   if ((key.shift & kAlt) != 0) {
@@ -256,7 +109,7 @@ void HandleDownAndPress(Form& form, const KeyStroke& key) {
   }
   if (key.character == 0) return;
   int character = static_cast<int>(key.character);
-  if (FireKeyPress(form, character) && form.ActiveControl()) ActOnCharacter(*form.ActiveControl(), character);
+  if (FireKeyPress(form, character) && form.ActiveControl()) form.ActiveControl()->OnCharacter(character);
 }
 
 bool HasAccessKey(const std::string& caption, char32_t key) {
@@ -271,7 +124,7 @@ bool HasAccessKey(const std::string& caption, char32_t key) {
 /// Switches to the page whose caption has the access key.
 bool SwitchPage(Form& form, char32_t key) {
   for (Control* control : form.Controls()) {
-    auto* tab = dynamic_cast<TabControl*>(control);
+    auto* tab = As<TabControl>(control);
     if (!tab || !tab->CanFocus()) continue;
     for (int page = 0; page < tab->Tabs(); ++page) {
       if (!tab->TabVisible(page) || !HasAccessKey(tab->TabCaption(page), key)) continue;
@@ -332,14 +185,16 @@ void ClickControl(Control& control) {
   if (control.CanFocus() && !form.MoveFocus(&control)) return;
   control.MouseDown.Fire(kLeftButton, 0);
   if (!IsActive(form)) return;
-  if (auto* option = dynamic_cast<OptionButton*>(&control)) {
-    option->SetValue(true);
-  } else if (auto* check = dynamic_cast<CheckBox*>(&control)) {
-    check->SetValue(1 - check->Value());
-  } else {
-    control.Click.Fire();
-  }
+  control.ClickedByPerson();
   if (IsActive(form)) control.MouseUp.Fire(kLeftButton, 0);
+}
+
+void RightClickControl(Control& control, int shift) {
+  Form& form = control.Owner();
+  const auto keep = form.weak_from_this().lock();
+  if (control.CanFocus() && !control.HasFocus() && !form.MoveFocus(&control)) return;
+  control.MouseDown.Fire(kRightButton, shift);
+  if (form.IsShown()) control.MouseUp.Fire(kRightButton, shift);
 }
 
 }  // namespace controls

@@ -32,4 +32,7 @@ bool PressAccessKey(Form& form, char32_t upperCaseKey);
 /// For buttons, options and check boxes; lists and grids have ClickItem and ClickCell.
 void ClickControl(Control& control);
 
+/// The right button on a control: focus first (unless validation keeps it), then its mouse events, which may open a menu.
+void RightClickControl(Control& control, int shift = 0);
+
 }  // namespace controls

@@ -41,7 +41,7 @@ enum Character {
 /// Shift states, added up.
 enum ShiftState { kShift = 1, kCtrl = 2, kAlt = 4 };
 
-/// Mouse buttons.
+/// Buttons of MouseDown and MouseUp.
 enum MouseButton { kLeftButton = 1, kRightButton = 2 };
 
 }  // namespace controls

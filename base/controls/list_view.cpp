@@ -76,13 +76,13 @@ void ListView::CheckColumn(int index) const {
 }
 
 void ListView::AddColumn(std::string_view text, int width, ColumnAlignment alignment) {
-  Touch();
+  EnsureLoaded();
   columns_.push_back({std::string(text), width, alignment});
   Changed(Aspect::Layout);
 }
 
 int ListView::ColumnCount() const {
-  Touch();
+  EnsureLoaded();
   return static_cast<int>(columns_.size());
 }
 
@@ -115,13 +115,13 @@ void ListView::SetColumnText(int index, std::string_view text) {
 }
 
 void ListView::SetCheckBoxes(bool checkBoxes) {
-  Touch();
+  EnsureLoaded();
   checkBoxes_ = checkBoxes;
   Changed(Aspect::Layout);
 }
 
 int ListView::Count() const {
-  Touch();
+  EnsureLoaded();
   return static_cast<int>(items_.size());
 }
 
@@ -174,7 +174,7 @@ void ListView::Remove(int index) {
 }
 
 void ListView::Clear() {
-  Touch();
+  EnsureLoaded();
   items_.clear();
   selected_ = 0;
   visibleLine_ = 1;
@@ -182,7 +182,7 @@ void ListView::Clear() {
 }
 
 int ListView::SelectedItem() const {
-  Touch();
+  EnsureLoaded();
   return selected_;
 }
 
@@ -261,6 +261,11 @@ bool ListView::NavigationKey(int keyCode) {
   }
   if (Count() > 0) MoveTo(std::clamp(target, 1, Count()));
   return true;
+}
+
+void ListView::OnCharacter(int character) {
+  if (character != kKeySpace || !checkBoxes_) return;
+  if (const int line = SelectedItem(); line > 0) CheckItem(line, !Item(line).Checked());
 }
 
 void ListView::CheckItem(int index, bool checked) {

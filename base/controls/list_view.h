@@ -2,11 +2,10 @@
 
 #include <deque>
 
+#include "base/controls/alignment.h"
 #include "base/controls/control.h"
 
 namespace controls {
-
-enum class ColumnAlignment { Left = 0, Right = 1, Center = 2 };
 
 struct ColumnHeader {
   std::string text;
@@ -51,7 +50,8 @@ class ListItem {
 /// The first line added to an empty list becomes the selected one.
 class ListView : public Control {
  public:
-  ListView(Form& form, std::string name) : Control(form, ControlKind::ListView, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::ListView;
+  ListView(Form& form, std::string name) : Control(form, kKind, std::move(name)) {}
 
   void AddColumn(std::string_view text, int width, ColumnAlignment alignment = ColumnAlignment::Left);
   int ColumnCount() const;
@@ -67,7 +67,7 @@ class ListView : public Control {
   const ListItem& Item(int index) const;
   /// Appends a line. The reference stays good until the line is removed.
   ListItem& Add(std::string_view text);
-  /// The same before line `index`; behind the last one for Count() + 1.
+  /// The same before line `index`; after the last one for Count() + 1.
   ListItem& Insert(int index, std::string_view text);
   void Remove(int index);
   void Clear();
@@ -105,6 +105,9 @@ class ListView : public Control {
   Event<ListItem&> ItemCheck;
   Event<int> ColumnClick;
 
+  void OnKey(int keyCode, int /*shift*/) override { NavigationKey(keyCode); }
+  void OnCharacter(int character) override;
+  void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "ListView"; }
 

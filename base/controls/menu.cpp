@@ -9,12 +9,12 @@ Menu::Menu(Form& form, std::string name, Menu* parent) : Control(form, ControlKi
 }
 
 const std::string& Menu::Caption() const {
-  Touch();
+  EnsureLoaded();
   return caption_;
 }
 
 void Menu::SetCaption(std::string_view caption) {
-  Touch();
+  EnsureLoaded();
   caption_ = caption;
   Changed(Aspect::Text);
 }

@@ -8,6 +8,7 @@ namespace controls {
 /// made.
 class Menu : public Control {
  public:
+  static constexpr ControlKind kKind = ControlKind::Menu;
   Menu(Form& form, std::string name, Menu* parent = nullptr);
 
   const std::string& Caption() const;
@@ -17,10 +18,13 @@ class Menu : public Control {
   const std::vector<Menu*>& Entries() const { return entries_; }
   Menu* Parent() const { return parent_; }
 
+  void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "Menu"; }
 
  protected:
+  bool TakesFocus() const override { return false; }
+  const Control* Holder() const override { return parent_; }
   const LateMember* FindMember(std::string_view name) const override;
 
  private:

@@ -8,12 +8,12 @@
 namespace controls {
 
 int TabControl::Tabs() const {
-  Touch();
+  EnsureLoaded();
   return static_cast<int>(pages_.size());
 }
 
 void TabControl::SetTabs(int count) {
-  Touch();
+  EnsureLoaded();
   if (count < 1) vb::Raise(vb::kInvalidPropertyValue);
   pages_.resize(static_cast<std::size_t>(count));
   if (tab_ >= count) SwitchTo(count - 1);
@@ -21,7 +21,7 @@ void TabControl::SetTabs(int count) {
 }
 
 int TabControl::Tab() const {
-  Touch();
+  EnsureLoaded();
   return tab_;
 }
 
@@ -67,6 +67,14 @@ void TabControl::SetTabVisible(int page, bool visible) {
     if (nearest < 0 || std::abs(other - page) < std::abs(nearest - page)) nearest = other;
   }
   if (nearest >= 0) SwitchTo(nearest);
+}
+
+/// Left and Right turn to the next page that can be seen.
+void TabControl::OnKey(int keyCode, int) {
+  const int step = keyCode == kKeyLeft ? -1 : keyCode == kKeyRight ? 1 : 0;
+  for (int page = Tab() + step; step != 0 && page >= 0 && page < Tabs(); page += step) {
+    if (TabVisible(page)) return SetTab(page);
+  }
 }
 
 void TabControl::Reset() {

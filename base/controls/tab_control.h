@@ -4,10 +4,11 @@
 
 namespace controls {
 
-/// Tabbed dialog. Controls stand on a page through Control::SetContainer(tab, page).
+/// Tabbed dialog. Controls are put on a page by Control::SetContainer(tab, page).
 class TabControl : public Control {
  public:
-  TabControl(Form& form, std::string name) : Control(form, ControlKind::TabControl, std::move(name)) {}
+  static constexpr ControlKind kKind = ControlKind::TabControl;
+  TabControl(Form& form, std::string name) : Control(form, kKind, std::move(name)) {}
 
   int Tabs() const;
   void SetTabs(int count);
@@ -22,10 +23,13 @@ class TabControl : public Control {
 
   Event<int> Switched;
 
+  void OnKey(int keyCode, int shift) override;
+  void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "SSTab"; }
 
  protected:
+  bool ShowsPage(int page) const override { return page == Tab() && TabVisible(page); }
   const LateMember* FindMember(std::string_view name) const override;
 
  private:

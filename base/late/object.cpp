@@ -135,9 +135,9 @@ void PutThrough(const ObjectPtr& held, Arguments& indexAndValue) {
   held->Invoke("", Access::Get, all.first(all.size() - 1)).ToObject()->Put("", all.back().Deref());
 }
 
-void CheckArgumentCount(std::string_view type, std::string_view member, std::size_t given, int least, int most) {
-  if (given < static_cast<std::size_t>(least)) throw MemberError(vb::kArgumentNotOptional, type, member);
-  if (given > static_cast<std::size_t>(most)) throw MemberError(vb::kWrongArgumentCount, type, member);
+void CheckArgumentCount(std::string_view type, std::string_view member, std::size_t given, int minArguments, int maxArguments) {
+  if (given < static_cast<std::size_t>(minArguments)) throw MemberError(vb::kArgumentNotOptional, type, member);
+  if (given > static_cast<std::size_t>(maxArguments)) throw MemberError(vb::kWrongArgumentCount, type, member);
 }
 
 }  // namespace detail

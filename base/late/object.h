@@ -75,8 +75,8 @@ struct Member {
   std::string_view name;
   std::function<Value(T&, Arguments&)> get;  ///< property read, or a method's body
   std::function<void(T&, Arguments&)> put;   ///< property write: the last argument is the value
-  int least = 0;                             ///< arguments that must be there (the value put not counted)
-  int most = 0;                              ///< arguments that may be there
+  int minArguments = 0;                      ///< arguments that must be there (the value put not counted)
+  int maxArguments = 0;                      ///< arguments that may be there
 };
 
 /// The members of a native late-bound class, looked up by name without regard to case. A class declares one static table;
@@ -103,7 +103,7 @@ class NameIndex {
 [[noreturn]] void RaiseUnknownMember(std::string_view type, std::string_view member);
 Value GetThrough(ObjectPtr held, Arguments& index);
 void PutThrough(const ObjectPtr& held, Arguments& indexAndValue);
-void CheckArgumentCount(std::string_view type, std::string_view member, std::size_t given, int least, int most);
+void CheckArgumentCount(std::string_view type, std::string_view member, std::size_t given, int minArguments, int maxArguments);
 }  // namespace detail
 
 template <class T>
@@ -122,7 +122,8 @@ class MemberTable {
     Arguments arguments(values);
     const bool put = access == Access::Put || access == Access::PutRef;
     if (put ? !member.put : !member.get) detail::RaiseUnknownMember(type, member.name);
-    detail::CheckArgumentCount(type, member.name, values.size() - (put && !values.empty() ? 1 : 0), member.least, member.most);
+    detail::CheckArgumentCount(type, member.name, values.size() - (put && !values.empty() ? 1 : 0), member.minArguments,
+                               member.maxArguments);
     if (!put) return member.get(self, arguments);
     member.put(self, arguments);
     return {};

@@ -36,8 +36,8 @@ constexpr long kUnsupportedType = 458;
 /// The value of an object where a plain value is wanted: its default member, or that of the object which this is, and so on.
 /// Error 91 for Nothing, 13 when it has no default member, 458 when there is no end of objects.
 Value DefaultOf(ObjectPtr object) {
-  constexpr int kMostObjects = 64;
-  for (int depth = 0; depth < kMostObjects; ++depth) {
+  constexpr int kMaxObjects = 64;
+  for (int depth = 0; depth < kMaxObjects; ++depth) {
     if (!object) vb::Raise(vb::kObjectNotSet);
     if (!object->Has("")) vb::Raise(vb::kTypeMismatch);
     Value value = object->Get("");

@@ -1,6 +1,5 @@
 #include "platform/console/control_finder.h"
 
-#include "base/controls/menu.h"
 #include "base/vb/text.h"
 #include "platform/console/escape.h"
 
@@ -10,17 +9,6 @@ namespace {
 controls::Control& ControlOf(const controls::Form& form, std::string_view name) {
   if (controls::Control* control = form.FindControl(name)) return *control;
   throw CommandError("no control " + Quote(name) + " on " + form.Name());
-}
-
-/// Menu entries have no place on the form: a person reaches them through their visible parents.
-bool IsReachable(const controls::Control& control) {
-  if (const auto* menu = dynamic_cast<const controls::Menu*>(&control)) {
-    for (; menu; menu = menu->Parent()) {
-      if (!menu->Visible()) return false;
-    }
-    return true;
-  }
-  return control.IsShown();
 }
 
 }  // namespace
@@ -46,8 +34,8 @@ controls::Control& ControlToActOn(const TextDesktop& desktop, std::string_view n
   controls::Control& control = ControlToRead(desktop, name);
   const controls::Form& active = ActiveForm(desktop);
   if (&control.Owner() != &active) throw CommandError(control.Owner().Name() + " is behind " + active.Name());
-  if (!IsReachable(control)) throw CommandError(control.Name() + " is hidden");
-  if (!IsReallyEnabled(control)) throw CommandError(control.Name() + " is disabled");
+  if (!control.IsShown()) throw CommandError(control.Name() + " is hidden");
+  if (!control.AcceptsInput()) throw CommandError(control.Name() + " is disabled");
   return control;
 }
 
@@ -55,19 +43,6 @@ controls::Control& ControlToFocus(const TextDesktop& desktop, std::string_view n
   controls::Control& control = ControlToActOn(desktop, name);
   if (!control.CanFocus()) throw CommandError(control.Name() + " takes no focus");
   return control;
-}
-
-bool IsReallyEnabled(const controls::Control& control) {
-  if (const auto* menu = dynamic_cast<const controls::Menu*>(&control)) {
-    for (; menu; menu = menu->Parent()) {
-      if (!menu->Enabled()) return false;
-    }
-    return true;
-  }
-  for (const controls::Control* each = &control; each; each = each->Container()) {
-    if (!each->Enabled()) return false;
-  }
-  return true;
 }
 
 }  // namespace console

@@ -20,13 +20,10 @@ controls::Control& ControlToActOn(const TextDesktop& desktop, std::string_view n
 /// Besides, the control must be able to hold the focus.
 controls::Control& ControlToFocus(const TextDesktop& desktop, std::string_view name);
 
-/// Enabled with all its containers.
-bool IsReallyEnabled(const controls::Control& control);
-
 /// The control as its own kind; `what` says what the command works on.
 template <class Kind>
 Kind& As(controls::Control& control, std::string_view what) {
-  if (auto* kind = dynamic_cast<Kind*>(&control)) return *kind;
+  if (auto* kind = controls::As<Kind>(&control)) return *kind;
   throw CommandError(control.Name() + " is no " + std::string(what));
 }
 

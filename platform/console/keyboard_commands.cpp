@@ -11,34 +11,15 @@ namespace {
 
 using controls::Control;
 
-/// A text box and a combo box whose text can be typed, as one thing.
-class EditField {
- public:
-  explicit EditField(Control& control)
-      : box_(dynamic_cast<controls::TextBox*>(&control)), combo_(dynamic_cast<controls::ComboBox*>(&control)) {
-    if (combo_ && combo_->Style() == controls::ComboStyle::DropDownList) combo_ = nullptr;
-  }
-  explicit operator bool() const { return box_ || combo_; }
+/// The control as one whose text a person types into; null for another, and for a combo box that only picks.
+controls::TextEntry* EntryOf(Control& control) {
+  if (auto* combo = controls::As<controls::ComboBox>(&control)) return combo->IsEditable() ? combo : nullptr;
+  return controls::As<controls::TextBox>(&control);
+}
 
-  std::string Text() const { return box_ ? box_->Text() : combo_->Text(); }
-  int SelLength() const { return box_ ? box_->SelLength() : combo_->SelLength(); }
-  void Select(int start, int length) {
-    if (box_) {
-      box_->SetSelStart(start);
-      box_->SetSelLength(length);
-    } else {
-      combo_->SetSelStart(start);
-      combo_->SetSelLength(length);
-    }
-  }
-  void MoveToEnd() { Select(static_cast<int>(vb::Len(Text())), 0); }
-  void SelectAll() { Select(0, static_cast<int>(vb::Len(Text()))); }
-  void Paste(std::string_view text) { box_ ? box_->Paste(text) : combo_->Paste(text); }
-
- private:
-  controls::TextBox* box_;
-  controls::ComboBox* combo_;
-};
+void MoveToEnd(controls::TextEntry& entry) {
+  entry.SetSelStart(static_cast<int>(vb::Len(entry.Text())));
+}
 
 /// False when a handler keeps the focus elsewhere or closes the form: then nothing more of the command reaches the control.
 bool TakeFocus(Control& control) {
@@ -80,24 +61,23 @@ void Focus(TextDesktop& desktop, Words& words) {
 void Type(TextDesktop& desktop, Words& words) {
   Control& control = ControlToFocus(desktop, words.Need("a control"));
   if (!TakeFocus(control)) return;
-  if (EditField field(control); field && field.SelLength() == 0) field.MoveToEnd();
+  if (auto* entry = EntryOf(control); entry && entry->SelLength() == 0) MoveToEnd(*entry);
   TypeCharacters(desktop, control, words.Text());
 }
 
-EditField NeedField(Control& control) {
-  EditField field(control);
-  if (!field) throw CommandError(control.Name() + " takes no text");
-  return field;
+controls::TextEntry& NeedEntry(Control& control) {
+  if (auto* entry = EntryOf(control)) return *entry;
+  throw CommandError(control.Name() + " takes no text");
 }
 
 void Set(TextDesktop& desktop, Words& words) {
   Control& control = ControlToFocus(desktop, words.Need("a control"));
-  EditField field = NeedField(control);
+  controls::TextEntry& entry = NeedEntry(control);
   if (!TakeFocus(control)) return;
-  field.SelectAll();
+  entry.SelectAll();
   if (const std::string text = words.Text(); !text.empty()) {
     TypeCharacters(desktop, control, text);
-  } else if (!field.Text().empty()) {
+  } else if (!entry.Text().empty()) {
     controls::KeyStroke erase;
     controls::ParseKey("Delete", erase);
     controls::PressKey(control.Owner(), erase);
@@ -106,10 +86,10 @@ void Set(TextDesktop& desktop, Words& words) {
 
 void Paste(TextDesktop& desktop, Words& words) {
   Control& control = ControlToFocus(desktop, words.Need("a control"));
-  EditField field = NeedField(control);
+  controls::TextEntry& entry = NeedEntry(control);
   if (!TakeFocus(control)) return;
-  field.MoveToEnd();
-  field.Paste(words.Text());
+  MoveToEnd(entry);
+  entry.Paste(words.Text());
 }
 
 void Press(TextDesktop& desktop, Words& words) {

@@ -62,11 +62,11 @@ void DumpList(const controls::ListView& list, Output& output) {
 }
 
 void Dump(const controls::Control& control, Output& output) {
-  if (const auto* grid = dynamic_cast<const controls::FlexGrid*>(&control)) {
+  if (const auto* grid = controls::As<controls::FlexGrid>(&control)) {
     DumpGrid(*grid, output);
-  } else if (const auto* list = dynamic_cast<const controls::ListView*>(&control)) {
+  } else if (const auto* list = controls::As<controls::ListView>(&control)) {
     DumpList(*list, output);
-  } else if (const auto* combo = dynamic_cast<const controls::ComboBox*>(&control)) {
+  } else if (const auto* combo = controls::As<controls::ComboBox>(&control)) {
     for (int i = 0; i < combo->ListCount(); ++i) output.Line("row", Escape(combo->List(i)));
   } else {
     throw CommandError(control.Name() + " is no grid, list or combo box");

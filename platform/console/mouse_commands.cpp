@@ -3,7 +3,6 @@
 #include "base/controls/flex_grid.h"
 #include "base/controls/keyboard.h"
 #include "base/controls/list_view.h"
-#include "base/controls/menu.h"
 #include "base/controls/tab_control.h"
 #include "base/vb/text.h"
 #include "platform/console/acting_commands.h"
@@ -83,9 +82,9 @@ void DoubleClick(TextDesktop& desktop, Words& words) {
   Control& control = ControlToFocus(desktop, words.Need("a control"));
   words.End();
   if (!TakeFocus(control)) return;
-  if (auto* grid = dynamic_cast<FlexGrid*>(&control)) {
+  if (auto* grid = controls::As<FlexGrid>(&control)) {
     ClickCurrent(*grid);
-  } else if (auto* list = dynamic_cast<ListView*>(&control)) {
+  } else if (auto* list = controls::As<ListView>(&control)) {
     ClickCurrent(*list);
   }
   if (controls::CanGoOnTyping(control.Owner(), control)) control.DblClick.Fire();
@@ -94,15 +93,13 @@ void DoubleClick(TextDesktop& desktop, Words& words) {
 void RightClick(TextDesktop& desktop, Words& words) {
   Control& control = ControlToActOn(desktop, words.Need("a control"));
   words.End();
-  if (control.CanFocus() && !TakeFocus(control)) return;
-  control.MouseDown.Fire(controls::kRightButton, 0);
-  control.MouseUp.Fire(controls::kRightButton, 0);
+  controls::RightClickControl(control);
 }
 
 void Hover(TextDesktop& desktop, Words& words) {
   Control& control = ControlToActOn(desktop, words.Need("a control"));
-  auto* grid = dynamic_cast<FlexGrid*>(&control);
-  auto* list = dynamic_cast<ListView*>(&control);
+  auto* grid = controls::As<FlexGrid>(&control);
+  auto* list = controls::As<ListView>(&control);
   if (words.AtEnd() || (!grid && !list)) {
     words.End();
     control.MouseMove.Fire();
@@ -136,9 +133,9 @@ int EntryWithText(const std::vector<std::string>& entries, const std::string& te
 
 std::vector<std::string> EntriesOf(const Control& control) {
   std::vector<std::string> entries;
-  if (const auto* combo = dynamic_cast<const controls::ComboBox*>(&control)) {
+  if (const auto* combo = controls::As<controls::ComboBox>(&control)) {
     for (int i = 0; i < combo->ListCount(); ++i) entries.push_back(combo->List(i));
-  } else if (const auto* list = dynamic_cast<const ListView*>(&control)) {
+  } else if (const auto* list = controls::As<ListView>(&control)) {
     for (int i = 1; i <= list->Count(); ++i) entries.push_back(list->Item(i).Text());
   } else {
     throw CommandError(control.Name() + " is no combo box or list");
@@ -164,8 +161,8 @@ void Choose(TextDesktop& desktop, Words& words) {
   Control& control = ControlToFocus(desktop, words.Need("a control"));
   ChosenEntry(control, words);
   if (!TakeFocus(control)) return;
-  const int index = ChosenEntry(control, words);  // a got-focus handler may have filled the list anew
-  if (auto* combo = dynamic_cast<controls::ComboBox*>(&control)) {
+  const int index = ChosenEntry(control, words);  // a got-focus handler may have filled the list again
+  if (auto* combo = controls::As<controls::ComboBox>(&control)) {
     combo->Pick(index);
   } else {
     As<ListView>(control, "list").ClickItem(index + 1);
@@ -189,7 +186,7 @@ void Check(TextDesktop& desktop, Words& words, bool wanted) {
 void Row(TextDesktop& desktop, Words& words) {
   Control& control = ControlToFocus(desktop, words.Need("a control"));
   const long row = words.NeedNumber("the row");
-  if (auto* grid = dynamic_cast<FlexGrid*>(&control)) {
+  if (auto* grid = controls::As<FlexGrid>(&control)) {
     CheckRow(*grid, row);
     const long col = words.AtEnd() ? grid->Col() : words.NeedNumber("the column");
     words.End();

@@ -12,7 +12,7 @@
 namespace console {
 namespace {
 
-constexpr int kMostRefusals = 3;
+constexpr int kMaxRefusals = 3;
 
 /// Points `slot` to `value` for as long as it lives.
 template <class T>
@@ -165,7 +165,7 @@ void TextDesktop::RunModal(controls::Form& form) {
     if (ending_ == Ending::NotYet) {
       ShowPictureToPerson();
       ReadAndHandle(form.Name() + "> ");
-    } else if (refusals == kMostRefusals) {
+    } else if (refusals == kMaxRefusals) {
       output_.Error(form.Name() + " does not close and is abandoned");
       return;
     } else if (!form.CloseByUser()) {

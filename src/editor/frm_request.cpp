@@ -115,7 +115,7 @@ void frmRequest::Form_Activate() {
   if (isFirst) auditing::SaveInToTag(Session(), *this);
 }
 
-void frmRequest::Form_QueryUnload(bool& cancel, int) {
+void frmRequest::Form_QueryUnload(bool& cancel, controls::UnloadMode) {
   if (!cmdOK.Enabled() || !IsChanged()) return;
   const controls::Answer answer = Tell("Save Changes?", controls::kYesNoCancel + controls::kQuestion);
   if (answer == controls::Answer::Cancel) {
@@ -220,7 +220,7 @@ void frmRequest::lvwrequest_KeyPress(int& character) {
   }
 }
 
-void frmRequest::lvwrequest_MouseUp(int button, int) {
+void frmRequest::lvwrequest_MouseUp(controls::MouseButton button, int) {
   if (button != controls::kRightButton || !cmdOK.Enabled()) return;
   const bool hasLines = lines_.HasQuantity();
   mnuEdit.SetEnabled(hasLines);

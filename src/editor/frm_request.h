@@ -84,7 +84,7 @@ class frmRequest : public ModuleForm, private SavePort {
   void LoadNewRequest();
   void LoadExistingRequest();
   void Form_Activate();
-  void Form_QueryUnload(bool& cancel, int mode);
+  void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
   bool IsChanged() const;
 
   void cmdOK_Click();
@@ -99,7 +99,7 @@ class frmRequest : public ModuleForm, private SavePort {
   void lvwrequest_DblClick();
   void lvwrequest_KeyDown(int& keyCode, int shift);
   void lvwrequest_KeyPress(int& character);
-  void lvwrequest_MouseUp(int button, int shift);
+  void lvwrequest_MouseUp(controls::MouseButton button, int shift);
   void lvwrequest_ItemClick(controls::ListItem& line);
   void mnuAdd_Click();
   void mnuEdit_Click();

@@ -5,12 +5,6 @@
 #include "src/lists/list_views.h"
 
 namespace goods {
-namespace {
-
-constexpr int kClosedByUser = 0;
-
-}  // namespace
-
 frmcancelreason::frmcancelreason(basGoodsRequest& session) : ModuleForm(session, "frmcancelreason") {
   On(Loading, "Form_Load", &frmcancelreason::Form_Load);
   On(Activated, "Form_Activate", &frmcancelreason::Form_Activate);
@@ -75,8 +69,8 @@ void frmcancelreason::cmdok_Click() {
 }
 
 // The title bar does what OK does: it closes the dialog only with a reason.
-void frmcancelreason::Form_QueryUnload(bool& cancel, int mode) {
-  if (mode != kClosedByUser) return;
+void frmcancelreason::Form_QueryUnload(bool& cancel, controls::UnloadMode mode) {
+  if (mode != controls::kClosedByUser) return;
   cancel = true;
   cancel = !TakeReason();
 }

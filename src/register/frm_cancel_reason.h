@@ -24,7 +24,7 @@ class frmcancelreason : public ModuleForm {
  private:
   void Form_Load();
   void Form_Activate();
-  void Form_QueryUnload(bool& cancel, int mode);
+  void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
   void txtcanreason_Change();
   void txtcanreason_KeyUp(int& keyCode, int shift);
   void txtcanreason_KeyPress(int& character);

@@ -107,7 +107,7 @@ class frmMaster : public ModuleForm {
   void flexMaster_KeyDown(int& keyCode, int shift);
   void flexMaster_KeyPress(int& character);
   void flexMaster_MouseMove();
-  void flexMaster_MouseUp(int button, int shift);
+  void flexMaster_MouseUp(controls::MouseButton button, int shift);
 
   // Search and sort.
   void Form_KeyDown(int& keyCode, int shift);

@@ -91,7 +91,7 @@ void frmMaster::flexMaster_MouseMove() {
   flexMaster.SetToolTipText(onCell ? flexMaster.TextMatrix(row, column) : std::string());
 }
 
-void frmMaster::flexMaster_MouseUp(int button, int) {
+void frmMaster::flexMaster_MouseUp(controls::MouseButton button, int) {
   if (button == controls::kRightButton) PopupMenu(mnupopup);
 }
 

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/controls/alignment.h"
+
 namespace console {
 
 /// A sheet of character cells that grows as it is written on. Columns and rows count from 0.
@@ -24,7 +26,7 @@ class Canvas {
   std::vector<std::u32string> rows_;
 };
 
-enum class Align { Left, Right, Center };
+using Align = controls::Alignment;
 
 /// The text in exactly `width` characters: padded, or cut with an ellipsis. Line breaks and tabs become blanks.
 std::string Fit(std::string_view text, int width, Align align = Align::Left);

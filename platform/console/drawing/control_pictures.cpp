@@ -3,13 +3,12 @@
 #include <algorithm>
 
 #include "base/vb/text.h"
-#include "platform/console/control_finder.h"
 
 namespace console {
 namespace {
 
-constexpr int kLeastBoxWidth = 4;
-constexpr int kMostTextRows = 5;
+constexpr int kMinBoxWidth = 4;
+constexpr int kMaxTextRows = 5;
 
 Canvas OneLine(const controls::Control& control, std::string_view text) {
   Canvas sheet;
@@ -18,11 +17,17 @@ Canvas OneLine(const controls::Control& control, std::string_view text) {
   return sheet;
 }
 
+/// The edit field of a line; `tail` is drawn inside it after the text.
+std::string EditField(std::string_view text, int columns, std::string_view tail = {}, Align align = Align::Left) {
+  const int width = std::max(columns - 3 - Length(tail), kMinBoxWidth);
+  return '[' + Fit(text, width, align) + std::string(tail) + ']';
+}
+
 }  // namespace
 
 std::string_view MarkOf(const controls::Control& control) {
   if (control.HasFocus()) return "»";
-  return IsReallyEnabled(control) ? " " : "~";
+  return control.AcceptsInput() ? " " : "~";
 }
 
 std::string PlainCaption(std::string_view caption) {
@@ -44,21 +49,20 @@ Canvas DrawLabel(const controls::Label& label, int columns) {
 }
 
 Canvas DrawTextBox(const controls::TextBox& box, int columns) {
-  const int width = std::max(columns - 3, kLeastBoxWidth);
-  const int rows = box.MultiLine() ? std::clamp(box.Place().height / kTwipsPerRow, 1, kMostTextRows) : 1;
-  if (rows == 1) return OneLine(box, '[' + Fit(box.Text(), width, box.RightAligned() ? Align::Right : Align::Left) + ']');
+  const int rows = box.MultiLine() ? std::clamp(box.Place().height / kTwipsPerRow, 1, kMaxTextRows) : 1;
+  if (rows == 1) return OneLine(box, EditField(box.Text(), columns, {}, box.RightAligned() ? Align::Right : Align::Left));
   Canvas sheet;
   sheet.Put(0, 0, MarkOf(box));
-  const auto lines = Wrapped(box.Text(), width);
+  const auto lines = Wrapped(box.Text(), std::max(columns - 3, kMinBoxWidth));
   for (int row = 0; row < rows; ++row) {
     const auto index = static_cast<std::size_t>(row);
-    sheet.Put(1, row, '[' + Fit(index < lines.size() ? lines[index] : "", width) + ']');
+    sheet.Put(1, row, EditField(index < lines.size() ? lines[index] : "", columns));
   }
   return sheet;
 }
 
 Canvas DrawComboBox(const controls::ComboBox& combo, int columns) {
-  return OneLine(combo, '[' + Fit(combo.Text(), std::max(columns - 5, kLeastBoxWidth)) + " v]");
+  return OneLine(combo, EditField(combo.Text(), columns, " v"));
 }
 
 Canvas DrawButton(const controls::CommandButton& button) {

@@ -8,8 +8,8 @@
 namespace console {
 namespace {
 
-constexpr int kMostColumns = 96;
-constexpr int kLeastTwipsPerColumn = 80;
+constexpr int kMaxColumns = 96;
+constexpr int kMinTwipsPerColumn = 80;
 
 int OuterWidth(const controls::Form& form) {
   int width = form.Width();
@@ -33,7 +33,7 @@ std::string Legend(const controls::Form& form) {
   explain(any([](const controls::Control& control) { return MarkOf(control) == "»"; }), "» has the focus");
   explain(any([](const controls::Control& control) { return MarkOf(control) == "~"; }), "~ disabled");
   explain(any([](const controls::Control& control) {
-            const auto* grid = dynamic_cast<const controls::FlexGrid*>(&control);
+            const auto* grid = controls::As<controls::FlexGrid>(&control);
             return grid && HasRedRows(*grid);
           }),
           "! red");
@@ -43,7 +43,7 @@ std::string Legend(const controls::Form& form) {
 }  // namespace
 
 std::vector<std::string> DrawForm(const controls::Form& form) {
-  const int twipsPerColumn = std::max(kLeastTwipsPerColumn, OuterWidth(form) / kMostColumns);
+  const int twipsPerColumn = std::max(kMinTwipsPerColumn, OuterWidth(form) / kMaxColumns);
   const Canvas inside = DrawChildren(form, nullptr, twipsPerColumn);
   const std::string legend = Legend(form);
   Canvas sheet;

@@ -1,9 +1,9 @@
 #include "platform/console/drawing/layout.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <utility>
 
-#include "base/controls/menu.h"
+#include "base/controls/control_visitor.h"
 #include "base/controls/tab_control.h"
 #include "platform/console/drawing/control_pictures.h"
 
@@ -49,44 +49,43 @@ std::string TabHeadings(const controls::TabControl& tab) {
   return std::string(tab.HasFocus() ? "» " : "") + headings;
 }
 
-Canvas Draw(const controls::Control& control, int columns, int twipsPerColumn) {
-  const auto inside = [&] { return DrawChildren(control.Owner(), &control, twipsPerColumn); };
-  switch (control.Kind()) {
-    case controls::ControlKind::TextBox:
-      return DrawTextBox(dynamic_cast<const controls::TextBox&>(control), columns);
-    case controls::ControlKind::ComboBox:
-      return DrawComboBox(dynamic_cast<const controls::ComboBox&>(control), columns);
-    case controls::ControlKind::OptionButton:
-      return DrawOption(dynamic_cast<const controls::OptionButton&>(control));
-    case controls::ControlKind::CheckBox:
-      return DrawCheckBox(dynamic_cast<const controls::CheckBox&>(control));
-    case controls::ControlKind::CommandButton:
-      return DrawButton(dynamic_cast<const controls::CommandButton&>(control));
-    case controls::ControlKind::Label:
-      return DrawLabel(dynamic_cast<const controls::Label&>(control), columns);
-    case controls::ControlKind::Frame:
-      return Boxed(inside(), columns, PlainCaption(control.CaptionText()));
-    case controls::ControlKind::PictureBox:
-      return inside();
-    case controls::ControlKind::ListView:
-      return DrawList(dynamic_cast<const controls::ListView&>(control), columns, twipsPerColumn);
-    case controls::ControlKind::FlexGrid:
-      return DrawGrid(dynamic_cast<const controls::FlexGrid&>(control), columns, twipsPerColumn);
-    case controls::ControlKind::TabControl:
-      return Boxed(inside(), columns, TabHeadings(dynamic_cast<const controls::TabControl&>(control)));
-    case controls::ControlKind::Menu:
-      break;
+/// Draws one control with what it holds.
+class Drawing : private controls::ControlVisitor {
+ public:
+  Drawing(int columns, int twipsPerColumn) : columns_(columns), twipsPerColumn_(twipsPerColumn) {}
+  Canvas Of(controls::Control& control) {
+    control.Accept(*this);
+    return std::move(sheet_);
   }
-  return {};
-}
+
+ private:
+  void Visit(controls::CheckBox& box) override { sheet_ = DrawCheckBox(box); }
+  void Visit(controls::ComboBox& combo) override { sheet_ = DrawComboBox(combo, columns_); }
+  void Visit(controls::CommandButton& button) override { sheet_ = DrawButton(button); }
+  void Visit(controls::FlexGrid& grid) override { sheet_ = DrawGrid(grid, columns_, twipsPerColumn_); }
+  void Visit(controls::Frame& frame) override { sheet_ = Boxed(Inside(frame), columns_, PlainCaption(frame.Caption())); }
+  void Visit(controls::Label& label) override { sheet_ = DrawLabel(label, columns_); }
+  void Visit(controls::ListView& list) override { sheet_ = DrawList(list, columns_, twipsPerColumn_); }
+  void Visit(controls::Menu&) override {}
+  void Visit(controls::OptionButton& option) override { sheet_ = DrawOption(option); }
+  void Visit(controls::PictureBox& box) override { sheet_ = Inside(box); }
+  void Visit(controls::TabControl& tab) override { sheet_ = Boxed(Inside(tab), columns_, TabHeadings(tab)); }
+  void Visit(controls::TextBox& box) override { sheet_ = DrawTextBox(box, columns_); }
+
+  Canvas Inside(const controls::Control& holder) const { return DrawChildren(holder.Owner(), &holder, twipsPerColumn_); }
+
+  int columns_;
+  int twipsPerColumn_;
+  Canvas sheet_;
+};
 
 std::vector<Block> BlocksOf(const controls::Form& form, const controls::Control* container, int twipsPerColumn) {
   std::vector<Block> blocks;
-  for (const controls::Control* control : form.Controls()) {
+  for (controls::Control* control : form.Controls()) {
     if (control->Container() != container || control->Kind() == controls::ControlKind::Menu || !control->IsShown()) continue;
     const controls::Position& place = control->Place();
     const int columns = (place.left + place.width) / twipsPerColumn - place.left / twipsPerColumn - 1;
-    Block block{Draw(*control, columns, twipsPerColumn), place};
+    Block block{Drawing(columns, twipsPerColumn).Of(*control), place};
     if (block.sheet.Height() > 0) blocks.push_back(std::move(block));
   }
   return blocks;

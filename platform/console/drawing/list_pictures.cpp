@@ -7,28 +7,16 @@
 namespace console {
 namespace {
 
-constexpr long kLeastRows = 3;
-constexpr long kMostRows = 15;
+constexpr long kMinRows = 3;
+constexpr long kMaxRows = 15;
 
 /// The rows that fit below the headings.
 long RoomFor(const controls::Control& control) {
-  return std::clamp<long>(control.Place().height / kTwipsPerRow - 1, kLeastRows, kMostRows);
+  return std::clamp<long>(control.Place().height / kTwipsPerRow - 1, kMinRows, kMaxRows);
 }
 
 int InCharacters(int twips, int twipsPerColumn) {
   return twips <= 0 ? 0 : std::max(1, (twips + twipsPerColumn / 2) / twipsPerColumn);
-}
-
-Align AlignOf(controls::GridAlignment alignment) {
-  return alignment == controls::GridAlignment::Right    ? Align::Right
-         : alignment == controls::GridAlignment::Center ? Align::Center
-                                                        : Align::Left;
-}
-
-Align AlignOf(controls::ColumnAlignment alignment) {
-  return alignment == controls::ColumnAlignment::Right    ? Align::Right
-         : alignment == controls::ColumnAlignment::Center ? Align::Center
-                                                          : Align::Left;
 }
 
 bool IsRed(const controls::FlexGrid& grid, long row) {
@@ -40,8 +28,7 @@ RowWindow ShownRows(const controls::FlexGrid& grid) {
 }
 
 std::string GridRowMarks(const controls::FlexGrid& grid, long row) {
-  const auto [low, high] = std::minmax({grid.Row(), grid.RowSel()});
-  std::string marks = row >= low && row <= high ? " >" : "  ";
+  std::string marks = grid.SelectedRows().Has(row) ? " >" : "  ";
   return marks + (IsRed(grid, row) ? "!" : " ");
 }
 
@@ -73,7 +60,7 @@ Canvas DrawGrid(const controls::FlexGrid& grid, int columns, int twipsPerColumn)
   table.headingMarks = std::string(MarkOf(grid)) + "  ";
   for (long col = 0; col < grid.Cols(); ++col) {
     table.columns.push_back(
-        {HeadingOf(grid, col), InCharacters(grid.ColWidth(col), twipsPerColumn), AlignOf(grid.ColAlignment(col))});
+        {HeadingOf(grid, col), InCharacters(grid.ColWidth(col), twipsPerColumn), AlignmentOf(grid.ColAlignment(col))});
   }
   const RowWindow window = ShownRows(grid);
   for (long row = window.first; row <= window.last; ++row) {
@@ -91,7 +78,7 @@ Canvas DrawList(const controls::ListView& list, int columns, int twipsPerColumn)
   table.headingMarks = std::string(MarkOf(list)) + "  " + (list.CheckBoxes() ? "    " : "");
   for (int index = 1; index <= list.ColumnCount(); ++index) {
     const controls::ColumnHeader& column = list.Column(index);
-    table.columns.push_back({column.text, InCharacters(column.width, twipsPerColumn), AlignOf(column.alignment)});
+    table.columns.push_back({column.text, InCharacters(column.width, twipsPerColumn), AlignmentOf(column.alignment)});
   }
   const RowWindow window = WindowAround(list.SelectedItem(), list.VisibleLine(), 1, list.Count(), RoomFor(list));
   for (long line = window.first; line <= window.last; ++line) {

@@ -7,14 +7,14 @@
 namespace console {
 namespace {
 
-constexpr int kMostColumns = 90;
+constexpr int kMaxColumns = 90;
 
 }  // namespace
 
 std::vector<std::string> DrawMessage(const controls::Message& message, const std::vector<std::string>& buttons) {
   Canvas inside;
   int row = 0;
-  for (const std::string& line : Wrapped(message.text, kMostColumns)) inside.Put(1, row++, line);
+  for (const std::string& line : Wrapped(message.text, kMaxColumns)) inside.Put(1, row++, line);
   std::string line;
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     line += static_cast<int>(i) + 1 == message.DefaultButton() ? " »< " : "  < ";

@@ -6,7 +6,7 @@
 namespace console {
 namespace {
 
-constexpr int kLeastColumn = 4;
+constexpr int kMinColumn = 4;
 constexpr std::string_view kSeparator = " │ ";
 constexpr int kSeparatorWidth = 3;
 
@@ -23,7 +23,7 @@ void Balance(std::vector<int>& widths, const std::vector<int>& needed, int room)
   int total = std::accumulate(widths.begin(), widths.end(), 0);
   while (total > room) {
     const auto widest = std::max_element(widths.begin(), widths.end());
-    if (*widest <= kLeastColumn) return;
+    if (*widest <= kMinColumn) return;
     --*widest;
     --total;
   }
@@ -54,7 +54,7 @@ ShownColumns ChooseColumns(const Table& table, int room) {
     shown.widths.push_back(std::min(std::max(table.columns[i].width, Length(table.columns[i].heading)), needed.back()));
   }
   while (shown.indexes.size() > 1 &&
-         static_cast<int>(shown.indexes.size()) * (kLeastColumn + kSeparatorWidth) - kSeparatorWidth > room) {
+         static_cast<int>(shown.indexes.size()) * (kMinColumn + kSeparatorWidth) - kSeparatorWidth > room) {
     shown.indexes.pop_back();
     shown.widths.pop_back();
     shown.cut = true;

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "base/controls/keys.h"
+#include "base/controls/keyboard.h"
 #include "platform/windows/desktop/form_window.h"
 #include "platform/windows/desktop/window_class.h"
 #include "platform/windows/wide_text.h"
@@ -62,12 +62,7 @@ void ControlView::MouseMoved(POINT) {
 
 void ControlView::RightClick(int shift) {
   // The window may be gone once the handlers have run, so nothing of it is touched afterwards.
-  controls::Form& form = window_.Form();
-  const auto keep = form.weak_from_this().lock();
-  controls::Control& model = model_;
-  if (model.CanFocus() && !model.HasFocus() && !form.MoveFocus(&model)) return;
-  model.MouseDown.Fire(controls::kRightButton, shift);
-  if (form.IsShown()) model.MouseUp.Fire(controls::kRightButton, shift);
+  controls::RightClickControl(model_, shift);
 }
 
 LRESULT CALLBACK ControlView::Subclass(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
