@@ -5,7 +5,6 @@
 
 #include "base/controls/form.h"
 #include "base/vb/error.h"
-#include "src/faces/user_auditing.h"
 #include "suite/helpers/register_helpers.h"
 #include "suite/shop/shop.h"
 
@@ -65,10 +64,10 @@ BenchShop::~BenchShop() {
 }
 
 void BenchShop::LogOn() {
-  session.gObjFormColor = registry.Create("Theme.clsFormcolor");
+  session.gObjFormColor = goods::FormColor(registry);
   session.gStrStockView = "vwInquiryShopStock";
   session.gBlnRequestForNonShopItem = true;
-  goods::auditing::Open(session);
+  goods::OpenUserAuditing(session);
 }
 
 std::string TemporaryFile(const std::string& name) {

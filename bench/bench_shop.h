@@ -7,6 +7,7 @@
 #include "base/controls/desktop.h"
 #include "base/workstation/workstation.h"
 #include "src/entry/module.h"
+#include "src/register/frm_master.h"
 #include "suite/engine/objects/database.h"
 #include "suite/helpers/surroundings.h"
 #include "suite/shop/generator.h"

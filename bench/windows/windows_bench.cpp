@@ -11,6 +11,7 @@
 #include "platform/windows/desktop/windows_desktop.h"
 #include "platform/windows/workstation/windows_workstation.h"
 #include "src/entry/cls_goods_request.h"
+#include "src/register/frm_master.h"
 #include "suite/engine/objects/database.h"
 #include "suite/helpers/register_helpers.h"
 #include "suite/shop/generator.h"

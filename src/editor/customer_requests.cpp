@@ -7,6 +7,7 @@
 
 #include "base/vb/error.h"
 #include "base/vb/text.h"
+#include "src/faces/common_db.h"
 #include "src/records/customer_documents.h"
 #include "src/records/query_rows.h"
 #include "src/records/request_store.h"

@@ -5,11 +5,12 @@
 #include <vector>
 
 #include "base/controls/list_view.h"
-#include "src/faces/common_db.h"
 #include "src/module/session.h"
 #include "src/records/request_lines.h"
 
 namespace goods {
+
+class CommonDb;
 
 /// Columns of the customer-request list; 0 is the line's own text.
 enum CustomerRequestColumn : int {

@@ -4,8 +4,6 @@
 #include "base/vb/text.h"
 #include "src/editor/request_saving.h"
 #include "src/editor/stock_out_proposal.h"
-#include "src/faces/form_color.h"
-#include "src/faces/user_auditing.h"
 #include "src/itementry/frm_request_detail.h"
 #include "src/lists/list_views.h"
 
@@ -50,9 +48,9 @@ void frmRequest::Form_Load() {
   firstActivation_ = true;
   const bool isNew = Session().gStrEntryMode == "N";
   try {
-    objCommonDB_ = CommonDb(Session());
-    Applyformcolor(Session(), *this);
-    Applytabcolor(Session(), sstabGoodsReq);
+    objCommonDB_ = CommonDb(Session().services.factory, Session().gAdoCon);
+    Session().gObjFormColor.Applyformcolor(*this);
+    Session().gObjFormColor.Applytabcolor(sstabGoodsReq);
     ApplyListviewLayout(Session(), lvwrequest, "GoodsRequest", "GoodsRequest");
     if (isNew) {
       LoadNewRequest();
@@ -112,7 +110,7 @@ void frmRequest::Form_Activate() {
     objCommonDB_.strTableName("aalias");
     optgoodreq.SetCaption("To " + objCommonDB_.fnReturnField("Alias", "aliasid =2").TextOrEmpty());
   }
-  if (isFirst) auditing::SaveInToTag(Session(), *this);
+  if (isFirst) Session().gObjUserAuditing.SaveInToTag(*this);
 }
 
 void frmRequest::Form_QueryUnload(bool& cancel, controls::UnloadMode) {

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "base/vb/date.h"
-#include "src/faces/user_auditing.h"
 #include "src/lists/register_row.h"
 
 namespace goods {
@@ -111,7 +110,8 @@ void RequestSaving::WriteNewRequest() {
   request_.number = store_.fnGenerateRequestNo();
   editor_.ShowRequestNo(request_.number);
   store_.AddHeader(request_);
-  auditing::SaveEntry(session_, request_.id, request_.number, editor_.Window());
+  session_.gObjUserAuditing.SaveUserAuditingInfo(std::to_string(request_.id), request_.number, session_.gStrEntryMode,
+                                                 editor_.Window());
   store_.AddLines(request_);
   store_.SetOrdeRaisedStatus(1, request_.id);
 }

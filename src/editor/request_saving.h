@@ -4,7 +4,6 @@
 
 #include "src/editor/save_errors.h"
 #include "src/editor/save_port.h"
-#include "src/faces/common_db.h"
 #include "src/lists/register_view.h"
 #include "src/module/session.h"
 #include "src/records/request_store.h"

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/vb/error.h"
+#include "src/faces/common_db.h"
 #include "src/records/item_lookups.h"
 #include "src/records/query_rows.h"
 

@@ -1,5 +1,7 @@
 #include "src/entry/cls_goods_request.h"
 
+#include "src/register/frm_master.h"
+
 namespace goods {
 namespace {
 
@@ -7,7 +9,6 @@ using late::Arguments;
 using late::Value;
 
 constexpr std::int32_t kInterfaceId = 1503;  // this component's id in the suite
-constexpr long kAlreadyShown = 400;
 
 /// Nothing is taken too: it brings back the state in which the host has set none.
 late::ObjectPtr ObjectOrNothing(const Value& value) {
@@ -45,11 +46,6 @@ const late::MemberTable<clsGoodsRequest>& clsGoodsRequest::Members() {
 const late::ObjectPtr& clsGoodsRequest::adocon() {
   if (!connection_) connection_ = module_.Session().services.factory.Create("ADODB.Connection");
   return connection_;
-}
-
-Module::Showing::Showing(Module& module) : module_(module) {
-  if (module.isShowing_) vb::Raise(kAlreadyShown);
-  module.isShowing_ = true;
 }
 
 void clsGoodsRequest::Show() {

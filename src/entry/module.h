@@ -3,9 +3,10 @@
 #include <memory>
 
 #include "src/module/session.h"
-#include "src/register/frm_master.h"
 
 namespace goods {
+
+class frmMaster;
 
 /// What lives as long as the component is loaded: the session, and the register's one instance, made on first use and reused.
 class Module {
@@ -13,10 +14,7 @@ class Module {
   explicit Module(Services services) : session_(services) {}
 
   basGoodsRequest& Session() { return session_; }
-  frmMaster& Register() {
-    if (!register_) register_ = std::make_shared<frmMaster>(session_);
-    return *register_;
-  }
+  frmMaster& Register();
 
   /// The one showing of the register, from the moment its session values are set. Error 400 while there is one already.
   class Showing {

@@ -1,22 +1,27 @@
 #pragma once
 
-#include <string>
+#include <cstdint>
 #include <string_view>
 
-#include "base/controls/list_view.h"
-#include "src/module/session.h"
+#include "src/faces/face.h"
+
+namespace ado {
+class Connection;
+}
+namespace controls {
+class ListView;
+}
 
 namespace goods {
 
-/// The suite's database helper, late-bound. Members carry their classic names.
-class CommonDb {
+/// The suite's database helper. Members carry their classic names.
+class CommonDb : public Face {
  public:
-  /// Without a helper: every member raises error 91.
   CommonDb() = default;
-  /// Creates the helper and hands it the session's connection. Error 429 when it is not registered.
-  explicit CommonDb(basGoodsRequest& session, std::string_view progId = "ShopCommon.clsCommonDB");
+  /// Creates the helper and hands it the connection. Error 429 when it is not registered.
+  CommonDb(late::Factory& factory, const ado::Connection& connection, std::string_view progId = "ShopCommon.clsCommonDB");
 
-  /// The table or view (possibly with " where ..." behind it) of the following look-ups.
+  /// The table or view of the following look-ups; " where ..." may follow its name.
   void strTableName(std::string_view table);
   /// The field of the first matching row; Null or Empty when no row matches. `condition` goes without the word where.
   late::Value fnReturnField(std::string_view field);
@@ -29,11 +34,6 @@ class CommonDb {
                         std::string_view textColumn, std::string_view option);
   /// Removes the list's selected line; `index` is its number and `count` the lines before the removal.
   void fnDeleteListview(controls::ListView& list, std::int32_t index, std::int32_t count);
-
- private:
-  late::Object& Helper() const;
-
-  late::ObjectPtr helper_;
 };
 
 }  // namespace goods

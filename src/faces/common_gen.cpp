@@ -1,31 +1,27 @@
 #include "src/faces/common_gen.h"
 
-#include "base/vb/error.h"
+#include "base/controls/combo_box.h"
+#include "base/controls/text_box.h"
 
 namespace goods {
 
-CommonGen::CommonGen(basGoodsRequest& session) : helper_(session.services.factory.Create("ShopCommon.clsCommonGen")) {}
-
-late::Object& CommonGen::Helper() const {
-  if (!helper_) vb::Raise(vb::kObjectNotSet);
-  return *helper_;
-}
+CommonGen::CommonGen(late::Factory& factory) : Face(factory.Create("ShopCommon.clsCommonGen")) {}
 
 void CommonGen::SelectComboItemByName(controls::ComboBox& combo, std::string_view text) {
-  Helper().Call("SelectComboItemByName", {combo.AsObject(), text});
+  Component().Call("SelectComboItemByName", {combo.AsObject(), text});
 }
 
 void CommonGen::SelectComboItemByValue(controls::ComboBox& combo, std::int32_t value) {
-  Helper().Call("SelectComboItemByValue", {combo.AsObject(), value});
+  Component().Call("SelectComboItemByValue", {combo.AsObject(), value});
 }
 
 void CommonGen::TextValidateNum(controls::TextBox& box, int& character, std::int16_t length, std::int16_t decimals) {
-  if (character > 32767) {  // no digit lies beyond the helper's 16-bit key codes
+  if (character > 32767) {  // no digit is beyond the helper's 16-bit key codes
     character = 0;
     return;
   }
   late::Value key(static_cast<std::int16_t>(character));
-  Helper().Call("TextValidateNum", {box.AsObject(), late::Value::ByRef(key), length, decimals});
+  Component().Call("TextValidateNum", {box.AsObject(), late::Value::ByRef(key), length, decimals});
   character = key.ToInt16();
 }
 

@@ -1,23 +1,18 @@
 #include "src/faces/form_color.h"
 
-#include "base/vb/error.h"
+#include "base/controls/form.h"
+#include "base/controls/tab_control.h"
 
 namespace goods {
-namespace {
 
-late::Object& FormColor(basGoodsRequest& session) {
-  if (!session.gObjFormColor) vb::Raise(vb::kObjectNotSet);
-  return *session.gObjFormColor;
+FormColor::FormColor(late::Factory& factory) : Face(factory.Create("Theme.clsFormcolor")) {}
+
+void FormColor::Applyformcolor(controls::Form& form) {
+  Component().Call("Applyformcolor", {form.shared_from_this()});
 }
 
-}  // namespace
-
-void Applyformcolor(basGoodsRequest& session, controls::Form& form) {
-  FormColor(session).Call("Applyformcolor", {form.shared_from_this()});
-}
-
-void Applytabcolor(basGoodsRequest& session, controls::TabControl& tabs) {
-  FormColor(session).Call("Applytabcolor", {tabs.AsObject()});
+void FormColor::Applytabcolor(controls::TabControl& tabs) {
+  Component().Call("Applytabcolor", {tabs.AsObject()});
 }
 
 }  // namespace goods

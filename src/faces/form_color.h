@@ -1,13 +1,23 @@
 #pragma once
 
-#include "base/controls/form.h"
-#include "base/controls/tab_control.h"
-#include "src/module/session.h"
+#include "src/faces/face.h"
+
+namespace controls {
+class Form;
+class TabControl;
+}  // namespace controls
 
 namespace goods {
 
-/// The suite's form colouring, kept in the session's gObjFormColor. Error 91 before the register's load created it.
-void Applyformcolor(basGoodsRequest& session, controls::Form& form);
-void Applytabcolor(basGoodsRequest& session, controls::TabControl& tabs);
+/// The suite's form colouring. Members carry their classic names.
+class FormColor : public Face {
+ public:
+  FormColor() = default;
+  /// Error 429 when it is not registered.
+  explicit FormColor(late::Factory& factory);
+
+  void Applyformcolor(controls::Form& form);
+  void Applytabcolor(controls::TabControl& tabs);
+};
 
 }  // namespace goods

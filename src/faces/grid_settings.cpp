@@ -1,28 +1,22 @@
 #include "src/faces/grid_settings.h"
 
-#include "base/vb/number.h"
+#include "base/controls/flex_grid.h"
 
 namespace goods {
-namespace {
 
-/// Calls a routine of the suite's grid settings, which all take the user, what identifies the grid, and the grid. An optional one
-/// may be missing.
-void CallFor(basGoodsRequest& session, std::string_view routine, bool optional, controls::FlexGrid& grid) {
-  const std::int16_t userId = vb::CInt(static_cast<double>(session.gIntUserID));
+GridSettings::GridSettings(late::Factory& factory) : Face(factory.Create("GridPrefs.clsMasterGridSetting")) {}
+
+void GridSettings::fnGridSettings(const GridOwner& owner, controls::FlexGrid& grid) {
+  Call("fnGridSettings", owner, grid);
+}
+
+void GridSettings::fnSaveGridSettings(const GridOwner& owner, controls::FlexGrid& grid) {
+  if (Component().Has("fnSaveGridSettings")) Call("fnSaveGridSettings", owner, grid);
+}
+
+void GridSettings::Call(std::string_view member, const GridOwner& owner, controls::FlexGrid& grid) {
   late::Value theGrid(grid.AsObject());
-  const late::ObjectPtr settings = session.services.factory.Create("GridPrefs.clsMasterGridSetting");
-  if (optional && !settings->Has(routine)) return;
-  settings->Call(routine, {userId, session.gIntCompanyID, session.gLngInterfaceID, late::Value::ByRef(theGrid)});
-}
-
-}  // namespace
-
-void fnGridSettings(basGoodsRequest& session, controls::FlexGrid& grid) {
-  CallFor(session, "fnGridSettings", false, grid);
-}
-
-void fnSaveGridSettings(basGoodsRequest& session, controls::FlexGrid& grid) {
-  CallFor(session, "fnSaveGridSettings", true, grid);
+  Component().Call(member, {owner.userId, owner.companyId, owner.interfaceId, late::Value::ByRef(theGrid)});
 }
 
 }  // namespace goods

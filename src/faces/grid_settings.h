@@ -1,16 +1,36 @@
 #pragma once
 
-#include "base/controls/flex_grid.h"
-#include "src/module/session.h"
+#include <cstdint>
+#include <string_view>
+
+#include "src/faces/face.h"
+
+namespace controls {
+class FlexGrid;
+}
 
 namespace goods {
 
-/// Applies the user's stored column settings to a grid through the suite's grid settings. Error 429 when they are not registered,
-/// error 6 for a user id beyond 16 bits.
-void fnGridSettings(basGoodsRequest& session, controls::FlexGrid& grid);
+/// Whose column settings, and of which grid.
+struct GridOwner {
+  std::int16_t userId;
+  std::int32_t companyId;
+  std::int32_t interfaceId;
+};
 
-/// Stores the grid's column settings as the user's through the suite's grid settings. Does nothing where those cannot store;
-/// errors as for fnGridSettings.
-void fnSaveGridSettings(basGoodsRequest& session, controls::FlexGrid& grid);
+/// The suite's grid settings: each user's column widths. Members carry their classic names.
+class GridSettings : public Face {
+ public:
+  /// Error 429 when it is not registered.
+  explicit GridSettings(late::Factory& factory);
+
+  /// Applies the stored column settings to the grid.
+  void fnGridSettings(const GridOwner& owner, controls::FlexGrid& grid);
+  /// Stores the grid's column settings; does nothing where the component has no such member.
+  void fnSaveGridSettings(const GridOwner& owner, controls::FlexGrid& grid);
+
+ private:
+  void Call(std::string_view member, const GridOwner& owner, controls::FlexGrid& grid);
+};
 
 }  // namespace goods

@@ -1,39 +1,34 @@
 #include "src/faces/user_auditing.h"
 
-#include "base/vb/error.h"
+#include "base/ado/connection.h"
+#include "base/controls/form.h"
 
-namespace goods::auditing {
-namespace {
+namespace goods {
 
-late::Object& Helper(basGoodsRequest& session) {
-  if (!session.gObjUserAuditing) vb::Raise(vb::kObjectNotSet);
-  return *session.gObjUserAuditing;
+UserAuditing::UserAuditing(late::Factory& factory) : Face(factory.Create("Audit.clsUserAuditing")) {}
+
+void UserAuditing::OpenObject(const ado::Connection& connection, std::int32_t companyId, std::int32_t shopId, std::int32_t userId,
+                              std::int32_t interfaceId, vb::Date time) {
+  Component().Call("OpenObject", {connection.Object(), companyId, shopId, userId, interfaceId, time});
 }
 
-}  // namespace
-
-void Open(basGoodsRequest& session) {
-  session.gObjUserAuditing = session.services.factory.Create("Audit.clsUserAuditing");
-  session.gObjUserAuditing->Call("OpenObject", {session.gAdoCon.Object(), session.gIntCompanyID, session.gIntShopID,
-                                                session.gIntUserID, session.gLngInterfaceID, session.services.workstation.Now()});
+void UserAuditing::LoggedTime(vb::Date time) {
+  Component().Put("LoggedTime", time);
 }
 
-void StampLoggedTime(basGoodsRequest& session) {
-  Helper(session).Put("LoggedTime", session.services.workstation.Now());
+void UserAuditing::SaveInToTag(controls::Form& form) {
+  Component().Call("SaveInToTag", {form.shared_from_this()});
 }
 
-void SaveInToTag(basGoodsRequest& session, controls::Form& form) {
-  Helper(session).Call("SaveInToTag", {form.shared_from_this()});
+void UserAuditing::SaveUserAuditingInfo(std::string_view requestId, std::string_view requestNo, std::string_view action) {
+  Component().Call("SaveUserAuditingInfo", {requestId, requestNo, true, action});
 }
 
-void SaveAction(basGoodsRequest& session, std::string_view requestId, std::string_view requestNo, std::string_view action) {
-  Helper(session).Call("SaveUserAuditingInfo", {requestId, requestNo, true, action});
+void UserAuditing::SaveUserAuditingInfo(std::string_view requestId, std::string_view requestNo, std::string_view mode,
+                                        controls::Form& form) {
+  late::Value modeByReference(mode);
+  Component().Call("SaveUserAuditingInfo",
+                   {requestId, requestNo, true, late::Value::ByRef(modeByReference), form.shared_from_this()});
 }
 
-void SaveEntry(basGoodsRequest& session, std::int32_t requestId, std::string_view requestNo, controls::Form& form) {
-  late::Value mode(session.gStrEntryMode);
-  Helper(session).Call("SaveUserAuditingInfo",
-                       {std::to_string(requestId), requestNo, true, late::Value::ByRef(mode), form.shared_from_this()});
-}
-
-}  // namespace goods::auditing
+}  // namespace goods

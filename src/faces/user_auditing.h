@@ -1,25 +1,37 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
-#include "base/controls/form.h"
-#include "src/module/session.h"
+#include "base/vb/date.h"
+#include "src/faces/face.h"
+
+namespace ado {
+class Connection;
+}
+namespace controls {
+class Form;
+}
 
 namespace goods {
 
-/// Face over the session's auditing helper. Each routine is error 91 before the register's load created it.
-namespace auditing {
+/// The suite's user auditing. Members carry their classic names.
+class UserAuditing : public Face {
+ public:
+  UserAuditing() = default;
+  /// Error 429 when it is not registered.
+  explicit UserAuditing(late::Factory& factory);
 
-/// Creates the helper into gObjUserAuditing and opens it for this component; error 429 when it is not registered.
-void Open(basGoodsRequest& session);
-/// The action that begins now is the one a later record carries the time of.
-void StampLoggedTime(basGoodsRequest& session);
-/// Keeps the controls' present values in their tags.
-void SaveInToTag(basGoodsRequest& session, controls::Form& form);
-/// One record for an action without a form: the request's id and number, and the action's letter.
-void SaveAction(basGoodsRequest& session, std::string_view requestId, std::string_view requestNo, std::string_view action);
-/// One record for an entry made in a form; the mode travels by reference.
-void SaveEntry(basGoodsRequest& session, std::int32_t requestId, std::string_view requestNo, controls::Form& form);
+  void OpenObject(const ado::Connection& connection, std::int32_t companyId, std::int32_t shopId, std::int32_t userId,
+                  std::int32_t interfaceId, vb::Date time);
+  /// When the action began that the next record is about.
+  void LoggedTime(vb::Date time);
+  /// Copies what the form's controls show into their tags, for a later record to compare with.
+  void SaveInToTag(controls::Form& form);
+  /// Records an action without a form, given by its letter.
+  void SaveUserAuditingInfo(std::string_view requestId, std::string_view requestNo, std::string_view action);
+  /// Records an entry made in a form, in mode "N" or "E".
+  void SaveUserAuditingInfo(std::string_view requestId, std::string_view requestNo, std::string_view mode, controls::Form& form);
+};
 
-}  // namespace auditing
 }  // namespace goods

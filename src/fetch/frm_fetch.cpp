@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "base/vb/text.h"
-#include "src/faces/form_color.h"
 #include "src/fetch/fetch_queries.h"
 #include "src/fetch/item_type_filter.h"
 #include "src/lists/cell_text.h"
@@ -95,10 +94,10 @@ Rows ReadRows(ado::Recordset& recordset) {
 
 void FrmFetch::Form_Load() {
   strFetchField_.clear();
-  objCommonDB_ = CommonDb(Session());
+  objCommonDB_ = CommonDb(Session().services.factory, Session().gAdoCon);
   // The dialog serves without these, too; their absence is reported.
-  Trap("Form_Load", [&] { objCommonGen_ = CommonGen(Session()); });
-  Trap("Form_Load", [&] { Applyformcolor(Session(), *this); });
+  Trap("Form_Load", [&] { objCommonGen_ = CommonGen(Session().services.factory); });
+  Trap("Form_Load", [&] { Session().gObjFormColor.Applyformcolor(*this); });
   flexMaster.SetFormatString(LoadHeadings());
   flexMaster.SetColWidth(kItemId, 0);
   FillLists();

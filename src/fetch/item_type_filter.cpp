@@ -1,6 +1,7 @@
 #include "src/fetch/item_type_filter.h"
 
 #include "base/vb/text.h"
+#include "src/faces/common_db.h"
 
 namespace goods {
 

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <string>
 
-#include "src/faces/common_db.h"
-
 namespace goods {
+
+class CommonDb;
 
 /// Whether the shop deals in items of type B: the first letter of its futurevarchar is a B, small or capital. Such a shop finds
 /// those items only, every other shop all but those.

@@ -5,7 +5,6 @@
 #include "base/vb/format.h"
 #include "base/vb/number.h"
 #include "base/vb/text.h"
-#include "src/faces/form_color.h"
 #include "src/itementry/item_lists.h"
 #include "src/itementry/packing_types.h"
 #include "src/itementry/stock_availability.h"
@@ -37,11 +36,11 @@ void frmRequestDetail::CreateHelpers() {
   objCommonDB_ = CommonDb();
   objCommonGen_ = CommonGen();
   objFetch_ = ItemFetch();
-  objCommonDB_ = CommonDb(Session());
+  objCommonDB_ = CommonDb(Session().services.factory, Session().gAdoCon);
   // Without these the form still takes lines: their absence is reported now, and again when one of them is asked for something.
-  Trap("Form_Load", [&] { objCommonGen_ = CommonGen(Session()); });
-  Trap("Form_Load", [&] { objFetch_ = ItemFetch(Session()); });
-  Trap("Form_Load", [&] { Applyformcolor(Session(), *this); });
+  Trap("Form_Load", [&] { objCommonGen_ = CommonGen(Session().services.factory); });
+  Trap("Form_Load", [&] { objFetch_ = ItemFetch(Session().services.factory); });
+  Trap("Form_Load", [&] { Session().gObjFormColor.Applyformcolor(*this); });
 }
 
 void frmRequestDetail::ArrangeOptionButtons() {

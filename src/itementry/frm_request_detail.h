@@ -12,8 +12,8 @@
 #include "base/controls/text_box.h"
 #include "src/faces/common_db.h"
 #include "src/faces/common_gen.h"
+#include "src/faces/item_fetch.h"
 #include "src/fetch/item_entry_port.h"
-#include "src/itementry/item_fetch.h"
 #include "src/module/module_form.h"
 #include "src/records/request_lines.h"
 

@@ -115,7 +115,7 @@ void frmRequestDetail::ShowFetchDialog() {
 void frmRequestDetail::FillItemList() {
   Trap("FillItemList", [&] {
     // A lookup that was missing when the form was loaded is asked for again, and reported missing again.
-    if (!objFetch_) objFetch_ = ItemFetch(Session());
+    if (!objFetch_) objFetch_ = ItemFetch(Session().services.factory);
     if (ShowItemList(Session(), objCommonDB_, objFetch_, SelectedList())) TakeFetchedRow();
   });
 }

@@ -4,6 +4,8 @@
 
 #include "base/vb/error.h"
 #include "base/vb/text.h"
+#include "src/faces/common_db.h"
+#include "src/faces/item_fetch.h"
 #include "src/fetch/item_type_filter.h"
 
 namespace goods {

@@ -5,12 +5,13 @@
 #include <string_view>
 #include <vector>
 
-#include "src/faces/common_db.h"
 #include "src/fetch/item_entry_port.h"
-#include "src/itementry/item_fetch.h"
 #include "src/module/session.h"
 
 namespace goods {
+
+class CommonDb;
+class ItemFetch;
 
 /// "QUERY1" to "QUERY4".
 std::string_view FetchModeOf(ItemListMode list);

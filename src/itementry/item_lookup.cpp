@@ -4,6 +4,7 @@
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
+#include "src/faces/common_db.h"
 #include "src/fetch/item_type_filter.h"
 #include "src/records/query_rows.h"
 

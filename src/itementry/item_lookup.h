@@ -4,11 +4,12 @@
 #include <string>
 #include <string_view>
 
-#include "src/faces/common_db.h"
 #include "src/fetch/item_entry_port.h"
 #include "src/module/session.h"
 
 namespace goods {
+
+class CommonDb;
 
 /// Finds the item that a scanned or typed code names: as a packing barcode, as the shop's shortcut number, as an item code; the
 /// first that fits. Nothing when none does. A database error is raised.

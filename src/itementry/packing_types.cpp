@@ -4,6 +4,7 @@
 
 #include "base/vb/error.h"
 #include "base/vb/format.h"
+#include "src/faces/common_db.h"
 
 namespace goods {
 

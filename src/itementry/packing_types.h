@@ -3,9 +3,10 @@
 #include <cstdint>
 
 #include "base/controls/list_view.h"
-#include "src/faces/common_db.h"
 
 namespace goods {
+
+class CommonDb;
 
 /// Columns of the packing-type list; the line's own text is the packing type's id.
 enum PackingTypeColumn : int { kPackingName = 1, kPackingCount = 2 };

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "src/faces/common_db.h"
 #include "src/records/query_rows.h"
 
 namespace goods {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "src/faces/common_db.h"
+#include "src/faces/error_log.h"
 
 namespace goods {
 namespace {
@@ -11,7 +12,7 @@ namespace {
 std::string UserNameForReport(basGoodsRequest& session) {
   // A report without the user's name is worth more than no report: the look-up fails when the connection does.
   try {
-    CommonDb db(session);
+    CommonDb db(session.services.factory, session.gAdoCon);
     db.strTableName("LOUSERS where userid=" + std::to_string(session.gIntUserID) +
                     " and shopid = " + std::to_string(session.gIntShopID));
     return db.fnReturnField("username").TextOrEmpty();
@@ -34,9 +35,8 @@ void TellInItsPlace(basGoodsRequest& session, std::string_view module, std::stri
 void ReportError(basGoodsRequest& session, std::string_view module, std::string_view routine, const vb::RunTimeError& error) {
   // Nothing may leave an error trap.
   try {
-    const late::ObjectPtr log = session.services.factory.Create("ErrLog.ErrorDetails");
-    log->Call("ErrorTrack", {module, UserNameForReport(session), routine, static_cast<std::int32_t>(error.Number()),
-                             error.Source(), error.Description(), session.gStrEntryMode, true});
+    ErrorLog log(session.services.factory);
+    log.ErrorTrack(module, UserNameForReport(session), routine, error, session.gStrEntryMode);
   } catch (const vb::RunTimeError&) {
     TellInItsPlace(session, module, routine, error);
   }

@@ -28,8 +28,8 @@ constexpr GlobalEntry kGlobals[] = {
     {"gBlnPreserveItemDetails", [](Session session) { return late::Value(session.gBlnPreserveItemDetails); }},
     {"gStrStockView", [](Session session) { return late::Value(session.gStrStockView); }},
     {"gStrUserRights", [](Session session) { return late::Value(session.gStrUserRights); }},
-    {"gObjFormColor", [](Session session) { return late::Value(session.gObjFormColor); }},
-    {"gObjUserAuditing", [](Session session) { return late::Value(session.gObjUserAuditing); }},
+    {"gObjFormColor", [](Session session) { return late::Value(session.gObjFormColor.Object()); }},
+    {"gObjUserAuditing", [](Session session) { return late::Value(session.gObjUserAuditing.Object()); }},
     {"gStrEntryMode", [](Session session) { return late::Value(session.gStrEntryMode); }},
     {"gLngRequestID", [](Session session) { return late::Value(session.gLngRequestID); }},
     {"gStrCancelReason", [](Session session) { return late::Value(session.gStrCancelReason); }},
@@ -49,6 +49,12 @@ late::Value basGoodsRequest::Global(std::string_view name) const {
     if (vb::EqualNoCase(global.name, name)) return global.read(*this);
   }
   return late::Missing{};
+}
+
+void OpenUserAuditing(basGoodsRequest& session) {
+  session.gObjUserAuditing = UserAuditing(session.services.factory);
+  session.gObjUserAuditing.OpenObject(session.gAdoCon, session.gIntCompanyID, session.gIntShopID, session.gIntUserID,
+                                      session.gLngInterfaceID, session.services.workstation.Now());
 }
 
 }  // namespace goods

@@ -8,6 +8,8 @@
 #include "base/controls/desktop.h"
 #include "base/late/object.h"
 #include "base/workstation/workstation.h"
+#include "src/faces/form_color.h"
+#include "src/faces/user_auditing.h"
 
 namespace goods {
 
@@ -41,8 +43,8 @@ struct basGoodsRequest {
   bool gBlnPreserveItemDetails = false;
   std::string gStrStockView;
   std::string gStrUserRights;
-  late::ObjectPtr gObjFormColor;
-  late::ObjectPtr gObjUserAuditing;
+  FormColor gObjFormColor;
+  UserAuditing gObjUserAuditing;
 
   // Handed from form to form.
   std::string gStrEntryMode;  ///< "N" new request, "E" existing one
@@ -61,5 +63,8 @@ struct basGoodsRequest {
   /// A global by its name, without regard to case, for tools that look into a session; a Missing value when there is none.
   late::Value Global(std::string_view name) const;
 };
+
+/// Creates the auditing component into gObjUserAuditing and opens it for the session; error 429 when it is not registered.
+void OpenUserAuditing(basGoodsRequest& session);
 
 }  // namespace goods

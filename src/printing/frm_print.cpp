@@ -2,7 +2,6 @@
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
-#include "src/faces/form_color.h"
 #include "src/module/settings_reader.h"
 #include "src/printing/text_viewer.h"
 #include "src/printing/windows_print.h"
@@ -42,7 +41,7 @@ void frmPrint::Design() {
 }
 
 void frmPrint::Form_Load() {
-  Applyformcolor(Session(), *this);
+  Session().gObjFormColor.Applyformcolor(*this);
   const std::string path = SettingsPath(Session());
   const auto isOne = [&](std::string_view key) { return vb::Val(FileCode(Session(), key, path)) == 1; };
   const bool offered = isOne("windowsprint");

@@ -33,7 +33,7 @@ double NumberOrZero(const late::Value& value) {
 
 /// What the shop adds to an item's rate to get its cost price.
 double CostFactor(basGoodsRequest& session) {
-  CommonDb db(session);
+  CommonDb db(session.services.factory, session.gAdoCon);
   db.strTableName("ashops");
   const late::Value percent = db.fnReturnField("RevisedCostPricePercent", "ShopId=" + std::to_string(session.gIntShopID));
   return 1 + NumberOrZero(percent) / 100;

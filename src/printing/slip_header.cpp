@@ -93,7 +93,7 @@ class HeaderWriter {
 };
 
 void WriteCompany(basGoodsRequest& session, const SlipHeaderSettings& settings, HeaderWriter& writer) {
-  CommonDb db(session);
+  CommonDb db(session.services.factory, session.gAdoCon);
   db.strTableName("acompanymaster");
   const std::string condition = "companyid=" + std::to_string(session.gIntCompanyID);
   writer.Line(db.fnReturnField("name", condition).TextOrEmpty());

@@ -43,7 +43,7 @@ void SetParameter(late::Object& report, std::int32_t number, const late::Value& 
 }  // namespace
 
 void WIndowsprint(basGoodsRequest& session, std::int32_t requestId) {
-  CommonDb db(session);
+  CommonDb db(session.services.factory, session.gAdoCon);
   const std::string userName = UserName(session, db);
   const std::string reportFile = session.services.workstation.ApplicationFolder() + "\\reports\\reqtohq.rpt";
   const late::ObjectPtr server = session.services.factory.Create("Crystal.CRPE.Application");

@@ -23,7 +23,7 @@ std::string SellingPriceQuery(std::int32_t itemId, std::string_view shopClause) 
 std::string GetItemUnitCode(basGoodsRequest& session, std::int32_t itemId) {
   std::string unitCode;
   Trapped(session, kModuleName, "GetItemUnitCode", [&] {
-    CommonDb db(session);
+    CommonDb db(session.services.factory, session.gAdoCon);
     db.strTableName("aItem i, aUnit u");
     unitCode = db.fnReturnField("u.UnitCode", "i.UnitsId = u.UnitId AND i.ItemId = " + std::to_string(itemId)).TextOrEmpty();
   });

@@ -1,7 +1,6 @@
 #include "src/register/frm_cancel_reason.h"
 
 #include "base/vb/text.h"
-#include "src/faces/form_color.h"
 #include "src/lists/list_views.h"
 
 namespace goods {
@@ -27,7 +26,7 @@ void frmcancelreason::Design() {
 }
 
 void frmcancelreason::Form_Load() {
-  Applyformcolor(Session(), *this);
+  Session().gObjFormColor.Applyformcolor(*this);
 }
 
 void frmcancelreason::Form_Activate() {

@@ -19,6 +19,7 @@ namespace goods {
 class frmcancelreason;
 class frmPrint;
 class frmRequest;
+struct GridOwner;
 
 /// The register: the shop's requests of a recent date range, one row each, and the commands on the selected one. Owns the editor,
 /// the print dialog and the reason dialog.
@@ -71,6 +72,8 @@ class frmMaster : public ModuleForm {
   /// Where the columns are wider than the list, the widest gives way to the others, down to a quarter of the list.
   void KeepColumnsInSight();
   void MarkCancelledRequests();
+  /// Whose settings of the grid are applied and stored. Error 6 for a user id beyond 16 bits.
+  GridOwner SettingsOwner() const;
 
   // Rights.
   void USerRights();

@@ -1,6 +1,5 @@
 #include "base/vb/number.h"
 #include "src/editor/frm_request.h"
-#include "src/faces/user_auditing.h"
 #include "src/printing/frm_print.h"
 #include "src/register/frm_master.h"
 
@@ -19,7 +18,7 @@ void frmMaster::ReturnToList() {
 void frmMaster::cmdnew_Click() {
   frmRequest& editor = FreshEditor();
   Session().gStrEntryMode = "N";
-  auditing::StampLoggedTime(Session());
+  Session().gObjUserAuditing.LoggedTime(Session().services.workstation.Now());
   editor.txtrequestDate.SetText(vb::DateText(Session().gDtProcessDate));
   editor.txtRemarks.SetText("");
   editor.Show(this);
@@ -34,7 +33,7 @@ void frmMaster::CmdEdit_Click() {
   }
   frmRequest& editor = FreshEditor();
   Session().gStrEntryMode = "E";
-  auditing::StampLoggedTime(Session());
+  Session().gObjUserAuditing.LoggedTime(Session().services.workstation.Now());
   editedRequest_ = CurrentRequestId();
   Session().gLngRequestID = editedRequest_;
   editor.ShowOwnLinks(editedRequest_);

@@ -105,7 +105,8 @@ void frmMaster::SetHeadings(std::string_view table) {
   }
   headings.Close();
   KeepColumnsInSight();
-  fnGridSettings(Session(), flexMaster);
+  const GridOwner owner = SettingsOwner();
+  GridSettings(Session().services.factory).fnGridSettings(owner, flexMaster);
 }
 
 void frmMaster::AddHeading(long column, const std::string& heading) {

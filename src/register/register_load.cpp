@@ -1,7 +1,5 @@
 #include "base/vb/number.h"
-#include "src/faces/form_color.h"
 #include "src/faces/grid_settings.h"
-#include "src/faces/user_auditing.h"
 #include "src/register/frm_master.h"
 
 namespace goods {
@@ -32,10 +30,10 @@ void frmMaster::Form_Load() {
   searchAnswer_.Forget();
   session.gStrUserRights.clear();  // of whoever used the component before
   EnableCommands(false);           // until the rights are read: after an error on the way nothing may be done
-  objCommonDB_ = CommonDb(session, "ShopCommon.clscommonDB");
-  session.gObjFormColor = session.services.factory.Create("Theme.clsFormcolor");
-  Applyformcolor(session, *this);
-  auditing::Open(session);
+  objCommonDB_ = CommonDb(session.services.factory, session.gAdoCon, "ShopCommon.clscommonDB");
+  session.gObjFormColor = FormColor(session.services.factory);
+  session.gObjFormColor.Applyformcolor(*this);
+  OpenUserAuditing(session);
   ReadSettings();
   GridPopulate(RegisterQuery(mainTable_, session.gIntShopID, session.gDtFromDate), mainTable_);
   USerRights();
@@ -43,7 +41,13 @@ void frmMaster::Form_Load() {
 }
 
 void frmMaster::Form_Unload() {
-  if (flexMaster.HasPulledColumns()) fnSaveGridSettings(Session(), flexMaster);
+  if (!flexMaster.HasPulledColumns()) return;
+  const GridOwner owner = SettingsOwner();
+  GridSettings(Session().services.factory).fnSaveGridSettings(owner, flexMaster);
+}
+
+GridOwner frmMaster::SettingsOwner() const {
+  return {vb::CInt(static_cast<double>(Session().gIntUserID)), Session().gIntCompanyID, Session().gLngInterfaceID};
 }
 
 void frmMaster::ReadSettings() {

@@ -1,6 +1,5 @@
 #include "base/vb/text.h"
 #include "src/editor/frm_request.h"
-#include "src/faces/user_auditing.h"
 #include "src/lists/register_row.h"
 #include "src/records/request_store.h"
 #include "src/register/frm_cancel_reason.h"
@@ -64,7 +63,7 @@ void frmMaster::CmdDelete_Click() {
                                                                   " and Userid=" + std::to_string(session.gIntUserID))
                                    .TextOrEmpty();
   if (RefusesToDelete()) return;
-  auditing::StampLoggedTime(session);
+  session.gObjUserAuditing.LoggedTime(session.services.workstation.Now());
   if (!IsOnRequest()) return;
 
   const std::string requestNo = CurrentCell(kRegisterNo);
@@ -74,7 +73,7 @@ void frmMaster::CmdDelete_Click() {
   if (vb::Trim(reason).empty()) return;  // the dialog was torn down, not answered
 
   MarkRequestCancelled(CancellationRemark(userName, reason));
-  auditing::SaveAction(session, CurrentCell(kRegisterId), requestNo, "D");
+  session.gObjUserAuditing.SaveUserAuditingInfo(CurrentCell(kRegisterId), requestNo, "D");
   session.gStrEntryMode = "E";
   UpdateEditedRow(session, view_, " GRHrequestID=" + std::to_string(session.gLngRequestID), session.gLngRequestID);
   MarkCancelledRequests();

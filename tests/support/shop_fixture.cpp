@@ -7,7 +7,6 @@
 #include "base/vb/error.h"
 #include "base/vb/text.h"
 #include "src/faces/common_db.h"
-#include "src/faces/user_auditing.h"
 #include "suite/engine/values/errors.h"
 #include "suite/helpers/register_helpers.h"
 #include "suite/shop/shop.h"
@@ -84,9 +83,9 @@ Shop::Shop(Stock stock, bool replication)
 }
 
 void Shop::LogOn() {
-  session.gObjFormColor = registry.Create("Theme.clsFormcolor");
-  goods::auditing::Open(session);
-  goods::CommonDb db(session);
+  session.gObjFormColor = goods::FormColor(registry);
+  goods::OpenUserAuditing(session);
+  goods::CommonDb db(registry, session.gAdoCon);
   db.strTableName("lousers where userid=" + std::to_string(session.gIntUserID) +
                   " and ShopID=" + std::to_string(session.gIntShopID));
   session.gStrUserName = db.fnReturnField("username").TextOrEmpty();

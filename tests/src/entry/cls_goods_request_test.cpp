@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "src/register/frm_master.h"
 #include "tests/support/error_notes.h"
 #include "tests/support/shop_fixture.h"
 

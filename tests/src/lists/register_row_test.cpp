@@ -2,12 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "src/register/frm_master.h"
 #include "tests/support/error_notes.h"
 #include "tests/support/shop_fixture.h"
 
 namespace {
 
-/// The register after its load, and requests that change behind it.
+/// The register after its load, and requests that change after it.
 class RegisterRow : public testing::Test {
  protected:
   void SetUp() override {

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "src/printing/frm_print.h"
+#include "src/register/frm_master.h"
 #include "tests/src/printing/slip_shop.h"
 
 namespace support {

@@ -12,7 +12,7 @@ class Numbering : public EditorShop {
              ", " + std::to_string(shopId) + ", '" + number + "')");
   }
   std::string Next() { return store_.fnGenerateRequestNo(); }
-  goods::CommonDb db_{session};
+  goods::CommonDb db_{session.services.factory, session.gAdoCon};
   goods::RequestStore store_{session, db_};
 
  private:

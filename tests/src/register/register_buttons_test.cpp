@@ -173,7 +173,7 @@ TEST_F(RegisterButtons, NewOpensAnEmptyEditorWithTheProcessDate) {
       EXPECT_EQ("N", shop.session.gStrEntryMode);
       EXPECT_EQ("15/03/2024", editor.txtrequestDate.Text());
       EXPECT_EQ("", editor.txtRemarks.Text());
-      EXPECT_EQ(shop.workstation.now.days, shop.session.gObjUserAuditing->Get("LoggedTime").ToDate().days);
+      EXPECT_EQ(shop.workstation.now.days, shop.session.gObjUserAuditing.Object()->Get("LoggedTime").ToDate().days);
     });
     support::Click(Register().cmdnew);
   });

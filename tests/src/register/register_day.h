@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "src/entry/cls_goods_request.h"
+#include "src/register/frm_master.h"
 #include "tests/support/error_notes.h"
 #include "tests/support/shop_fixture.h"
 

@@ -5,8 +5,11 @@
 #include <string_view>
 #include <vector>
 
-#include "base/ado/recordset.h"
-#include "src/module/session.h"
+#include "src/faces/face.h"
+
+namespace ado {
+class Connection;
+}
 
 namespace goods {
 
@@ -17,15 +20,12 @@ struct FetchColumn {
   int width;  ///< twips; 0 hides it
 };
 
-/// The suite's item lookup dialog (Lookup.clsFetch), late-bound. Members carry their classic names.
-class ItemFetch {
+/// The suite's item lookup dialog. Members carry their classic names.
+class ItemFetch : public Face {
  public:
-  /// Without a helper: every member raises error 91.
   ItemFetch() = default;
   /// Error 429 when it is not registered.
-  explicit ItemFetch(basGoodsRequest& session);
-
-  explicit operator bool() const { return helper_ != nullptr; }
+  explicit ItemFetch(late::Factory& factory);
 
   void adocon(const ado::Connection& connection);
   void strMsgboxTitle(std::string_view title);
@@ -50,11 +50,6 @@ class ItemFetch {
   void Show();
   /// True when the user closed the lookup without choosing.
   bool getCancelledStatus();
-
- private:
-  late::Object& Helper() const;
-
-  late::ObjectPtr helper_;
 };
 
 }  // namespace goods
