@@ -4,6 +4,7 @@
 
 #include "base/controls/keyboard.h"
 #include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/messages.h"
 #include "platform/windows/desktop/window_class.h"
 #include "platform/windows/wide_text.h"
 
@@ -15,12 +16,6 @@ int ShiftState(WPARAM mouseKeys) {
 }
 
 }  // namespace
-
-std::wstring WindowText(HWND handle) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle)) + 1, L'\0');
-  text.resize(static_cast<std::size_t>(GetWindowTextW(handle, text.data(), static_cast<int>(text.size()))));
-  return text;
-}
 
 ControlView::~ControlView() {
   if (handle_ == nullptr) return;
@@ -35,7 +30,7 @@ HWND ControlView::CreateChild(HWND parent, int id, const wchar_t* windowClass, c
   handle_ = CreateWindowExW(extendedStyle, windowClass, Wide(text).c_str(), style | WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 10, 10,
                             parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ThisModule(), nullptr);
   if (handle_ == nullptr) RaiseNoWindow(model_.Name());
-  SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(window_.Measures().Font()), FALSE);
+  Send(handle_, WM_SETFONT, window_.Measures().Font(), FALSE);
   SetWindowSubclass(handle_, &ControlView::Subclass, 1, reinterpret_cast<DWORD_PTR>(this));
   return handle_;
 }
@@ -85,9 +80,9 @@ std::optional<LRESULT> ControlView::Handle(UINT message, WPARAM wParam, LPARAM l
       window_.FocusArrived(*this);
       break;
     case WM_MOUSEMOVE: {
-      const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+      const POINT point = MousePoint(lParam);
       MouseMoved(point);
-      // By itself the tip of one window stays as it is, whichever cell the mouse goes on to.
+      // The system keeps the tip of a window, whichever cell the mouse moves to.
       if (std::string tip = ToolTipAt(point); tip != toolTip_) {
         toolTip_ = std::move(tip);
         window_.PopToolTip();
@@ -96,7 +91,7 @@ std::optional<LRESULT> ControlView::Handle(UINT message, WPARAM wParam, LPARAM l
     }
     case WM_RBUTTONDOWN:
       if (!OwnsRightButton()) break;
-      RightButtonAt({static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
+      RightButtonAt(MousePoint(lParam));
       return 0;
     case WM_RBUTTONUP:
       if (!OwnsRightButton()) break;

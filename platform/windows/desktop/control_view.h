@@ -57,7 +57,7 @@ class ControlView {
  protected:
   HWND CreateChild(HWND parent, int id, const wchar_t* windowClass, const std::string& text, DWORD style,
                    DWORD extendedStyle = 0);
-  /// A message that the window's own procedure is about to get; an answer keeps it from it.
+  /// Called with each message before the window's own procedure; an answer suppresses it.
   virtual std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) {
     (void)message, (void)wParam, (void)lParam;
     return std::nullopt;
@@ -78,12 +78,10 @@ class ControlView {
   FormWindow& window_;
   controls::Control& model_;
   HWND handle_ = nullptr;
-  std::string toolTip_;  ///< of the place the mouse was at last
+  std::string toolTip_;  ///< of the place where the mouse was last
 };
 
 /// The view for a model of any kind; null for kinds without a window of their own (menus, picture boxes).
 std::unique_ptr<ControlView> MakeView(FormWindow& window, controls::Control& model);
-
-std::wstring WindowText(HWND handle);
 
 }  // namespace windows

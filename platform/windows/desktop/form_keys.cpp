@@ -62,7 +62,7 @@ bool FormWindow::RunClipboardKey(ControlView& view, WPARAM key, bool control, bo
 }
 
 void FormWindow::RunNatively(ControlView& view, const MSG& message) {
-  // The handlers hear of the key; what it does to the caret is the window's own.
+  // The handlers get the key; moving the caret is left to the window.
   const std::weak_ptr<late::Object> form = form_.weak_from_this();
   Control& control = view.Model();
   int code = static_cast<int>(message.wParam);
@@ -108,7 +108,7 @@ bool FormWindow::HandleKey(const MSG& message) {
       }
       key.keyCode = static_cast<int>(message.wParam);
       key.character = Whole(TakeCharacter(message));
-      // The key for further characters is Ctrl and Alt at once to the system; what it gives is typed like any other.
+      // AltGr arrives as Ctrl+Alt; its characters are typed like any others.
       if ((key.shift & (kCtrl | kAlt)) == (kCtrl | kAlt) && key.character >= U' ') key.shift &= ~(kCtrl | kAlt);
       break;
     case WM_CHAR:  // a character without a key of its own: input methods, other programs
@@ -116,10 +116,10 @@ bool FormWindow::HandleKey(const MSG& message) {
       key.character = Whole(static_cast<char32_t>(message.wParam));
       if (key.character == 0) return true;
       break;
-    case WM_KEYUP:  // the model's keyboard has told of it
-      // The system's own handling of the menu key would need the key to come down to the window, too.
+    case WM_KEYUP:  // KeyUp has been fired with the key press
+      // The system opens a menu only for a window that got the key press, too.
       if (message.wParam == VK_APPS) {
-        SendMessageW(message.hwnd, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(message.hwnd), -1);
+        Send(message.hwnd, WM_CONTEXTMENU, message.hwnd, -1);
       }
       return true;
     case WM_SYSKEYUP:

@@ -2,13 +2,8 @@
 
 #include <algorithm>
 
-#include "base/controls/buttons.h"
-#include "platform/windows/desktop/button_views.h"
-#include "platform/windows/desktop/combo_view.h"
-#include "platform/windows/desktop/grid_view.h"
-#include "platform/windows/desktop/lines_view.h"
-#include "platform/windows/desktop/tab_view.h"
-#include "platform/windows/desktop/text_view.h"
+#include "base/controls/scoped_flag.h"
+#include "platform/windows/desktop/messages.h"
 #include "platform/windows/desktop/window_class.h"
 #include "platform/windows/desktop/windows_desktop.h"
 #include "platform/windows/wide_text.h"
@@ -19,7 +14,6 @@ namespace {
 using controls::Aspect;
 using controls::ControlKind;
 
-constexpr UINT kFlush = WM_APP + 1;
 constexpr UINT kReturnFocus = WM_APP + 2;
 constexpr int kFirstId = 100;
 constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
@@ -47,44 +41,12 @@ int DpiFor(const controls::Form& form, const RECT& screen) {
   return FittingDpi(ScreenDpi(), room, form.Width(), form.IsResizable() ? 0 : form.Height());
 }
 
-/// Frames and tabs are drawn below what stands on them.
+/// Frames and tabs are drawn below the controls on them.
 bool IsBackdrop(const controls::Control& control) {
   return control.Kind() == ControlKind::Frame || control.Kind() == ControlKind::TabControl;
 }
 
-/// Makes the field of a combo as high as its place, so that it lines up with the text boxes beside it.
-void FitCombo(HWND combo, LONG height) {
-  RECT window{};
-  GetWindowRect(combo, &window);
-  const auto field = static_cast<LONG>(SendMessageW(combo, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0));
-  const LONG wanted = field + height - (window.bottom - window.top);
-  if (wanted > 0 && wanted != field) SendMessageW(combo, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), wanted);
-}
-
 }  // namespace
-
-std::unique_ptr<ControlView> MakeView(FormWindow& window, controls::Control& model) {
-  switch (model.Kind()) {
-    case ControlKind::TextBox:
-      return std::make_unique<TextView>(window, static_cast<controls::TextBox&>(model));
-    case ControlKind::ComboBox:
-      return std::make_unique<ComboView>(window, static_cast<controls::ComboBox&>(model));
-    case ControlKind::ListView:
-      return std::make_unique<LinesView>(window, static_cast<controls::ListView&>(model));
-    case ControlKind::FlexGrid:
-      return std::make_unique<GridView>(window, static_cast<controls::FlexGrid&>(model));
-    case ControlKind::TabControl:
-      return std::make_unique<TabView>(window, static_cast<controls::TabControl&>(model));
-    case ControlKind::CommandButton:
-    case ControlKind::OptionButton:
-    case ControlKind::CheckBox:
-    case ControlKind::Label:
-    case ControlKind::Frame:
-      return std::make_unique<CaptionView>(window, static_cast<controls::Captioned&>(model));
-    default:
-      return nullptr;
-  }
-}
 
 FormWindow::FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner)
     : desktop_(desktop), form_(form), keep_(form.weak_from_this().lock()), metrics_(DpiFor(form, ScreenAround(owner))) {
@@ -100,8 +62,7 @@ FormWindow::FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner
   handle_ = CreateWindowExW(kExtendedStyle, FormClassName(&FormWindow::Procedure), Wide(form.Caption()).c_str(), FrameStyle(form),
                             0, 0, designSize_.cx, designSize_.cy, owner, nullptr, ThisModule(), this);
   if (handle_ == nullptr) RaiseNoWindow(form.Name());
-  for (const WPARAM size : {ICON_SMALL, ICON_BIG})
-    SendMessageW(handle_, WM_SETICON, size, reinterpret_cast<LPARAM>(FormIcon(size)));
+  for (const WPARAM size : {ICON_SMALL, ICON_BIG}) Send(handle_, WM_SETICON, size, FormIcon(size));
   try {
     CreateViews();
     CreateToolTips();
@@ -124,7 +85,6 @@ void FormWindow::Destroy() {
     SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
     DestroyWindow(handle_);
   }
-  for (const auto& [color, brush] : brushes_) DeleteObject(brush);
 }
 
 void FormWindow::CreateViews() {
@@ -143,10 +103,12 @@ void FormWindow::CreateViews() {
 }
 
 void FormWindow::CreateToolTips() {
+  SetLastError(ERROR_SUCCESS);
   toolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
                               CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, handle_, nullptr, ThisModule(), nullptr);
+  if (toolTips_ == nullptr) RaiseNoWindow(form_.Name());
   // Long texts break into lines.
-  SendMessageW(toolTips_, TTM_SETMAXTIPWIDTH, 0, metrics_.Pixels(6000));
+  Send(toolTips_, TTM_SETMAXTIPWIDTH, 0, metrics_.Pixels(6000));
   for (const auto& view : views_) {
     TTTOOLINFOW tool{};
     tool.cbSize = TTTOOLINFOW_V2_SIZE;
@@ -154,7 +116,7 @@ void FormWindow::CreateToolTips() {
     tool.hwnd = handle_;
     tool.uId = reinterpret_cast<UINT_PTR>(view->Handle());
     tool.lpszText = LPSTR_TEXTCALLBACKW;
-    SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    Send(toolTips_, TTM_ADDTOOLW, 0, &tool);
   }
 }
 
@@ -195,85 +157,8 @@ void FormWindow::UpdateFrame() {
 }
 
 void FormWindow::Redraw() {
-  // What the form paints below its transparent frames takes their lines away, unless they are drawn again.
+  // The form paints over the lines of its transparent frames, so they are drawn again.
   RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-}
-
-void FormWindow::UpdateControl(controls::Control& control, Aspect aspect) {
-  const ControlKind kind = control.Kind();
-  // Texts follow at once, so that a person's next key meets them; lists and grids change thousands of times before they are
-  // looked at.
-  const bool atOnce = kind == ControlKind::TextBox || (kind == ControlKind::ComboBox && aspect != Aspect::Items);
-  if (atOnce && (aspect == Aspect::Text || aspect == Aspect::Selection)) {
-    if (ControlView* view = ViewOf(&control)) view->Update(aspect);
-    return;
-  }
-  if (kind == ControlKind::PictureBox) Arrange();
-  dirty_.insert({&control, aspect});
-  if (!std::exchange(flushPosted_, true)) PostMessageW(handle_, kFlush, 0, 0);
-}
-
-void FormWindow::Arrange() {
-  arrange_ = true;
-  if (!std::exchange(flushPosted_, true)) PostMessageW(handle_, kFlush, 0, 0);
-}
-
-void FormWindow::Flush() {
-  flushPosted_ = false;
-  for (const Dirty& change : std::exchange(dirty_, {})) {
-    if (ControlView* view = ViewOf(change.control)) view->Update(change.aspect);
-  }
-  if (std::exchange(arrange_, false)) Place();
-}
-
-RECT FormWindow::PlaceOf(const controls::Control& control) const {
-  const controls::Position& place = control.Place();
-  int left = place.left;
-  int top = place.top;
-  for (const controls::Control* container = control.Container(); container != nullptr; container = container->Container()) {
-    left += container->Place().left;
-    top += container->Place().top;
-  }
-  const RECT moved = EdgesMoved(&control);
-  return {metrics_.Pixels(left) + moved.left, metrics_.Pixels(top) + moved.top, metrics_.Pixels(left + place.width) + moved.right,
-          metrics_.Pixels(top + place.height) + moved.bottom};
-}
-
-RECT FormWindow::EdgesMoved(const controls::Control* control) const {
-  if (control == nullptr) {
-    RECT client{};
-    GetClientRect(handle_, &client);
-    return {0, 0, client.right - metrics_.Pixels(form_.Width()), client.bottom - metrics_.Pixels(form_.Height())};
-  }
-  const RECT around = EdgesMoved(control->Container());
-  const int anchors = control->Anchors();
-  const bool right = (anchors & controls::kAnchorRight) != 0;
-  const bool bottom = (anchors & controls::kAnchorBottom) != 0;
-  const bool left = !right || (anchors & controls::kAnchorLeft) != 0;
-  const bool top = !bottom || (anchors & controls::kAnchorTop) != 0;
-  return {left ? around.left : around.right, top ? around.top : around.bottom, right ? around.right : around.left,
-          bottom ? around.bottom : around.top};
-}
-
-void FormWindow::Place() {
-  for (const auto& view : views_) {
-    controls::Control& control = view->Model();
-    const RECT rect = PlaceOf(control);
-    // Where a window stays as it was, nothing is drawn anew.
-    if (RECT& placed = placed_[view.get()]; !EqualRect(&placed, &rect)) {
-      placed = rect;
-      // A combo's height includes its list.
-      const bool isCombo = control.Kind() == ControlKind::ComboBox;
-      const LONG height = isCombo ? metrics_.Pixels(3600) : rect.bottom - rect.top;
-      SetWindowPos(view->Handle(), nullptr, rect.left, rect.top, rect.right - rect.left, height, SWP_NOZORDER | SWP_NOACTIVATE);
-      if (isCombo) FitCombo(view->Handle(), rect.bottom - rect.top);
-    }
-    bool enabled = control.Enabled();
-    for (controls::Control* c = control.Container(); c != nullptr; c = c->Container()) enabled = enabled && c->Enabled();
-    if (IsWindowEnabled(view->Handle()) != (enabled ? TRUE : FALSE)) EnableWindow(view->Handle(), enabled);
-    const bool isVisible = (GetWindowLongW(view->Handle(), GWL_STYLE) & WS_VISIBLE) != 0;
-    if (isVisible != control.IsShown()) ShowWindow(view->Handle(), isVisible ? SW_HIDE : SW_SHOWNA);
-  }
 }
 
 ControlView* FormWindow::ViewOf(const controls::Control* control) const {
@@ -297,10 +182,13 @@ void FormWindow::FocusMoved(controls::Control* control) {
   const HWND active = GetActiveWindow();
   if (active != nullptr && active != handle_) return;
   ControlView* view = ViewOf(control);
-  movingFocus_ = true;
-  SetFocus(view != nullptr ? view->Handle() : handle_);
-  movingFocus_ = false;
+  FocusWindow(view != nullptr ? view->Handle() : handle_);
   if (view != nullptr) view->Update(Aspect::Selection);
+}
+
+void FormWindow::FocusWindow(HWND window) {
+  const controls::ScopedFlag moving(movingFocus_);
+  SetFocus(window);
 }
 
 void FormWindow::FocusArrived(ControlView& view) {
@@ -314,9 +202,9 @@ void FormWindow::Guarded(const std::function<void()>& work) {
 }
 
 HBRUSH FormWindow::BrushFor(controls::Color color) {
-  HBRUSH& brush = brushes_[color];
-  if (brush == nullptr) brush = CreateSolidBrush(ScreenColor(color));
-  return brush;
+  Owned<HBRUSH>& brush = brushes_[color];
+  if (!brush) brush.reset(CreateSolidBrush(ScreenColor(color)));
+  return brush.get();
 }
 
 LRESULT CALLBACK FormWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -408,13 +296,9 @@ bool FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& ans
     case WM_SETFOCUS:
     case kReturnFocus:
       // Coming back from another window, the system asks the frame; the model knows the control.
-      if (ControlView* view = ViewOf(form_.ActiveControl())) {
-        movingFocus_ = true;
-        SetFocus(view->Handle());
-        movingFocus_ = false;
-      }
+      if (ControlView* view = ViewOf(form_.ActiveControl())) FocusWindow(view->Handle());
       return true;
-    case kFlush:
+    case kFlushMessage:
       Flush();
       return true;
     default:

@@ -13,7 +13,9 @@
 #include "base/controls/form.h"
 #include "base/controls/keyboard.h"
 #include "platform/windows/desktop/control_view.h"
+#include "platform/windows/desktop/messages.h"
 #include "platform/windows/desktop/metrics.h"
+#include "platform/windows/handles.h"
 
 namespace windows {
 
@@ -54,7 +56,7 @@ class FormWindow {
   void Guarded(const std::function<void()>& work);
   ControlView* ViewOf(const controls::Control* control) const;
   /// Takes the tool tip away until the mouse rests again.
-  void PopToolTip() const { SendMessageW(toolTips_, TTM_POP, 0, 0); }
+  void PopToolTip() const { Send(toolTips_, TTM_POP); }
   /// Where on the screen the form's next menu opens: at the line that a key was pressed on, else at the mouse.
   void OpenNextMenuAt(std::optional<POINT> place) { menuPlace_ = place; }
   std::optional<POINT> TakeMenuPlace() { return std::exchange(menuPlace_, std::nullopt); }
@@ -66,22 +68,26 @@ class FormWindow {
     auto operator<=>(const Dirty&) const = default;
   };
 
+  static constexpr UINT kFlushMessage = WM_APP + 1;
+
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
   bool Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer);
   LRESULT Paint(UINT message, WPARAM wParam, LPARAM lParam);
   bool Notify(NMHDR& header, LRESULT& answer);
   void Destroy();
-  /// Somebody else destroys the window: the form is closed once the messages at hand are done.
+  /// Another party destroys the window: the form is closed once the messages at hand are done.
   void BecomeGone();
   void CreateViews();
   void CreateToolTips();
   void ShowToolTip(NMTTDISPINFOW& info);
   void Flush();
+  /// Not by the person: FocusArrived does nothing.
+  void FocusWindow(HWND window);
   void Place();
   /// The form and all forms above it, once the messages at hand are done.
   void Redraw();
   RECT PlaceOf(const controls::Control& control) const;
-  /// How far each edge of a control, or of the form for null, lies from where it was designed, in pixels: an edge follows the
+  /// How far each edge of a control, or of the form for null, is from where it was designed, in pixels: an edge follows the
   /// edge of the container that it is anchored to.
   RECT EdgesMoved(const controls::Control* control) const;
   ControlView* ViewOf(HWND child) const;
@@ -101,7 +107,7 @@ class FormWindow {
   std::vector<std::unique_ptr<ControlView>> views_;
   std::map<HWND, ControlView*> viewByHandle_;
   std::map<const ControlView*, RECT> placed_;  // in pixels of the window
-  std::map<controls::Color, HBRUSH> brushes_;
+  std::map<controls::Color, Owned<HBRUSH>> brushes_;
   std::set<Dirty> dirty_;
   bool flushPosted_ = false;
   bool arrange_ = false;

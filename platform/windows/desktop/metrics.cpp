@@ -35,10 +35,6 @@ int FittingDpi(int dpi, SIZE room, int width, int height) {
 
 Metrics::Metrics(int dpi) : dpi_(dpi), font_(MessageFont(dpi)) {}
 
-Metrics::~Metrics() {
-  DeleteObject(font_);
-}
-
 COLORREF ScreenColor(controls::Color color) {
   if ((color & 0x80000000u) != 0) return GetSysColor(static_cast<int>(color & 0xFFu));
   return color & 0xFFFFFFu;

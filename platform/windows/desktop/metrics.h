@@ -1,11 +1,11 @@
 #pragma once
 
 #include "base/controls/control.h"
-#include "platform/windows/windows_gate.h"
+#include "platform/windows/handles.h"
 
 namespace windows {
 
-/// The screen's resolution in dots an inch, as far as it was asked for by the person: 96 is 100 %.
+/// The screen's resolution in dots per inch, as set by the person: 96 is 100 %.
 int ScreenDpi();
 
 /// The resolution in which a form of this size in twips fits into the room in pixels: the one given, or less where everything was
@@ -17,18 +17,14 @@ class Metrics {
  public:
   /// With the screen's own resolution, or a smaller one for a form that would not fit on the screen.
   explicit Metrics(int dpi);
-  ~Metrics();
-  Metrics(const Metrics&) = delete;
-  Metrics& operator=(const Metrics&) = delete;
 
   int Pixels(int twips) const { return MulDiv(twips, dpi_, 1440); }
   int Twips(int pixels) const { return MulDiv(pixels, 1440, dpi_); }
-  HFONT Font() const { return font_; }
-  int Dpi() const { return dpi_; }
+  HFONT Font() const { return font_.get(); }
 
  private:
   int dpi_;
-  HFONT font_;
+  Owned<HFONT> font_;
 };
 
 /// The screen's colour for a model colour; system colours are looked up.

@@ -5,24 +5,14 @@
 
 #include "platform/windows/com/module_lifetime.h"
 #include "platform/windows/desktop/common_controls.h"
-#include "platform/windows/desktop/control_view.h"
 #include "platform/windows/desktop/metrics.h"
+#include "platform/windows/handles.h"
+#include "platform/windows/window_queries.h"
 
 namespace windows {
 namespace {
 
 constexpr UINT kLook = 500;  // milliseconds
-
-struct TitleSearch {
-  const std::wstring& title;
-  std::vector<HWND> found;
-};
-
-BOOL CALLBACK NoteTitled(HWND window, LPARAM data) {
-  auto& search = *reinterpret_cast<TitleSearch*>(data);
-  if (IsWindowVisible(window) && WindowText(window) == search.title) search.found.push_back(window);
-  return TRUE;
-}
 
 struct Kept {
   HWND window = nullptr;
@@ -46,19 +36,19 @@ LRESULT CALLBACK KeeperProcedure(HWND keeper, UINT message, WPARAM wParam, LPARA
 }  // namespace
 
 std::vector<HWND> WindowsTitled(const std::wstring& title) {
-  TitleSearch search{title, {}};
-  EnumWindows(NoteTitled, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  std::vector<HWND> windows = TopLevelWindows();
+  std::erase_if(windows, [&](HWND window) { return !IsWindowVisible(window) || WindowText(window) != title; });
+  return windows;
 }
 
 void KeepWhileOpen(HWND window, std::vector<late::ObjectPtr> objects) {
   auto kept = std::make_unique<Kept>();
   kept->window = window;
   kept->objects = std::move(objects);
-  const HWND keeper = CreateWindowExW(0, WC_STATICW, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, ThisModule(), nullptr);
-  if (keeper == nullptr || !SetWindowSubclass(keeper, KeeperProcedure, 1, reinterpret_cast<DWORD_PTR>(kept.get()))) return;
+  Owned<HWND> keeper(CreateWindowExW(0, WC_STATICW, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, ThisModule(), nullptr));
+  if (!keeper || !SetWindowSubclass(keeper.get(), KeeperProcedure, 1, reinterpret_cast<DWORD_PTR>(kept.get()))) return;
   static_cast<void>(kept.release());  // the keeper's, until it is destroyed
-  SetTimer(keeper, 1, kLook, nullptr);
+  SetTimer(keeper.release(), 1, kLook, nullptr);
 }
 
 }  // namespace windows

@@ -8,48 +8,34 @@
 #include "base/controls/menu.h"
 #include "base/controls/text_box.h"
 #include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/list_window.h"
 #include "platform/windows/desktop/shown_objects.h"
+#include "platform/windows/handles.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 
 namespace windows {
 namespace {
 
 constexpr int kMostRefusals = 3;  // of a form that must close because its window is gone
 
-struct WindowSearch {
-  HWND except;
-  std::vector<HWND> found;
-};
-
-/// A function, no lambda: the 32-bit system calls back with its own calling convention.
-BOOL CALLBACK NoteEnabledWindow(HWND window, LPARAM data) {
-  auto& search = *reinterpret_cast<WindowSearch*>(data);
-  if (window != search.except && IsWindowVisible(window) && IsWindowEnabled(window)) search.found.push_back(window);
-  return TRUE;
-}
-
-BOOL CALLBACK NoteUnownedWindow(HWND window, LPARAM data) {
-  if (!IsWindowVisible(window) || GetWindow(window, GW_OWNER) != nullptr) return TRUE;
-  *reinterpret_cast<HWND*>(data) = window;
-  return FALSE;
-}
-
 /// What a window of this thread is put over while none is active, because the person has switched to another program: the first
 /// visible window without an owner, or what was opened over it last. Null when there is none.
 HWND MainWindowOfThread() {
-  HWND found = nullptr;
-  EnumThreadWindows(GetCurrentThreadId(), NoteUnownedWindow, reinterpret_cast<LPARAM>(&found));
-  if (found == nullptr) return nullptr;
-  const HWND last = GetLastActivePopup(found);
+  const std::vector<HWND> windows = WindowsOfThread();
+  const auto found = std::ranges::find_if(
+      windows, [](HWND window) { return IsWindowVisible(window) && GetWindow(window, GW_OWNER) == nullptr; });
+  if (found == windows.end()) return nullptr;
+  const HWND last = GetLastActivePopup(*found);
   const bool isHere = last != nullptr && IsWindowVisible(last) && GetWindowThreadProcessId(last, nullptr) == GetCurrentThreadId();
-  return isHere ? last : found;
+  return isHere ? last : *found;
 }
 
-/// The visible, enabled top-level windows of this thread but `except`.
+/// The visible, enabled top-level windows of this thread except one.
 std::vector<HWND> EnabledWindowsOfThread(HWND except) {
-  WindowSearch search{except, {}};
-  EnumThreadWindows(GetCurrentThreadId(), NoteEnabledWindow, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  std::vector<HWND> windows = WindowsOfThread();
+  std::erase_if(windows, [&](HWND window) { return window == except || !IsWindowVisible(window) || !IsWindowEnabled(window); });
+  return windows;
 }
 
 }  // namespace
@@ -182,7 +168,7 @@ void WindowsDesktop::Beep() {
 
 long WindowsDesktop::RowsShown(const controls::Control& list) const {
   const HWND window = HandleOf(list);
-  const long rows = window != nullptr ? static_cast<long>(SendMessageW(window, LVM_GETCOUNTPERPAGE, 0, 0)) : 0;
+  const long rows = window != nullptr ? ListWindow(window).CountPerPage() : 0;
   return rows > 0 ? rows : Desktop::RowsShown(list);
 }
 
@@ -218,22 +204,22 @@ controls::Answer WindowsDesktop::MsgBox(controls::Form* owner, const controls::M
 }
 
 controls::Menu* WindowsDesktop::PopupMenu(controls::Form& form, controls::Menu& menu) {
-  const HMENU popup = CreatePopupMenu();
+  const Owned<HMENU> popup(CreatePopupMenu());
   const auto& entries = menu.Entries();
   for (std::size_t i = 0; i < entries.size(); ++i) {
     if (!entries[i]->Visible()) continue;
     if (entries[i]->IsSeparator()) {
-      AppendMenuW(popup, MF_SEPARATOR, 0, nullptr);
+      AppendMenuW(popup.get(), MF_SEPARATOR, 0, nullptr);
     } else {
-      AppendMenuW(popup, entries[i]->Enabled() ? MF_STRING : MF_STRING | MF_GRAYED, i + 1, Wide(entries[i]->Caption()).c_str());
+      AppendMenuW(popup.get(), entries[i]->Enabled() ? MF_STRING : MF_STRING | MF_GRAYED, i + 1,
+                  Wide(entries[i]->Caption()).c_str());
     }
   }
   POINT place{};
   GetCursorPos(&place);
   if (FormWindow* window = WindowOf(form)) place = window->TakeMenuPlace().value_or(place);
   const auto chosen = static_cast<std::size_t>(
-      TrackPopupMenuEx(popup, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, place.x, place.y, OwnerFor(&form), nullptr));
-  DestroyMenu(popup);
+      TrackPopupMenuEx(popup.get(), TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, place.x, place.y, OwnerFor(&form), nullptr));
   return chosen == 0 ? nullptr : entries[chosen - 1];
 }
 

@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/windows/desktop/control_view.h"
+#include "platform/windows/desktop/list_window.h"
 #include "platform/windows/desktop/metrics.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 #include "tests/base/controls/counter_form.h"
 #include "tests/windows/desktop/windows_driver.h"
 

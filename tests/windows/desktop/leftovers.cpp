@@ -1,17 +1,8 @@
 #include "tests/windows/desktop/leftovers.h"
 
-#include "platform/windows/windows_gate.h"
+#include "platform/windows/window_queries.h"
 
 namespace counter {
-namespace {
-
-BOOL CALLBACK CountOne(HWND, LPARAM data) {
-  ++*reinterpret_cast<std::size_t*>(data);
-  return TRUE;
-}
-
-}  // namespace
-
 std::size_t GraphicsObjects() {
   if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return counted;
   // Wine does not count them itself, but keeps the classic table: entries of 24 bytes with the object's type, 0 for a free one,
@@ -32,14 +23,9 @@ std::size_t GraphicsObjects() {
 }
 
 std::size_t Windows() {
-  std::size_t count = 0;
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM data) CALLBACK -> BOOL {
-        EnumChildWindows(window, CountOne, data);
-        return CountOne(window, data);
-      },
-      reinterpret_cast<LPARAM>(&count));
+  const std::vector<HWND> topLevel = windows::WindowsOfThread();
+  std::size_t count = topLevel.size();
+  for (HWND window : topLevel) count += windows::WindowsInside(window).size();
   for (HWND window = nullptr; (window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr;) {
     count += GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
   }

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
-#include "platform/windows/desktop/control_view.h"
-#include "platform/windows/desktop/list_columns.h"
+#include "platform/windows/desktop/list_window.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 #include "tests/base/controls/counter_form.h"
 #include "tests/windows/desktop/windows_driver.h"
 
@@ -49,10 +49,7 @@ class ListsOnScreen : public testing::Test {
   }
   /// A point inside a cell, both counted from 0; the row may lie below the last one.
   POINT Cell(controls::Control& list, int row, int column) {
-    RECT cell{};
-    cell.top = column;
-    cell.left = LVIR_LABEL;
-    SendMessageW(Window(list), LVM_GETSUBITEMRECT, 0, reinterpret_cast<LPARAM>(&cell));
+    const RECT cell = windows::ListWindow(Window(list)).CellPlace(0, column);
     return {cell.left + 5, cell.top + 4 + row * (cell.bottom - cell.top)};
   }
   /// A mouse button goes down and up; `second` for the second half of a double click.
@@ -69,7 +66,7 @@ class ListsOnScreen : public testing::Test {
   }
   /// The mouse takes the right edge of a column along, by pixels. Whether it could take hold of it.
   bool Drag(controls::Control& list, int column, int by) {
-    const HWND heading = windows::HeadingOf(Window(list));
+    const HWND heading = windows::ListWindow(Window(list)).Heading();
     RECT item{};
     SendMessageW(heading, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
     const int middle = (item.top + item.bottom) / 2;
@@ -191,7 +188,7 @@ TEST_F(ListsOnScreen, AColumnPulledShutCanBePulledOpen) {
 TEST_F(ListsOnScreen, AnArrowInTheHeadingShowsTheOrder) {
   person.Work(*form, [&] {
     FillStock();
-    const HWND heading = windows::HeadingOf(Window(grid));
+    const HWND heading = windows::ListWindow(Window(grid)).Heading();
     const auto shown = [&](long column, bool ascending) {
       grid.ShowSortedBy(column, ascending);
       desktop.DoEvents();

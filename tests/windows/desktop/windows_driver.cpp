@@ -6,10 +6,12 @@
 #include "base/controls/keyboard.h"
 #include "base/controls/text_box.h"
 #include "base/vb/text.h"
-#include "platform/windows/desktop/control_view.h"
+#include "platform/windows/desktop/clipboard.h"
+#include "platform/windows/desktop/list_window.h"
+#include "platform/windows/desktop/messages.h"
 #include "platform/windows/desktop/metrics.h"
-#include "platform/windows/desktop/text_view.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 
 namespace counter {
 namespace {
@@ -40,18 +42,10 @@ class Held {
 
 /// The message box of this thread that is open, null for none.
 HWND OpenMessageBox() {
-  HWND found = nullptr;
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM data) CALLBACK -> BOOL {
-        std::array<wchar_t, 16> name{};
-        GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-        if (std::wstring_view(name.data()) != L"#32770" || !IsWindowVisible(window)) return TRUE;
-        *reinterpret_cast<HWND*>(data) = window;
-        return FALSE;
-      },
-      reinterpret_cast<LPARAM>(&found));
-  return found;
+  for (HWND window : windows::WindowsOfThread()) {
+    if (windows::IsOfClass(window, L"#32770") && IsWindowVisible(window)) return window;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -109,15 +103,13 @@ void DrivenDesktop::AnswerMessageBox() {
   const HWND box = OpenMessageBox();
   if (box == nullptr || answers.empty()) return;
   messageOwners.push_back(GetWindow(box, GW_OWNER));
-  for (HWND child = GetWindow(box, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-    std::array<wchar_t, 16> name{};
-    GetClassNameW(child, name.data(), static_cast<int>(name.size()));
+  for (HWND child : windows::WindowsInside(box)) {
     const std::wstring text = windows::WindowText(child);
-    if (std::wstring_view(name.data()) == L"Static" && !text.empty()) messages.push_back(windows::Utf8(text));
+    if (windows::IsOfClass(child, L"Static") && !text.empty()) messages.push_back(windows::Utf8(text));
   }
   const auto answer = static_cast<int>(answers.front());
   answers.pop_front();
-  SendMessageW(box, WM_COMMAND, static_cast<WPARAM>(answer), reinterpret_cast<LPARAM>(GetDlgItem(box, answer)));
+  windows::Send(box, WM_COMMAND, answer, GetDlgItem(box, answer));
 }
 
 void DrivenDesktop::LeaveMenu() {
@@ -202,18 +194,15 @@ void WindowsDriver::Pick(controls::ComboBox& combo, int entry) {
   const HWND window = desktop_.HandleOf(combo);
   if (!combo.HasFocus()) SetFocus(window);
   desktop_.DoEvents();
-  SendMessageW(window, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
-  SendMessageW(GetParent(window), WM_COMMAND, static_cast<WPARAM>(MAKELONG(GetDlgCtrlID(window), CBN_SELENDOK)),
-               reinterpret_cast<LPARAM>(window));
+  windows::Send(window, CB_SETCURSEL, entry);
+  windows::Send(GetParent(window), WM_COMMAND, MAKELONG(GetDlgCtrlID(window), CBN_SELENDOK), window);
   desktop_.DoEvents();
 }
 
 void WindowsDriver::ClickLine(controls::ListView& list, int line) {
   desktop_.DoEvents();
   const HWND window = desktop_.HandleOf(list);
-  RECT place{};
-  place.left = LVIR_LABEL;
-  SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(line - 1), reinterpret_cast<LPARAM>(&place));
+  const RECT place = windows::ListWindow(window).ItemPlace(line - 1, LVIR_LABEL).value();
   ClickAt(window, place.left + 4, (place.top + place.bottom) / 2);
 }
 
@@ -221,34 +210,34 @@ void WindowsDriver::CheckLine(controls::ListView& list, int line, bool checked) 
   desktop_.DoEvents();
   if (list.Item(line).Checked() == checked) return;
   const HWND window = desktop_.HandleOf(list);
-  RECT label{};
-  label.left = LVIR_LABEL;
-  SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(line - 1), reinterpret_cast<LPARAM>(&label));
+  const RECT label = windows::ListWindow(window).ItemPlace(line - 1, LVIR_LABEL).value();
   ClickAt(window, label.left - 10, (label.top + label.bottom) / 2);
 }
 
 void WindowsDriver::ClickCell(controls::FlexGrid& grid, long row, long col) {
   desktop_.DoEvents();
   const HWND window = desktop_.HandleOf(grid);
-  RECT place{};
-  place.top = static_cast<LONG>(col);
-  place.left = LVIR_LABEL;
-  SendMessageW(window, LVM_GETSUBITEMRECT, static_cast<WPARAM>(row - grid.FixedRows()), reinterpret_cast<LPARAM>(&place));
+  const RECT place = windows::ListWindow(window).CellPlace(static_cast<int>(row - grid.FixedRows()), static_cast<int>(col));
   ClickAt(window, place.left + 4, (place.top + place.bottom) / 2);
 }
 
 void WindowsDriver::ClickHeading(controls::FlexGrid& grid, long col) {
   desktop_.DoEvents();
-  const auto header = reinterpret_cast<HWND>(SendMessageW(desktop_.HandleOf(grid), LVM_GETHEADER, 0, 0));
-  RECT place{};
-  SendMessageW(header, HDM_GETITEMRECT, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&place));
-  ClickAt(header, (place.left + place.right) / 2, (place.top + place.bottom) / 2);
+  const windows::ListWindow list(desktop_.HandleOf(grid));
+  const RECT place = list.HeadingPlace(col).value();
+  ClickAt(list.Heading(), (place.left + place.right) / 2, (place.top + place.bottom) / 2);
 }
 
 std::string WindowsDriver::Read(controls::Control& control, std::string_view property) {
   const std::string model = control.Get(property).TextOrEmpty();
   const HWND window = desktop_.HandleOf(control);
-  if (window == nullptr) return model;
+  // A control that cannot be shown in the form's state has nothing to read from; one that is on the screen has a window.
+  if (window == nullptr) {
+    EXPECT_FALSE(control.Owner().IsShown() && control.Kind() != controls::ControlKind::PictureBox &&
+                 control.Kind() != controls::ControlKind::Menu)
+        << control.Name() << " has no window";
+    return model;
+  }
   desktop_.DoEvents();
   std::string shown = model;
   const bool isCombo = control.Kind() == controls::ControlKind::ComboBox;

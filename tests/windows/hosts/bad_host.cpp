@@ -9,6 +9,7 @@
 #include "base/vb/error.h"
 #include "platform/windows/com/com_factory.h"
 #include "platform/windows/com/dispatch_object.h"
+#include "platform/windows/window_queries.h"
 #include "tests/windows/desktop/windows_refused.h"
 #include "tests/windows/hosts/bad_helper.h"
 #include "tests/windows/hosts/hands.h"
@@ -105,7 +106,8 @@ HWND ChildOfKind(HWND form, const wchar_t* kind) {
   for (HWND child = GetWindow(form, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
     RECT place{};
     GetWindowRect(child, &place);
-    if (!IsA(child, kind) || !IsWindowVisible(child) || place.right - place.left <= most.right - most.left) continue;
+    if (!windows::IsOfClass(child, kind) || !IsWindowVisible(child) || place.right - place.left <= most.right - most.left)
+      continue;
     most = place;
     widest = child;
   }

@@ -1,64 +1,39 @@
 #include "tests/windows/hosts/hands.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <utility>
 
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 
 namespace hosts {
+
+using windows::IsOfClass;
+
 namespace {
 
 constexpr UINT kLook = 20;  // milliseconds
 
-BOOL CALLBACK NoteForm(HWND window, LPARAM found) {
-  if (IsA(window, L"ShopForm") && IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-  return TRUE;
-}
-
-struct Wanted {
-  std::string caption;
-  HWND found = nullptr;
-};
-
-BOOL CALLBACK TakeCaptioned(HWND window, LPARAM data) {
-  auto& wanted = *reinterpret_cast<Wanted*>(data);
-  std::string caption = TextOf(window);
-  std::erase(caption, '&');
-  if (IsWindowVisible(window) && caption == wanted.caption) wanted.found = window;
-  return wanted.found == nullptr;
-}
-
-BOOL CALLBACK AppendLabel(HWND child, LPARAM text) {
-  if (IsA(child, L"Static")) *reinterpret_cast<std::string*>(text) += TextOf(child);
-  return TRUE;
-}
-
 }  // namespace
 
 std::string TextOf(HWND window) {
-  std::array<wchar_t, 1024> text{};
-  GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-  return windows::Utf8(text.data());
-}
-
-bool IsA(HWND window, const wchar_t* kind) {
-  std::array<wchar_t, 64> name{};
-  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-  return lstrcmpiW(name.data(), kind) == 0;
+  return windows::Utf8(windows::WindowText(window));
 }
 
 HWND ChildCaptioned(HWND form, const std::string& caption) {
-  Wanted wanted{caption};
-  EnumChildWindows(form, TakeCaptioned, reinterpret_cast<LPARAM>(&wanted));
-  return wanted.found;
+  for (HWND window : windows::WindowsInside(form)) {
+    std::string text = TextOf(window);
+    std::erase(text, '&');
+    if (IsWindowVisible(window) && text == caption) return window;
+  }
+  return nullptr;
 }
 
 std::vector<HWND> OpenForms() {
-  std::vector<HWND> found;
-  EnumThreadWindows(GetCurrentThreadId(), NoteForm, reinterpret_cast<LPARAM>(&found));
-  return found;
+  std::vector<HWND> forms = windows::WindowsOfThread();
+  std::erase_if(forms, [](HWND window) { return !IsOfClass(window, L"ShopForm") || !IsWindowVisible(window); });
+  return forms;
 }
 
 Hands::Hands() : timer_(SetTimer(nullptr, 0, kLook, Look)) {
@@ -93,29 +68,19 @@ std::string Hands::Said() const {
 
 void CALLBACK Hands::Look(HWND, UINT, UINT_PTR, DWORD) {
   if (present_ == nullptr) return;
-  std::vector<HWND> usable;
-  EnumThreadWindows(GetCurrentThreadId(), Note, reinterpret_cast<LPARAM>(&usable));
-  if (!usable.empty()) present_->Meet(usable.front());
-}
-
-BOOL CALLBACK Hands::Note(HWND window, LPARAM found) {
-  if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-  if (IsA(window, L"#32770") || IsA(window, L"ShopForm")) reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-  return TRUE;
-}
-
-void Hands::Meet(HWND window) {
-  if (IsA(window, L"#32770")) {
-    MeetMessage(window);
-  } else {
-    MeetForm(window);
+  for (HWND window : windows::WindowsOfThread()) {
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+    if (IsOfClass(window, L"#32770")) return present_->MeetMessage(window);
+    if (IsOfClass(window, L"ShopForm")) return present_->MeetForm(window);
   }
 }
 
 void Hands::MeetMessage(HWND box) {
   if (std::exchange(answered_, box) == box) return;  // it is on its way
   Message message{TextOf(box), {}};
-  EnumChildWindows(box, AppendLabel, reinterpret_cast<LPARAM>(&message.text));
+  for (HWND child : windows::WindowsInside(box)) {
+    if (IsOfClass(child, L"Static")) message.text += TextOf(child);
+  }
   messages.push_back(std::move(message));
   if (onMessage) return std::exchange(onMessage, nullptr)(box);
   for (const int answer : {IDNO, IDCANCEL, IDOK}) {

@@ -11,7 +11,6 @@
 namespace hosts {
 
 std::string TextOf(HWND window);
-bool IsA(HWND window, const wchar_t* kind);
 /// The visible child with this caption, access key marks left out; null when there is none.
 HWND ChildCaptioned(HWND form, const std::string& caption);
 /// The visible top-level windows of this thread that are the component's forms.
@@ -44,8 +43,6 @@ class Hands {
 
  private:
   static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD);
-  static BOOL CALLBACK Note(HWND window, LPARAM found);
-  void Meet(HWND window);
   void MeetMessage(HWND box);
   void MeetForm(HWND form);
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/windows/wide_text.h"
-#include "platform/windows/windows_gate.h"
+#include "platform/windows/window_queries.h"
 
 namespace {
 
@@ -14,15 +14,7 @@ constexpr DWORD kLook = 100;          // milliseconds between two looks
 constexpr int kMostLooks = 10 * 180;  // then the program is given up
 
 std::string TextOf(HWND window) {
-  wchar_t text[1024] = L"";
-  GetWindowTextW(window, text, 1024);
-  return windows::Utf8(text);
-}
-
-std::string ClassOf(HWND window) {
-  wchar_t name[256] = L"";
-  GetClassNameW(window, name, 256);
-  return windows::Utf8(name);
+  return windows::Utf8(windows::WindowText(window));
 }
 
 struct Looker {
@@ -33,33 +25,26 @@ struct Looker {
 /// The text of a message box: its labels one after the other.
 std::string MessageOf(HWND box) {
   std::string text;
-  EnumChildWindows(
-      box,
-      [](HWND child, LPARAM data) CALLBACK -> BOOL {
-        if (ClassOf(child) == "Static") *reinterpret_cast<std::string*>(data) += TextOf(child);
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&text));
+  for (HWND child : windows::WindowsInside(box)) {
+    if (windows::IsOfClass(child, L"Static")) text += TextOf(child);
+  }
   for (char& c : text) {
     if (c == '\n' || c == '\r') c = ' ';
   }
   return text;
 }
 
-BOOL CALLBACK Answer(HWND window, LPARAM data) {
-  auto& looker = *reinterpret_cast<Looker*>(data);
+void Answer(Looker& looker, HWND window) {
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
-  if (process != looker.process || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-  const std::string kind = ClassOf(window);
-  if (kind == "#32770") {
+  if (process != looker.process || !IsWindowVisible(window) || !IsWindowEnabled(window)) return;
+  if (windows::IsOfClass(window, L"#32770")) {
     if (looker.answered.insert(window).second) std::printf("message: %s\n", MessageOf(window).c_str());
     PostMessageW(window, WM_COMMAND, IDOK, 0);
-  } else if (kind == "ShopForm") {
+  } else if (windows::IsOfClass(window, L"ShopForm")) {
     if (looker.answered.insert(window).second) std::printf("form: %s\n", TextOf(window).c_str());
     PostMessageW(window, WM_CLOSE, 0, 0);
   }
-  return TRUE;
 }
 
 }  // namespace
@@ -77,7 +62,7 @@ int wmain(int count, wchar_t** words) {
   Looker looker{program.dwProcessId, {}};
   int looks = 0;
   while (WaitForSingleObject(program.hProcess, kLook) == WAIT_TIMEOUT && ++looks < kMostLooks) {
-    EnumWindows(Answer, reinterpret_cast<LPARAM>(&looker));
+    for (HWND window : windows::TopLevelWindows()) Answer(looker, window);
     std::fflush(stdout);
   }
   DWORD code = 0;

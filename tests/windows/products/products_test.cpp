@@ -9,6 +9,7 @@
 #include "platform/windows/com/late_dispatch.h"
 #include "platform/windows/com/variant.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 #include "tests/windows/desktop/leftovers.h"
 
 using late::Value;
@@ -25,12 +26,6 @@ bool CanUnloadNow(const wchar_t* server) {
   return module && ask && ask() == S_OK;
 }
 
-bool IsA(HWND window, const wchar_t* kind) {
-  wchar_t name[64] = L"";
-  GetClassNameW(window, name, 64);
-  return std::wstring_view(name) == kind;
-}
-
 /// While it lives, every form and message of this thread is closed as it comes up.
 class PressingOn {
  public:
@@ -44,21 +39,17 @@ class PressingOn {
 
  private:
   static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) {
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM) CALLBACK -> BOOL {
-          if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-          if (IsA(window, L"#32770")) {
-            ++messages;
-            PostMessageW(window, WM_COMMAND, IDOK, 0);
-          }
-          if (IsA(window, L"ShopForm")) {
-            ++forms;
-            PostMessageW(window, WM_CLOSE, 0, 0);
-          }
-          return TRUE;
-        },
-        0);
+    for (HWND window : windows::WindowsOfThread()) {
+      if (!IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+      if (windows::IsOfClass(window, L"#32770")) {
+        ++messages;
+        PostMessageW(window, WM_COMMAND, IDOK, 0);
+      }
+      if (windows::IsOfClass(window, L"ShopForm")) {
+        ++forms;
+        PostMessageW(window, WM_CLOSE, 0, 0);
+      }
+    }
   }
 
   UINT_PTR timer_;

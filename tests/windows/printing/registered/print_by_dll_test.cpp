@@ -3,31 +3,21 @@
 
 #include "platform/windows/com/com_factory.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 #include "tests/windows/printing/recording_server.h"
 
 namespace {
 
 std::string TextOf(HWND window) {
-  wchar_t text[256] = L"";
-  GetWindowTextW(window, text, 256);
-  return windows::Utf8(text);
+  return windows::Utf8(windows::WindowText(window));
 }
 
-bool IsA(HWND window, const wchar_t* kind) {
-  wchar_t name[64] = L"";
-  GetClassNameW(window, name, 64);
-  return std::wstring_view(name) == kind;
-}
-
-struct Wanted {
-  std::string caption;
-  HWND found = nullptr;
-};
-
-BOOL CALLBACK TakeVisibleChild(HWND window, LPARAM data) {
-  auto& wanted = *reinterpret_cast<Wanted*>(data);
-  if (IsWindowVisible(window) && IsWindowEnabled(window) && TextOf(window) == wanted.caption) wanted.found = window;
-  return wanted.found == nullptr;
+/// The button or other window with this text that can be used, null for none.
+HWND UsableChild(HWND form, const std::string& text) {
+  for (HWND window : windows::WindowsInside(form)) {
+    if (IsWindowVisible(window) && IsWindowEnabled(window) && TextOf(window) == text) return window;
+  }
+  return nullptr;
 }
 
 /// Somebody at the windows of this thread: takes one step whenever the form that it is for has come up.
@@ -52,26 +42,28 @@ class Person {
   static inline HWND activeAtLast = nullptr;  ///< the window in front as the last step was taken
 
  private:
-  static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) { EnumThreadWindows(GetCurrentThreadId(), Meet, 0); }
+  static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) {
+    for (HWND window : windows::WindowsOfThread()) {
+      if (IsWindowVisible(window) && IsWindowEnabled(window) && Meet(window)) return;
+    }
+  }
 
-  static BOOL CALLBACK Meet(HWND window, LPARAM) {
-    if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-    if (IsA(window, L"#32770")) {
+  /// Whether something was done with the window.
+  static bool Meet(HWND window) {
+    if (windows::IsOfClass(window, L"#32770")) {
       messages.push_back(TextOf(window));
       PostMessageW(window, WM_COMMAND, IDOK, 0);
-      return FALSE;
+      return true;
     }
-    if (!IsA(window, L"ShopForm")) return TRUE;
+    if (!windows::IsOfClass(window, L"ShopForm")) return false;
     if (steps_.empty()) {
       PostMessageW(window, WM_CLOSE, 0, 0);  // what is left open would keep the test for ever
-      return FALSE;
+      return true;
     }
-    const Step& step = steps_.front();
-    if (TextOf(window) != step.form) return TRUE;
-    Wanted wanted{step.button};
-    if (!step.button.empty()) EnumChildWindows(window, TakeVisibleChild, reinterpret_cast<LPARAM>(&wanted));
-    if (!step.button.empty() && !wanted.found) return TRUE;
-    const HWND button = wanted.found;
+    const Step step = steps_.front();
+    if (TextOf(window) != step.form) return false;
+    const HWND button = step.button.empty() ? nullptr : UsableChild(window, step.button);
+    if (!step.button.empty() && button == nullptr) return false;
     activeAtLast = GetActiveWindow();
     steps_.erase(steps_.begin());
     if (button) {
@@ -80,7 +72,7 @@ class Person {
     } else {
       PostMessageW(window, WM_CLOSE, 0, 0);
     }
-    return FALSE;
+    return true;
   }
 
   static inline std::vector<Step> steps_;

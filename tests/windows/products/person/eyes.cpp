@@ -5,6 +5,7 @@
 
 #include "platform/windows/desktop/common_controls.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 #include "tests/windows/products/person/patience.h"
 
 namespace person {
@@ -12,11 +13,6 @@ namespace {
 
 constexpr std::size_t kLongestText = 1024;
 constexpr UINT kAnswerTime = 20'000;  // milliseconds
-
-BOOL CALLBACK Note(HWND window, LPARAM data) {
-  if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
-  return TRUE;
-}
 
 /// What is exchanged with a list in its own process.
 struct Letter {
@@ -63,19 +59,18 @@ std::string Quoted(const std::string& text) {
 }
 
 std::vector<HWND> WindowsOf(DWORD process) {
-  std::vector<HWND> windows;
-  EnumWindows(Note, reinterpret_cast<LPARAM>(&windows));
-  std::erase_if(windows, [&](HWND window) {
+  std::vector<HWND> found = windows::TopLevelWindows();
+  std::erase_if(found, [&](HWND window) {
     DWORD owner = 0;
     GetWindowThreadProcessId(window, &owner);
-    return owner != process;
+    return owner != process || !IsWindowVisible(window);
   });
-  return windows;
+  return found;
 }
 
 std::vector<HWND> ChildrenOf(HWND window) {
-  std::vector<HWND> children;
-  EnumChildWindows(window, Note, reinterpret_cast<LPARAM>(&children));
+  std::vector<HWND> children = windows::WindowsInside(window);
+  std::erase_if(children, [](HWND child) { return !IsWindowVisible(child); });
   return children;
 }
 

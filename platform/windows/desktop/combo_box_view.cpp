@@ -1,64 +1,65 @@
-#include "platform/windows/desktop/combo_view.h"
+#include "platform/windows/desktop/combo_box_view.h"
 
+#include "base/controls/scoped_flag.h"
 #include "base/vb/text.h"
+#include "platform/windows/desktop/clipboard.h"
 #include "platform/windows/desktop/form_window.h"
-#include "platform/windows/desktop/text_view.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 
 namespace windows {
 
 using controls::ComboStyle;
 
-void ComboView::Create(HWND parent, int id) {
+void ComboBoxView::Create(HWND parent, int id) {
   const DWORD style = combo_.Style() == ComboStyle::DropDownList ? CBS_DROPDOWNLIST : CBS_DROPDOWN | CBS_AUTOHSCROLL;
   CreateChild(parent, id, WC_COMBOBOXW, "", style | WS_TABSTOP | WS_VSCROLL);
   ShowEntries();
 }
 
-void ComboView::Update(controls::Aspect aspect) {
+void ComboBoxView::Update(controls::Aspect aspect) {
   ControlView::Update(aspect);
   if (aspect == controls::Aspect::Items) ShowEntries();
   if (aspect == controls::Aspect::Text || aspect == controls::Aspect::Selection) ShowText();
 }
 
-void ComboView::ShowEntries() {
-  updating_ = true;
-  SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
-  SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
+void ComboBoxView::ShowEntries() {
+  const controls::ScopedFlag updating(updating_);
+  Send(Handle(), WM_SETREDRAW, FALSE);
+  Send(Handle(), CB_RESETCONTENT);
   for (int index = 0; index < combo_.ListCount(); ++index) {
-    SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(combo_.List(index)).c_str()));
+    Send(Handle(), CB_ADDSTRING, 0, Wide(combo_.List(index)).c_str());
   }
-  SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+  Send(Handle(), WM_SETREDRAW, TRUE);
   InvalidateRect(Handle(), nullptr, TRUE);
-  updating_ = false;
   ShowText();
 }
 
-void ComboView::ShowText() {
+void ComboBoxView::ShowText() {
   if (pasting_) return;
-  updating_ = true;
-  SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(combo_.ListIndex()), 0);
+  const controls::ScopedFlag updating(updating_);
+  Send(Handle(), CB_SETCURSEL, combo_.ListIndex());
   if (combo_.Style() == ComboStyle::DropDown) {
     const std::string text = combo_.Text();
     const std::wstring wide = Wide(text);
     if (WindowText(Handle()) != wide) SetWindowTextW(Handle(), wide.c_str());
     const auto units = [&](int characters) { return static_cast<WORD>(Wide(vb::Left(text, characters)).size()); };
-    SendMessageW(Handle(), CB_SETEDITSEL, 0, MAKELPARAM(units(combo_.SelStart()), units(combo_.SelStart() + combo_.SelLength())));
+    Send(Handle(), CB_SETEDITSEL, 0, MAKELPARAM(units(combo_.SelStart()), units(combo_.SelStart() + combo_.SelLength())));
   }
-  updating_ = false;
 }
 
-void ComboView::OnCommand(int code) {
+void ComboBoxView::OnCommand(int code) {
   if (updating_) return;
   if (code == CBN_SETFOCUS) {
     Window().FocusArrived(*this);  // a click into the typed text reaches the edit window alone
   } else if (code == CBN_SELENDOK) {
-    const auto index = static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0));
-    SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
+    const int index = SelectedEntry();
+    Send(Handle(), CB_SHOWDROPDOWN, FALSE);
     if (index >= 0) combo_.Pick(index);
   } else if (code == CBN_SELCHANGE) {
-    // Arrows in the open list choose as they do in the closed one, so that whatever key or click leaves it, what is shown is so.
-    const auto index = static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0));
+    // Arrows in the open list pick as they do in the closed one, so that the entry shown is the picked one however the list
+    // closes.
+    const int index = SelectedEntry();
     if (index >= 0 && index != combo_.ListIndex()) combo_.Pick(index);
   } else if (code == CBN_CLOSEUP) {
     ShowText();
@@ -67,7 +68,7 @@ void ComboView::OnCommand(int code) {
   }
 }
 
-bool ComboView::WantsNatively(const MSG& message) const {
+bool ComboBoxView::WantsNatively(const MSG& message) const {
   if (message.message == WM_SYSKEYDOWN) return message.wParam == VK_DOWN || message.wParam == VK_UP;
   if (message.message != WM_KEYDOWN) return false;
   const WPARAM key = message.wParam;
@@ -78,23 +79,22 @@ bool ComboView::WantsNatively(const MSG& message) const {
   return combo_.Style() == ComboStyle::DropDown && (key == VK_LEFT || key == VK_RIGHT || key == VK_HOME || key == VK_END);
 }
 
-void ComboView::Pull() {
+void ComboBoxView::Pull() {
   if (combo_.Style() != ComboStyle::DropDown || IsDropped()) return;
   const std::wstring text = WindowText(Handle());
   if (const std::string typed = Utf8(text); typed != combo_.Text()) combo_.TakeEdited(typed);
   DWORD start = 0;
   DWORD end = 0;
-  SendMessageW(Handle(), CB_GETEDITSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  Send(Handle(), CB_GETEDITSEL, &start, &end);
   const auto characters = [&](DWORD units) {
     return static_cast<int>(vb::Len(Utf8(std::wstring_view(text).substr(0, std::min<std::size_t>(units, text.size())))));
   };
-  updating_ = true;
+  const controls::ScopedFlag updating(updating_);
   combo_.SetSelStart(characters(start));
   combo_.SetSelLength(characters(end) - characters(start));
-  updating_ = false;
 }
 
-bool ComboView::Copy() {
+bool ComboBoxView::Copy() {
   if (combo_.Style() != ComboStyle::DropDown) return false;
   Pull();
   const std::string selected = vb::Mid(combo_.Text(), combo_.SelStart() + 1, combo_.SelLength());
@@ -102,13 +102,13 @@ bool ComboView::Copy() {
   return true;
 }
 
-bool ComboView::Cut() {
+bool ComboBoxView::Cut() {
   if (!Copy()) return false;
   if (combo_.SelLength() > 0) combo_.TypeOver("");
   return true;
 }
 
-bool ComboView::Paste() {
+bool ComboBoxView::Paste() {
   if (combo_.Style() != ComboStyle::DropDown) return false;
   Pull();
   const auto keep = combo_.Owner().weak_from_this().lock();
@@ -121,7 +121,7 @@ bool ComboView::Paste() {
   return true;
 }
 
-std::optional<LRESULT> ComboView::Intercept(UINT message, WPARAM, LPARAM) {
+std::optional<LRESULT> ComboBoxView::Intercept(UINT message, WPARAM, LPARAM) {
   if (message == WM_PASTE && Paste()) return 0;
   return std::nullopt;
 }

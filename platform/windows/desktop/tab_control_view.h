@@ -7,9 +7,9 @@
 
 namespace windows {
 
-class TabView : public ControlView {
+class TabControlView : public ControlView {
  public:
-  TabView(FormWindow& window, controls::TabControl& tab) : ControlView(window, tab), tab_(tab) {}
+  TabControlView(FormWindow& window, controls::TabControl& tab) : ControlView(window, tab), tab_(tab) {}
 
   void Create(HWND parent, int id) override;
   void Update(controls::Aspect aspect) override;
@@ -19,7 +19,7 @@ class TabView : public ControlView {
   void ShowPages();
 
   controls::TabControl& tab_;
-  std::vector<int> shownPages_;  // the model's pages behind the window's tabs
+  std::vector<int> shownPages_;  // the model's page of each of the window's tabs
 };
 
 }  // namespace windows

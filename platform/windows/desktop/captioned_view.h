@@ -7,9 +7,9 @@ namespace windows {
 
 /// Push buttons, options, check boxes, labels and frames: one window class or another with a caption. The model decides what a
 /// click does; the window only shows the outcome.
-class CaptionView : public ControlView {
+class CaptionedView : public ControlView {
  public:
-  CaptionView(FormWindow& window, controls::Captioned& captioned) : ControlView(window, captioned), captioned_(captioned) {}
+  CaptionedView(FormWindow& window, controls::Captioned& captioned) : ControlView(window, captioned), captioned_(captioned) {}
 
   void Create(HWND parent, int id) override;
   void Update(controls::Aspect aspect) override;

@@ -1,8 +1,12 @@
-#include "platform/windows/desktop/text_view.h"
+#include "platform/windows/desktop/text_box_view.h"
 
+#include "base/controls/scoped_flag.h"
 #include "base/vb/text.h"
+#include "platform/windows/desktop/clipboard.h"
 #include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/messages.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/window_queries.h"
 
 namespace windows {
 namespace {
@@ -17,43 +21,41 @@ int CharactersOf(const std::wstring& text, DWORD units) {
 
 }  // namespace
 
-void TextView::Create(HWND parent, int id) {
+void TextBoxView::Create(HWND parent, int id) {
   DWORD style = WS_TABSTOP | (box_.MultiLine() ? ES_MULTILINE | ES_WANTRETURN | WS_VSCROLL : ES_AUTOHSCROLL);
   if (box_.RightAligned()) style |= ES_RIGHT;
   CreateChild(parent, id, WC_EDITW, box_.Text(), style, WS_EX_CLIENTEDGE);
   Update(controls::Aspect::Layout);
 }
 
-void TextView::Update(controls::Aspect aspect) {
+void TextBoxView::Update(controls::Aspect aspect) {
   ControlView::Update(aspect);
   if (aspect != controls::Aspect::Text && aspect != controls::Aspect::Selection && aspect != controls::Aspect::Layout) return;
   if (pasting_) return;
-  updating_ = true;
+  const controls::ScopedFlag updating(updating_);
   const std::string& text = box_.Text();
   const std::wstring wide = Wide(text);
   if (WindowText(Handle()) != wide) SetWindowTextW(Handle(), wide.c_str());
-  SendMessageW(Handle(), EM_SETSEL, static_cast<WPARAM>(UnitsOf(text, box_.SelStart())),
-               UnitsOf(text, box_.SelStart() + box_.SelLength()));
-  SendMessageW(Handle(), EM_SCROLLCARET, 0, 0);
-  SendMessageW(Handle(), EM_SETREADONLY, box_.Locked(), 0);
-  updating_ = false;
+  Send(Handle(), EM_SETSEL, UnitsOf(text, box_.SelStart()), UnitsOf(text, box_.SelStart() + box_.SelLength()));
+  Send(Handle(), EM_SCROLLCARET);
+  Send(Handle(), EM_SETREADONLY, box_.Locked());
 }
 
-void TextView::OnCommand(int code) {
+void TextBoxView::OnCommand(int code) {
   // Input methods, undo and other programs change the window itself; the keys do not.
   if (code == EN_CHANGE && !updating_) Pull();
 }
 
-void TextView::Pull() {
+void TextBoxView::Pull() {
   const std::wstring text = WindowText(Handle());
   DWORD start = 0;
   DWORD end = 0;
-  SendMessageW(Handle(), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  Send(Handle(), EM_GETSEL, &start, &end);
   const int first = CharactersOf(text, start);
   box_.TakeEdited(Utf8(text), first, CharactersOf(text, end) - first);
 }
 
-bool TextView::WantsNatively(const MSG& message) const {
+bool TextBoxView::WantsNatively(const MSG& message) const {
   if (message.message != WM_KEYDOWN) return false;
   switch (message.wParam) {
     case VK_LEFT:
@@ -73,19 +75,19 @@ bool TextView::WantsNatively(const MSG& message) const {
   }
 }
 
-bool TextView::Copy() {
+bool TextBoxView::Copy() {
   Pull();
   if (box_.SelLength() > 0) PutOnClipboard(Handle(), box_.SelText());
   return true;
 }
 
-bool TextView::Cut() {
+bool TextBoxView::Cut() {
   Copy();
   if (!box_.Locked() && box_.SelLength() > 0) box_.TypeOver("");
   return true;
 }
 
-bool TextView::Paste() {
+bool TextBoxView::Paste() {
   Pull();
   // Shown once it is all there: character by character, a long text would keep everybody waiting.
   const auto keep = box_.Owner().weak_from_this().lock();
@@ -98,12 +100,12 @@ bool TextView::Paste() {
   return true;
 }
 
-bool TextView::SelectAll() {
+bool TextBoxView::SelectAll() {
   box_.SelectAll();
   return true;
 }
 
-std::optional<LRESULT> TextView::Intercept(UINT message, WPARAM, LPARAM) {
+std::optional<LRESULT> TextBoxView::Intercept(UINT message, WPARAM, LPARAM) {
   // The box's own menu pastes, cuts and undoes, too.
   switch (message) {
     case WM_PASTE:
@@ -125,32 +127,6 @@ std::optional<LRESULT> TextView::Intercept(UINT message, WPARAM, LPARAM) {
     default:
       return std::nullopt;
   }
-}
-
-std::string ClipboardText(HWND owner) {
-  if (!OpenClipboard(owner)) return {};
-  std::string text;
-  if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
-    if (const auto* wide = static_cast<const wchar_t*>(GlobalLock(data))) {
-      text = Utf8(wide);
-      GlobalUnlock(data);
-    }
-  }
-  CloseClipboard();
-  return text;
-}
-
-void PutOnClipboard(HWND owner, const std::string& text) {
-  if (!OpenClipboard(owner)) return;
-  EmptyClipboard();
-  const std::wstring wide = Wide(text);
-  const std::size_t bytes = (wide.size() + 1) * sizeof(wchar_t);
-  if (const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes)) {
-    CopyMemory(GlobalLock(memory), wide.c_str(), bytes);
-    GlobalUnlock(memory);
-    if (!SetClipboardData(CF_UNICODETEXT, memory)) GlobalFree(memory);
-  }
-  CloseClipboard();
 }
 
 }  // namespace windows

@@ -2,12 +2,13 @@
 
 #include "base/controls/combo_box.h"
 #include "platform/windows/desktop/control_view.h"
+#include "platform/windows/desktop/messages.h"
 
 namespace windows {
 
-class ComboView : public ControlView {
+class ComboBoxView : public ControlView {
  public:
-  ComboView(FormWindow& window, controls::ComboBox& combo) : ControlView(window, combo), combo_(combo) {}
+  ComboBoxView(FormWindow& window, controls::ComboBox& combo) : ControlView(window, combo), combo_(combo) {}
 
   void Create(HWND parent, int id) override;
   void Update(controls::Aspect aspect) override;
@@ -23,7 +24,8 @@ class ComboView : public ControlView {
   std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  bool IsDropped() const { return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0; }
+  bool IsDropped() const { return Send(Handle(), CB_GETDROPPEDSTATE) != 0; }
+  int SelectedEntry() const { return static_cast<int>(Send(Handle(), CB_GETCURSEL)); }
   void ShowEntries();
   void ShowText();
 

@@ -5,9 +5,9 @@
 
 namespace windows {
 
-class TextView : public ControlView {
+class TextBoxView : public ControlView {
  public:
-  TextView(FormWindow& window, controls::TextBox& box) : ControlView(window, box), box_(box) {}
+  TextBoxView(FormWindow& window, controls::TextBox& box) : ControlView(window, box), box_(box) {}
 
   void Create(HWND parent, int id) override;
   void Update(controls::Aspect aspect) override;
@@ -28,9 +28,5 @@ class TextView : public ControlView {
   bool updating_ = false;
   bool pasting_ = false;
 };
-
-/// The clipboard's text, empty when it holds none.
-std::string ClipboardText(HWND owner);
-void PutOnClipboard(HWND owner, const std::string& text);
 
 }  // namespace windows

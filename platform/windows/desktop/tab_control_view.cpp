@@ -1,25 +1,26 @@
-#include "platform/windows/desktop/tab_view.h"
+#include "platform/windows/desktop/tab_control_view.h"
 
 #include <algorithm>
 
 #include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/messages.h"
 #include "platform/windows/wide_text.h"
 
 namespace windows {
 
-void TabView::Create(HWND parent, int id) {
+void TabControlView::Create(HWND parent, int id) {
   CreateChild(parent, id, WC_TABCONTROLW, "", WS_TABSTOP);
   ShowPages();
 }
 
-void TabView::Update(controls::Aspect aspect) {
+void TabControlView::Update(controls::Aspect aspect) {
   ControlView::Update(aspect);
   ShowPages();
   Window().Arrange();
 }
 
-void TabView::ShowPages() {
-  SendMessageW(Handle(), TCM_DELETEALLITEMS, 0, 0);
+void TabControlView::ShowPages() {
+  Send(Handle(), TCM_DELETEALLITEMS);
   shownPages_.clear();
   for (int page = 0; page < tab_.Tabs(); ++page) {
     if (!tab_.TabVisible(page)) continue;
@@ -28,16 +29,16 @@ void TabView::ShowPages() {
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = caption.data();
-    SendMessageW(Handle(), TCM_INSERTITEMW, shownPages_.size(), reinterpret_cast<LPARAM>(&item));
+    Send(Handle(), TCM_INSERTITEMW, shownPages_.size(), &item);
     shownPages_.push_back(page);
   }
   const auto current = std::find(shownPages_.begin(), shownPages_.end(), tab_.Tab());
-  if (current != shownPages_.end()) SendMessageW(Handle(), TCM_SETCURSEL, static_cast<WPARAM>(current - shownPages_.begin()), 0);
+  if (current != shownPages_.end()) Send(Handle(), TCM_SETCURSEL, current - shownPages_.begin());
 }
 
-std::optional<LRESULT> TabView::OnNotify(NMHDR& header) {
+std::optional<LRESULT> TabControlView::OnNotify(NMHDR& header) {
   if (header.code != TCN_SELCHANGE) return std::nullopt;
-  const auto tab = static_cast<std::size_t>(SendMessageW(Handle(), TCM_GETCURSEL, 0, 0));
+  const auto tab = static_cast<std::size_t>(Send(Handle(), TCM_GETCURSEL));
   if (tab < shownPages_.size()) tab_.SetTab(shownPages_[tab]);
   return 0;
 }

@@ -1,14 +1,15 @@
-#include "platform/windows/desktop/button_views.h"
+#include "platform/windows/desktop/captioned_view.h"
 
 #include "base/controls/keyboard.h"
 #include "platform/windows/desktop/form_window.h"
+#include "platform/windows/desktop/messages.h"
 #include "platform/windows/wide_text.h"
 
 namespace windows {
 
 using controls::ControlKind;
 
-void CaptionView::Create(HWND parent, int id) {
+void CaptionedView::Create(HWND parent, int id) {
   DWORD style = WS_TABSTOP;
   const wchar_t* windowClass = WC_BUTTONW;
   switch (captioned_.Kind()) {
@@ -29,19 +30,19 @@ void CaptionView::Create(HWND parent, int id) {
       style = SS_LEFT | SS_NOTIFY;
       break;
   }
-  // What lies inside a frame is painted by the form.
+  // The form paints what is inside a frame.
   const DWORD extended = captioned_.Kind() == ControlKind::Frame ? WS_EX_TRANSPARENT : 0;
   CreateChild(parent, id, windowClass, captioned_.Caption(), style, extended);
   ShowValue();
 }
 
-void CaptionView::Update(controls::Aspect aspect) {
+void CaptionedView::Update(controls::Aspect aspect) {
   ControlView::Update(aspect);
   if (aspect == controls::Aspect::Text) SetWindowTextW(Handle(), Wide(captioned_.Caption()).c_str());
   ShowValue();
 }
 
-void CaptionView::ShowValue() {
+void CaptionedView::ShowValue() {
   bool checked = false;
   if (captioned_.Kind() == ControlKind::OptionButton)
     checked = static_cast<controls::OptionButton&>(captioned_).Value();
@@ -49,10 +50,10 @@ void CaptionView::ShowValue() {
     checked = static_cast<controls::CheckBox&>(captioned_).IsChecked();
   else
     return;
-  SendMessageW(Handle(), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+  Send(Handle(), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
 }
 
-void CaptionView::OnCommand(int code) {
+void CaptionedView::OnCommand(int code) {
   if (code != BN_CLICKED) return;
   switch (captioned_.Kind()) {
     case ControlKind::CommandButton:
