@@ -41,7 +41,7 @@ class EmptyWorkstation : public workstation::Workstation {
 /// The sample shop, scaled, in a file of its own, with the component's session on it.
 class BenchShop {
  public:
-  /// Makes the file anew.
+  /// Creates the file, replacing an older one.
   BenchShop(const std::string& path, const suite::Scale& scale);
   ~BenchShop();
 

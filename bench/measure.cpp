@@ -55,7 +55,7 @@ void MeasureRegister() {
   const Pair pair = bench::MeasurePair(kRuns, fill, read);
   PrintRow("register filled with 100,000 requests", pair.Ratio(), 1.5, "x", Detail(pair, "rows into strings"));
   const bench::ChildCost child = bench::InChild([&] {
-    // A connection does not survive a fork: the child opens the file anew.
+    // A connection does not survive a fork: the child opens the file again.
     BenchShop* inherited = &shop;
     inherited->database = suite::Database::Open(inherited->path);
     inherited->session.gAdoCon = ado::Connection(inherited->database->Connect());
@@ -309,7 +309,7 @@ void MeasureFetchDialog() {
   dialog->Unload();
 }
 
-/// The lookup of item entry: a key in its search box that every item answers to, so that all are filtered and filled anew.
+/// The lookup of item entry: a key in its search box that every item answers to, so that all are filtered and filled again.
 void MeasureLookup() {
   BenchShop shop(TemporaryFile("lookup"), {0, 100000, 1});
   shop.LogOn();

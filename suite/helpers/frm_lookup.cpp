@@ -1,7 +1,7 @@
 #include "suite/helpers/frm_lookup.h"
 
 #include "base/vb/text.h"
-#include "suite/helpers/cls_formcolor.h"
+#include "suite/helpers/form_color_stand_in.h"
 
 namespace suite {
 
@@ -65,7 +65,7 @@ void frmLookup::Design() {
 
 void frmLookup::Form_Load() {
   SetCaption(caption_);
-  clsFormcolor::Applyformcolor(*this, Desktop());
+  FormColorStandIn::Applyformcolor(*this, Desktop());
   flexMaster.SetFixedCols(0);
   flexMaster.SetCols(static_cast<long>(columns_.size()));
   int searched = 0;  // the first column shown, where the one to search first is none of them

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "suite/helpers/error_details.h"
+#include "suite/helpers/error_details_stand_in.h"
 
 namespace suite {
 namespace {
@@ -39,7 +39,7 @@ OwnTableState FindOrMake(const std::shared_ptr<Surroundings>& surroundings, ado:
   } catch (const vb::RunTimeError& error) {
     if (!IsPermissionDenied(connection, error)) throw;
     refused.insert(name);
-    ErrorDetails(surroundings).Note("shopsuite", "create table " + name, error);
+    ErrorDetailsStandIn(surroundings).Note("shopsuite", "create table " + name, error);
     return OwnTableState::Refused;
   }
 }

@@ -38,7 +38,7 @@ class frmLogOn : public controls::Form {
   frmLogOn(controls::Desktop& desktop, ado::Connection connection, HostMemory& memory, vb::Date today, LogOnPresets presets,
            Open open);
 
-  /// What is chosen now, loading the form for it; nothing while a list is without a choice or the date cannot be read.
+  /// The current choice, loading the form for it; nothing while a list is without a choice or the date cannot be read.
   std::optional<LogOn> Chosen();
   /// Names the first preset that the lists do not have ("There is no shop 9"), loading the form for it; empty when they have all.
   std::string MissingPreset();

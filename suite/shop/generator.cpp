@@ -15,7 +15,7 @@ namespace suite {
 namespace {
 
 constexpr int kDaysInRange = 60;  // 16 January to the process date
-constexpr int kMostPoolItems = 5000;
+constexpr int kMaxPoolItems = 5000;
 
 using Settings = std::initializer_list<std::pair<std::string_view, int>>;
 
@@ -59,7 +59,7 @@ int MakeItemPool(ado::Connection& connection) {
       " where si.ShopID = 1 and i.active = 1 and i.forsales = 1 and i.itemtype <> 'B' order by si.ItemID desc");
   std::vector<int> ids;
   ado::ForEachRow(items, [&](const late::Array& block, std::size_t record) {
-    if (ids.size() < kMostPoolItems) ids.push_back(block.At(0, record).ToInt32());
+    if (ids.size() < kMaxPoolItems) ids.push_back(block.At(0, record).ToInt32());
   });
   connection.Execute("create table genItem (n int not null primary key, ItemID int not null)");
   for (std::size_t n = 0; n < ids.size(); ++n)

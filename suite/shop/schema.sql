@@ -1,6 +1,6 @@
 -- The suite's tables as far as the goods-request component touches them, in the server's own dialect.
 -- Keys and the ids that join tables are not null; every other column may be null.
--- Views stand over the smp* tables, which take the place of the suite's own bookkeeping.
+-- The views read the smp* tables, which take the place of the suite's own bookkeeping.
 -- A database set up for replication runs replication.sql right after this script.
 
 -- Requests

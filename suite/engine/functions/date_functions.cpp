@@ -13,7 +13,7 @@ std::int64_t FloorDivide(std::int64_t a, std::int64_t b) {
   return a / b - (a % b < 0 ? 1 : 0);
 }
 
-/// Whole days since the zero date, and the milliseconds behind them.
+/// Integer days since the zero date, and the milliseconds after them.
 std::int64_t DayOf(std::int64_t date) {
   return FloorDivide(date, kDay);
 }
@@ -25,7 +25,7 @@ vb::DateParts PartsOfDay(std::int64_t date) {
   return vb::PartsOf(FromMilliseconds(DayOf(date) * kDay));
 }
 
-/// How many units of the part lie before the date: differences of these are what datediff counts.
+/// The number of units of the part before the date: differences of these are what datediff counts.
 std::int64_t Ordinal(std::string_view part, std::int64_t date) {
   const vb::DateParts p = PartsOfDay(date);
   if (part == "year") return p.year;
@@ -41,7 +41,7 @@ std::int64_t Ordinal(std::string_view part, std::int64_t date) {
 
 void DatePart(const FunctionCall& call) {
   const std::string_view part = call.Text(0);
-  const std::int64_t date = call.Whole(1), time = TimeOf(date);
+  const std::int64_t date = call.Integer(1), time = TimeOf(date);
   const vb::DateParts p = PartsOfDay(date);
   if (part == "year") return call.Return(std::int64_t{p.year});
   if (part == "quarter") return call.Return(std::int64_t{(p.month - 1) / 3 + 1});
@@ -73,7 +73,7 @@ std::int64_t AddMonths(std::int64_t date, std::int64_t months) {
 
 void DateAdd(const FunctionCall& call) {
   const std::string_view part = call.Text(0);
-  const std::int64_t count = call.Whole(1), date = call.Whole(2);
+  const std::int64_t count = call.Integer(1), date = call.Integer(2);
   if (part == "year") return call.Return(AddMonths(date, count * 12));
   if (part == "quarter") return call.Return(AddMonths(date, count * 3));
   if (part == "month") return call.Return(AddMonths(date, count));
@@ -87,17 +87,17 @@ void DateAdd(const FunctionCall& call) {
 }
 
 void DateDiff(const FunctionCall& call) {
-  call.Return(Ordinal(call.Text(0), call.Whole(2)) - Ordinal(call.Text(0), call.Whole(1)));
+  call.Return(Ordinal(call.Text(0), call.Integer(2)) - Ordinal(call.Text(0), call.Integer(1)));
 }
 
 void Year(const FunctionCall& call) {
-  call.Return(std::int64_t{PartsOfDay(call.Whole(0)).year});
+  call.Return(std::int64_t{PartsOfDay(call.Integer(0)).year});
 }
 void Month(const FunctionCall& call) {
-  call.Return(std::int64_t{PartsOfDay(call.Whole(0)).month});
+  call.Return(std::int64_t{PartsOfDay(call.Integer(0)).month});
 }
 void Day(const FunctionCall& call) {
-  call.Return(std::int64_t{PartsOfDay(call.Whole(0)).day});
+  call.Return(std::int64_t{PartsOfDay(call.Integer(0)).day});
 }
 
 /// One time for the whole statement, as on the server.

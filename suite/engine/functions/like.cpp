@@ -53,7 +53,7 @@ class Matcher {
     return true;
   }
 
-  /// Behind "[": the set up to "]".
+  /// After "[": the set up to "]".
   bool InSet(char32_t c, std::size_t& pattern) const {
     bool negated = false, found = false;
     if (pattern < pattern_.size() && pattern_[pattern] == '^') {

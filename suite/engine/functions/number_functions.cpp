@@ -16,7 +16,7 @@ namespace {
 Cell CellOf(const FunctionCall& call, int index) {
   switch (sqlite3_value_type(call.Raw(index))) {
     case SQLITE_INTEGER:
-      return Cell::Of(call.Whole(index));
+      return Cell::Of(call.Integer(index));
     case SQLITE_FLOAT:
       return Cell::Of(call.Real(index));
     case SQLITE_TEXT:
@@ -42,10 +42,10 @@ void Return(const FunctionCall& call, const Cell& cell) {
 /// srv_convert(value, packed type from, packed type to, style)
 void ConvertValue(const FunctionCall& call) {
   std::string buffer;
-  const Type from = Type::Unpack(call.Whole(1)), to = Type::Unpack(call.Whole(2));
+  const Type from = Type::Unpack(call.Integer(1)), to = Type::Unpack(call.Integer(2));
   Cell cell = CellOf(call, 0);
   if (cell.form == Cell::Form::Real && from.kind != Kind::Float) RaiseOverflow(TypeName(from));
-  Return(call, Convert(cell, from, to, buffer, static_cast<int>(call.Whole(3)), call.Functions().dateOrder));
+  Return(call, Convert(cell, from, to, buffer, static_cast<int>(call.Integer(3)), call.Functions().dateOrder));
 }
 
 void Divide(const FunctionCall& call) {
@@ -53,9 +53,9 @@ void Divide(const FunctionCall& call) {
     if (call.Real(1) == 0) RaiseDivisionByZero();
     return call.Return(call.Real(0) / call.Real(1));
   }
-  if (call.Whole(1) == 0) RaiseDivisionByZero();
-  if (call.Whole(1) == -1 && call.Whole(0) == std::numeric_limits<std::int64_t>::min()) RaiseOverflow("bigint");
-  call.Return(call.Whole(0) / call.Whole(1));
+  if (call.Integer(1) == 0) RaiseDivisionByZero();
+  if (call.Integer(1) == -1 && call.Integer(0) == std::numeric_limits<std::int64_t>::min()) RaiseOverflow("bigint");
+  call.Return(call.Integer(0) / call.Integer(1));
 }
 
 void Remainder(const FunctionCall& call) {
@@ -63,21 +63,21 @@ void Remainder(const FunctionCall& call) {
     if (call.Real(1) == 0) RaiseDivisionByZero();
     return call.Return(std::fmod(call.Real(0), call.Real(1)));
   }
-  if (call.Whole(1) == 0) RaiseDivisionByZero();
-  call.Return(call.Whole(1) == -1 ? std::int64_t{0} : call.Whole(0) % call.Whole(1));
+  if (call.Integer(1) == 0) RaiseDivisionByZero();
+  call.Return(call.Integer(1) == -1 ? std::int64_t{0} : call.Integer(0) % call.Integer(1));
 }
 
 /// srv_quotient(units, units, digits): the first shifted by the digits, divided and cut, as the server divides decimals. Worked
 /// digit by digit: the shifted number itself may be longer than 64 bits.
 void Quotient(const FunctionCall& call) {
-  constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
-  const std::int64_t divisor = call.Whole(1);
+  constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
+  const std::int64_t divisor = call.Integer(1);
   if (divisor == 0) RaiseDivisionByZero();
-  if (divisor > kMost / 10 || divisor < -(kMost / 10)) RaiseOverflow("decimal");
-  std::int64_t quotient = call.Whole(0) / divisor;
-  std::int64_t rest = call.Whole(0) % divisor;
-  for (std::int64_t digits = call.Whole(2); digits > 0; --digits) {
-    if (quotient > kMost / 10 - 1 || quotient < -(kMost / 10 - 1)) RaiseOverflow("decimal");
+  if (divisor > kMax / 10 || divisor < -(kMax / 10)) RaiseOverflow("decimal");
+  std::int64_t quotient = call.Integer(0) / divisor;
+  std::int64_t rest = call.Integer(0) % divisor;
+  for (std::int64_t digits = call.Integer(2); digits > 0; --digits) {
+    if (quotient > kMax / 10 - 1 || quotient < -(kMax / 10 - 1)) RaiseOverflow("decimal");
     quotient = quotient * 10 + rest * 10 / divisor;
     rest = rest * 10 % divisor;
   }
@@ -86,30 +86,30 @@ void Quotient(const FunctionCall& call) {
 
 /// srv_round(units, scale, digits)
 void Round(const FunctionCall& call) {
-  const auto scale = static_cast<int>(call.Whole(1));
-  const std::int64_t digits = call.Whole(2);
-  if (digits >= scale) return call.Return(call.Whole(0));
+  const auto scale = static_cast<int>(call.Integer(1));
+  const std::int64_t digits = call.Integer(2);
+  if (digits >= scale) return call.Return(call.Integer(0));
   const std::int64_t cut = scale - digits;
-  if (cut > kMostDigits) return call.Return(std::int64_t{0});
-  const std::int64_t rounded = Rescale(call.Whole(0), static_cast<int>(cut), 0, 38);
+  if (cut > kMaxDigits) return call.Return(std::int64_t{0});
+  const std::int64_t rounded = Rescale(call.Integer(0), static_cast<int>(cut), 0, 38);
   call.Return(Rescale(rounded, 0, static_cast<int>(cut), 38));
 }
 
 void RoundFloat(const FunctionCall& call) {
-  const double power = std::pow(10.0, static_cast<double>(call.Whole(2)));
+  const double power = std::pow(10.0, static_cast<double>(call.Integer(2)));
   call.Return(std::round(call.Real(0) * power) / power);
 }
 
 void Floor(const FunctionCall& call) {
-  const std::int64_t power = PowerOfTen(static_cast<int>(call.Whole(1)));
-  const std::int64_t rest = call.Whole(0) % power;
-  call.Return(call.Whole(0) - (rest < 0 ? rest + power : rest));
+  const std::int64_t power = PowerOfTen(static_cast<int>(call.Integer(1)));
+  const std::int64_t rest = call.Integer(0) % power;
+  call.Return(call.Integer(0) - (rest < 0 ? rest + power : rest));
 }
 
 void Ceiling(const FunctionCall& call) {
-  const std::int64_t power = PowerOfTen(static_cast<int>(call.Whole(1)));
-  const std::int64_t rest = call.Whole(0) % power;
-  call.Return(call.Whole(0) + (rest > 0 ? power - rest : -rest));
+  const std::int64_t power = PowerOfTen(static_cast<int>(call.Integer(1)));
+  const std::int64_t rest = call.Integer(0) % power;
+  call.Return(call.Integer(0) + (rest > 0 ? power - rest : -rest));
 }
 
 void FloorFloat(const FunctionCall& call) {

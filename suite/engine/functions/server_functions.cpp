@@ -67,7 +67,7 @@ int CompareTexts(std::string_view a, std::string_view b) {
 bool FunctionCall::IsNull(int index) const {
   return sqlite3_value_type(values_[index]) == SQLITE_NULL;
 }
-std::int64_t FunctionCall::Whole(int index) const {
+std::int64_t FunctionCall::Integer(int index) const {
   return sqlite3_value_int64(values_[index]);
 }
 double FunctionCall::Real(int index) const {

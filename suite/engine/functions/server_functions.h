@@ -27,7 +27,7 @@ class FunctionCall {
 
   int Count() const { return count_; }
   bool IsNull(int index) const;
-  std::int64_t Whole(int index) const;
+  std::int64_t Integer(int index) const;
   double Real(int index) const;
   std::string_view Text(int index) const;
   sqlite3_value* Raw(int index) const { return values_[index]; }

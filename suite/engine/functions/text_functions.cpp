@@ -26,7 +26,7 @@ void DataLength(const FunctionCall& call) {
 }
 
 void Left(const FunctionCall& call) {
-  const std::int64_t count = call.Whole(1);
+  const std::int64_t count = call.Integer(1);
   if (count < 0) RaiseLength("left");
   const std::string_view text = call.Text(0);
   if (IsAscii(text)) return call.Return(text.substr(0, static_cast<std::size_t>(count)));
@@ -34,7 +34,7 @@ void Left(const FunctionCall& call) {
 }
 
 void Right(const FunctionCall& call) {
-  const std::int64_t count = call.Whole(1);
+  const std::int64_t count = call.Integer(1);
   if (count < 0) RaiseLength("right");
   const std::string_view text = call.Text(0);
   const auto wanted = static_cast<std::size_t>(count);
@@ -44,8 +44,8 @@ void Right(const FunctionCall& call) {
 
 /// 1-based; a start before the text's takes its share off the length, as on the server.
 void Substring(const FunctionCall& call) {
-  std::int64_t start = call.Whole(1);
-  std::int64_t length = call.Whole(2);
+  std::int64_t start = call.Integer(1);
+  std::int64_t length = call.Integer(2);
   if (length < 0) RaiseLength("substring");
   if (start < 1) {
     length = std::max<std::int64_t>(0, length + start - 1);
@@ -65,7 +65,7 @@ void Lower(const FunctionCall& call) {
 }
 
 void CharIndex(const FunctionCall& call) {
-  const std::int64_t start = call.Count() > 2 ? std::max<std::int64_t>(call.Whole(2), 1) : 1;
+  const std::int64_t start = call.Count() > 2 ? std::max<std::int64_t>(call.Integer(2), 1) : 1;
   const std::string text = vb::Mid(call.Text(1), static_cast<long>(start));
   if (call.Text(0).empty()) return call.Return(std::int64_t{0});
   const std::size_t found = vb::InStrNoCase(text, call.Text(0));
@@ -98,7 +98,7 @@ void Reverse(const FunctionCall& call) {
 }
 
 void Replicate(const FunctionCall& call) {
-  const std::int64_t count = call.Whole(1);
+  const std::int64_t count = call.Integer(1);
   if (count < 0) return call.ReturnNull();
   constexpr std::size_t kLongestText = 8000;
   std::string result;
@@ -107,11 +107,11 @@ void Replicate(const FunctionCall& call) {
 }
 
 void Space(const FunctionCall& call) {
-  call.Whole(0) < 0 ? call.ReturnNull() : call.Return(vb::Space(static_cast<long>(call.Whole(0))));
+  call.Integer(0) < 0 ? call.ReturnNull() : call.Return(vb::Space(static_cast<long>(call.Integer(0))));
 }
 
 void Char(const FunctionCall& call) {
-  const std::int64_t code = call.Whole(0);
+  const std::int64_t code = call.Integer(0);
   if (code < 1 || code > 255) return call.ReturnNull();
   std::string text;
   vb::AppendCharacter(text, static_cast<char32_t>(code));
@@ -137,7 +137,7 @@ void IsNumeric(const FunctionCall& call) {
 bool IsServerNumeric(std::string_view text) {
   std::string_view rest = vb::Trim(text);
   if (rest.empty()) return false;
-  // Signs and a currency sign may stand in front, even alone.
+  // Signs and a currency sign may come first, even alone.
   std::size_t prefix = 0;
   while (prefix < rest.size() && (rest[prefix] == '+' || rest[prefix] == '-' || rest[prefix] == '$')) ++prefix;
   if (prefix > 2) return false;

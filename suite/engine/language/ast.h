@@ -53,7 +53,9 @@ struct Function {
   bool distinct = false;
   std::vector<ExprPtr> arguments;
 };
-struct CountAll {};  ///< count(*)
+struct CountAll {    ///< count(*)
+  bool big = false;  ///< count_big(*)
+};
 /// dateadd and its kind: the first argument names a part of a date.
 struct DateFunction {
   std::string name;  ///< in lower case
@@ -193,7 +195,7 @@ struct ColumnDefinition {
   bool unique = false;
   bool rowIdentifier = false;
   bool identity = false;
-  ExprPtr initial;
+  ExprPtr defaultValue;
 };
 
 struct Key {
@@ -205,7 +207,7 @@ struct ProcedureParameter {
   std::string name;
   Type type;
   bool hasDefault = false;
-  ExprPtr initial;
+  ExprPtr defaultValue;
 };
 
 struct Statement;

@@ -28,7 +28,7 @@ unsigned char ClassOf(char c) {
 
 class Scanner {
  public:
-  Scanner(std::string_view text, Lexed& result) : text_(text), result_(result) {
+  Scanner(std::string_view text, TokenList& result) : text_(text), result_(result) {
     result.text = text;
     result.tokens.clear();
     result.literals.clear();
@@ -147,7 +147,7 @@ class Scanner {
     }
   }
 
-  /// The server lets blanks stand inside its two-character comparisons ("< =").
+  /// The server allows blanks inside its two-character comparisons ("< =").
   char Second() const {
     std::size_t offset = position_ + 1;
     while (ClassOf(At(offset)) == kBlank) ++offset;
@@ -197,14 +197,14 @@ class Scanner {
   }
 
   std::string_view text_;
-  Lexed& result_;
+  TokenList& result_;
   std::size_t position_ = 0;
   char* key_ = nullptr;  ///< where the next token's part of the key goes
 };
 
 }  // namespace
 
-std::string Lexed::ValueOf(const Token& token) const {
+std::string TokenList::ValueOf(const Token& token) const {
   const std::string_view raw = TextOf(token);
   if (!token.escaped) return std::string(raw);
   const char close = text[token.end];
@@ -217,7 +217,7 @@ std::string Lexed::ValueOf(const Token& token) const {
   return value;
 }
 
-void Lex(std::string_view text, Lexed& result) {
+void Lex(std::string_view text, TokenList& result) {
   Scanner(text, result).Run();
 }
 

@@ -9,7 +9,7 @@
 namespace suite {
 namespace {
 
-std::int64_t WholeOf(std::string_view digits) {
+std::int64_t IntegerOf(std::string_view digits) {
   std::int64_t value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (error != std::errc())
@@ -18,16 +18,16 @@ std::int64_t WholeOf(std::string_view digits) {
 }
 
 /// The literal's own value; decimals in units of their scale.
-Cell OwnCell(const Lexed& lexed, const Token& token, std::string& buffer) {
-  const std::string_view text = lexed.TextOf(token);
+Cell OwnCell(const TokenList& tokenList, const Token& token, std::string& buffer) {
+  const std::string_view text = tokenList.TextOf(token);
   switch (token.kind) {
     case TokenKind::Integer:
-      return Cell::Of(WholeOf(text));
+      return Cell::Of(IntegerOf(text));
     case TokenKind::Decimal: {
       const std::size_t point = text.find('.');
       std::string digits(text.substr(0, point));
       digits += text.substr(point + 1);
-      return Cell::Of(digits.empty() ? std::int64_t{0} : WholeOf(digits));
+      return Cell::Of(digits.empty() ? std::int64_t{0} : IntegerOf(digits));
     }
     case TokenKind::Float: {
       double value = 0;
@@ -36,7 +36,7 @@ Cell OwnCell(const Lexed& lexed, const Token& token, std::string& buffer) {
     }
     default:
       if (!token.escaped) return Cell::Of(text);
-      buffer = lexed.ValueOf(token);
+      buffer = tokenList.ValueOf(token);
       return Cell::Of(std::string_view(buffer));
   }
 }
@@ -48,8 +48,8 @@ Type LiteralType(const Token& token) {
     case TokenKind::Integer:
       return Type::Of(Kind::Int);
     case TokenKind::Decimal:
-      if (token.scale > kMostDigits) RaiseOverflow("numeric");
-      return Type::DecimalOf(kMostDigits, token.scale);
+      if (token.scale > kMaxDigits) RaiseOverflow("numeric");
+      return Type::DecimalOf(kMaxDigits, token.scale);
     case TokenKind::Float:
       return Type::Of(Kind::Float);
     default:
@@ -57,9 +57,9 @@ Type LiteralType(const Token& token) {
   }
 }
 
-Cell LiteralCell(const Lexed& lexed, const Parameter& parameter, std::string& buffer, DateOrder order) {
-  const Token& token = lexed.tokens[lexed.literals[static_cast<std::size_t>(parameter.literal)]];
-  const Cell own = OwnCell(lexed, token, buffer);
+Cell LiteralCell(const TokenList& tokenList, const Parameter& parameter, std::string& buffer, DateOrder order) {
+  const Token& token = tokenList.tokens[tokenList.literals[static_cast<std::size_t>(parameter.literal)]];
+  const Cell own = OwnCell(tokenList, token, buffer);
   const Type from = LiteralType(token);
   const Type& to = parameter.type;
   if (from.kind == to.kind && from.scale == to.scale && (to.length == 0 || from.kind != Kind::Text)) return own;
@@ -71,9 +71,9 @@ Cell LiteralCell(const Lexed& lexed, const Parameter& parameter, std::string& bu
   return Cell::Of(std::string_view(buffer));
 }
 
-std::string LiteralText(const Lexed& lexed, const Parameter& parameter) {
+std::string LiteralText(const TokenList& tokenList, const Parameter& parameter) {
   std::string buffer;
-  const Cell cell = LiteralCell(lexed, parameter, buffer, DateOrder::MonthDayYear);
+  const Cell cell = LiteralCell(tokenList, parameter, buffer, DateOrder::MonthDayYear);
   switch (cell.form) {
     case Cell::Form::Null:
       return "NULL";
@@ -89,25 +89,26 @@ std::string LiteralText(const Lexed& lexed, const Parameter& parameter) {
   return {};
 }
 
-late::Value ArgumentValue(const Lexed& lexed, const ast::Expr* argument) {
+late::Value ArgumentValue(const TokenList& tokenList, const ast::Expr* argument) {
   if (!argument) return late::Missing{};
   if (argument->If<ast::Null>()) return late::Null{};
   if (const auto* sign = argument->If<ast::Unary>()) {
-    const late::Value value = ArgumentValue(lexed, sign->operand.get());
+    const late::Value value = ArgumentValue(tokenList, sign->operand.get());
     if (sign->op != ast::UnaryOperator::Minus || value.IsText()) {
-      RaiseServer(kSyntaxNear, "Incorrect syntax near '" + std::string(lexed.TextOf(lexed.tokens[argument->token])) + "'.");
+      RaiseServer(kSyntaxNear,
+                  "Incorrect syntax near '" + std::string(tokenList.TextOf(tokenList.tokens[argument->token])) + "'.");
     }
     if (const auto* whole = value.If<std::int32_t>()) return -*whole;
     if (const auto* exact = value.If<vb::Decimal>()) return vb::Decimal{-exact->units, exact->scale};
     return -value.ToDouble();
   }
-  const Token& token = lexed.tokens[argument->token];
-  if (token.literal < 0) RaiseServer(kSyntaxNear, "Incorrect syntax near '" + std::string(lexed.TextOf(token)) + "'.");
+  const Token& token = tokenList.tokens[argument->token];
+  if (token.literal < 0) RaiseServer(kSyntaxNear, "Incorrect syntax near '" + std::string(tokenList.TextOf(token)) + "'.");
   std::string buffer;
-  const Cell cell = OwnCell(lexed, token, buffer);
+  const Cell cell = OwnCell(tokenList, token, buffer);
   if (cell.form == Cell::Form::Text) return cell.text;
   if (cell.form == Cell::Form::Real) return cell.real;
-  if (token.kind == TokenKind::Decimal && token.scale > kMostDigits) RaiseOverflow("numeric");
+  if (token.kind == TokenKind::Decimal && token.scale > kMaxDigits) RaiseOverflow("numeric");
   if (token.kind == TokenKind::Decimal) return vb::Decimal{cell.integer, token.scale};
   const auto narrow = static_cast<std::int32_t>(cell.integer);
   return narrow == cell.integer ? late::Value(narrow) : late::Value(cell.integer);

@@ -18,11 +18,11 @@ struct Parameter {
 
 /// The type a literal has by itself. Text has no length limit.
 Type LiteralType(const Token& token);
-/// The literal's value as the parameter's type; the text is the lexed statement's or `buffer`'s.
-Cell LiteralCell(const Lexed& lexed, const Parameter& parameter, std::string& buffer, DateOrder order);
-/// The same as text of a stored definition, where parameters cannot stand. A date's month comes before its day.
-std::string LiteralText(const Lexed& lexed, const Parameter& parameter);
+/// The literal's value as the parameter's type; the text is the tokenList statement's or `buffer`'s.
+Cell LiteralCell(const TokenList& tokenList, const Parameter& parameter, std::string& buffer, DateOrder order);
+/// The same as text of a stored definition, which cannot have parameters. A date's month comes before its day.
+std::string LiteralText(const TokenList& tokenList, const Parameter& parameter);
 /// A procedure's argument (a literal, signed or not, or null); Missing when there is none.
-late::Value ArgumentValue(const Lexed& lexed, const ast::Expr* argument);
+late::Value ArgumentValue(const TokenList& tokenList, const ast::Expr* argument);
 
 }  // namespace suite

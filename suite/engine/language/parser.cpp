@@ -12,16 +12,16 @@ namespace {
 
 /// Words that can be neither a name nor an alias.
 constexpr auto kReserved = std::to_array<std::string_view>(
-    {"add",         "all",     "alter",    "and",      "as",        "asc",    "begin",    "between",
-     "by",          "case",    "coalesce", "commit",   "convert",   "create", "cross",    "current_timestamp",
-     "default",     "delete",  "desc",     "distinct", "drop",      "else",   "end",      "escape",
-     "exec",        "execute", "exists",   "for",      "from",      "full",   "function", "group",
-     "having",      "if",      "in",       "index",    "inner",     "insert", "into",     "is",
-     "join",        "key",     "left",     "like",     "not",       "null",   "nullif",   "on",
-     "or",          "order",   "outer",    "primary",  "procedure", "proc",   "right",    "rollback",
-     "select",      "set",     "table",    "then",     "top",       "union",  "unique",   "update",
-     "values",      "view",    "when",     "where",    "with",      "go",     "option",   "tran",
-     "transaction", "while"});
+    {"add",      "all",       "alter",       "and",      "as",      "asc",     "begin",     "between",
+     "by",       "case",      "coalesce",    "commit",   "convert", "create",  "cross",     "current_timestamp",
+     "default",  "delete",    "desc",        "distinct", "drop",    "else",    "end",       "escape",
+     "except",   "intersect", "exec",        "execute",  "exists",  "for",     "from",      "full",
+     "function", "group",     "having",      "if",       "in",      "index",   "inner",     "insert",
+     "into",     "is",        "join",        "key",      "left",    "like",    "not",       "null",
+     "nullif",   "on",        "or",          "order",    "outer",   "primary", "procedure", "proc",
+     "right",    "rollback",  "select",      "set",      "table",   "then",    "top",       "union",
+     "unique",   "update",    "values",      "view",     "when",    "where",   "with",      "go",
+     "option",   "tran",      "transaction", "while"});
 
 }  // namespace
 
@@ -30,12 +30,12 @@ bool IsReserved(std::string_view word) {
 }
 
 const Token& Parser::Peek(std::size_t ahead) const {
-  return lexed_.tokens[std::min(position_ + ahead, lexed_.tokens.size() - 1)];
+  return tokenList_.tokens[std::min(position_ + ahead, tokenList_.tokens.size() - 1)];
 }
 
 bool Parser::PeekWord(std::string_view word, std::size_t ahead) const {
   const Token& token = Peek(ahead);
-  return token.kind == TokenKind::Word && EqualWord(lexed_.TextOf(token), word);
+  return token.kind == TokenKind::Word && EqualWord(tokenList_.TextOf(token), word);
 }
 
 bool Parser::PeekSymbol(char symbol, std::size_t ahead) const {
@@ -64,16 +64,16 @@ void Parser::ExpectSymbol(char symbol) {
 }
 
 void Parser::Unexpected() const {
-  UnexpectedAt(static_cast<std::uint32_t>(std::min(position_, lexed_.tokens.size() - 1)));
+  UnexpectedAt(static_cast<std::uint32_t>(std::min(position_, tokenList_.tokens.size() - 1)));
 }
 
 void Parser::UnexpectedAt(std::uint32_t token) const {
-  const Token& at = lexed_.tokens[token];
+  const Token& at = tokenList_.tokens[token];
   if (at.kind == TokenKind::End) {
-    const std::size_t last = lexed_.text.size() > 20 ? lexed_.text.size() - 20 : 0;
-    RaiseServer(kSyntaxNear, "Incorrect syntax near the end of '" + std::string(lexed_.text.substr(last)) + "'.");
+    const std::size_t last = tokenList_.text.size() > 20 ? tokenList_.text.size() - 20 : 0;
+    RaiseServer(kSyntaxNear, "Incorrect syntax near the end of '" + std::string(tokenList_.text.substr(last)) + "'.");
   }
-  const std::string text(lexed_.TextOf(at));
+  const std::string text(tokenList_.TextOf(at));
   if (at.kind == TokenKind::Word && IsReserved(text))
     RaiseServer(kSyntaxNearKeyword, "Incorrect syntax near the keyword '" + text + "'.");
   RaiseServer(kSyntaxNear, "Incorrect syntax near '" + text + "'.");
@@ -81,12 +81,12 @@ void Parser::UnexpectedAt(std::uint32_t token) const {
 
 bool Parser::NameFollows() const {
   const Token& token = Peek();
-  return token.kind == TokenKind::Quoted || (token.kind == TokenKind::Word && !IsReserved(lexed_.TextOf(token)));
+  return token.kind == TokenKind::Quoted || (token.kind == TokenKind::Word && !IsReserved(tokenList_.TextOf(token)));
 }
 
 std::string Parser::Name() {
   if (!NameFollows()) Unexpected();
-  return lexed_.ValueOf(lexed_.tokens[position_++]);
+  return tokenList_.ValueOf(tokenList_.tokens[position_++]);
 }
 
 std::string Parser::ObjectName() {
@@ -97,13 +97,13 @@ std::string Parser::ObjectName() {
   return Name();
 }
 
-int Parser::StructuralNumber(int most) {
+int Parser::StructuralNumber(int max) {
   const Token& token = Peek();
   if (token.kind != TokenKind::Integer) Unexpected();
-  const std::string_view digits = lexed_.TextOf(token);
+  const std::string_view digits = tokenList_.TextOf(token);
   int number = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-  if (error != std::errc() || number > most) Unexpected();
+  if (error != std::errc() || number > max) Unexpected();
   MarkStructural(token);
   ++position_;
   return number;
@@ -125,13 +125,13 @@ Type Parser::TypeNamed(int lengthWhenNone) {
   if (is("datetime") || is("smalldatetime")) return Type::Of(Kind::DateTime);
   if (is("float") || is("real")) return Type::Of(Kind::Float);
   if (is("uniqueidentifier")) return Type::Of(Kind::Guid);
-  if (is("money") || is("smallmoney")) return Type::DecimalOf(kMostDigits, 4);
+  if (is("money") || is("smallmoney")) return Type::DecimalOf(kMaxDigits, 4);
   if (is("text") || is("ntext")) return Type::TextOf(0);
   if (is("decimal") || is("numeric") || is("dec")) {
-    int precision = kMostDigits, scale = 0;
+    int precision = kMaxDigits, scale = 0;
     if (TakeSymbol('(')) {
       precision = StructuralNumber(38);
-      if (TakeSymbol(',')) scale = StructuralNumber(kMostDigits);
+      if (TakeSymbol(',')) scale = StructuralNumber(kMaxDigits);
       ExpectSymbol(')');
     }
     if (precision < 1 || scale > precision)
@@ -140,7 +140,8 @@ Type Parser::TypeNamed(int lengthWhenNone) {
   }
   const bool fixed = is("char") || is("nchar");
   if (!fixed && !is("varchar") && !is("nvarchar")) {
-    RaiseServer(kUnknownType, "Type " + std::string(lexed_.TextOf(lexed_.tokens[token])) + " is not a defined system type.");
+    RaiseServer(kUnknownType,
+                "Type " + std::string(tokenList_.TextOf(tokenList_.tokens[token])) + " is not a defined system type.");
   }
   Type type = Type::TextOf(lengthWhenNone);
   type.fixed = fixed;
@@ -172,12 +173,6 @@ Parser::Nesting::Nesting(Parser& parser) : parser_(parser) {
 void Parser::SkipSeparators() {
   while (TakeSymbol(';')) {
   }
-}
-
-ast::ExprPtr Parser::WholeExpression() {
-  ast::ExprPtr value = Value();
-  if (!AtEnd()) Unexpected();
-  return value;
 }
 
 }  // namespace suite

@@ -16,7 +16,7 @@ namespace suite {
 /// with another such number is another statement.
 class Parser {
  public:
-  explicit Parser(const Lexed& lexed, std::size_t position = 0) : lexed_(lexed), position_(position) {}
+  explicit Parser(const TokenList& tokenList, std::size_t position = 0) : tokenList_(tokenList), position_(position) {}
 
   bool AtEnd() const { return Peek().kind == TokenKind::End; }
   std::size_t Position() const { return position_; }
@@ -24,8 +24,6 @@ class Parser {
   void SkipSeparators();
   /// One statement. A procedure may be named without exec only as the batch's first.
   ast::StatementPtr Statement(bool first);
-  /// A whole text that is one expression or one query (a column's default, a procedure's select).
-  ast::ExprPtr WholeExpression();
 
   const std::vector<int>& Structural() const { return structural_; }
 
@@ -56,7 +54,7 @@ class Parser {
   /// A name with an optional owner ("dbo.") before it, which is dropped.
   std::string ObjectName();
   bool NameFollows() const;
-  int StructuralNumber(int most);
+  int StructuralNumber(int max);
   void MarkStructural(const Token& token);
   /// A type; character types without a length get the one given.
   Type TypeNamed(int lengthWhenNone);
@@ -125,7 +123,7 @@ class Parser {
   bool TableKey(ast::CreateTable& table);
   void SkipClustering();
 
-  const Lexed& lexed_;
+  const TokenList& tokenList_;
   std::size_t position_;
   std::vector<int> structural_;
   int depth_ = 0;

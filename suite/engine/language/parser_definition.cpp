@@ -64,7 +64,7 @@ bool Parser::ColumnOption(ast::ColumnDefinition& column) {
     ExpectWord("null");
     column.nullable = false;
   } else if (TakeWord("default")) {
-    column.initial = Primary();
+    column.defaultValue = Primary();
   } else if (TakeWord("primary")) {
     ExpectWord("key");
     SkipClustering();
@@ -114,11 +114,11 @@ ast::CreateProcedure Parser::CreateProcedure() {
   const bool parenthesis = TakeSymbol('(');
   while (Peek().kind == TokenKind::Variable) {
     ast::ProcedureParameter parameter;
-    parameter.name = std::string(lexed_.TextOf(lexed_.tokens[position_++]));
+    parameter.name = std::string(tokenList_.TextOf(tokenList_.tokens[position_++]));
     TakeWord("as");
     parameter.type = TypeNamed(1);
     parameter.hasDefault = TakeSymbol('=');
-    if (parameter.hasDefault) parameter.initial = Sign();
+    if (parameter.hasDefault) parameter.defaultValue = Sign();
     procedure.parameters.push_back(std::move(parameter));
     if (!TakeSymbol(',')) break;
   }
@@ -126,7 +126,7 @@ ast::CreateProcedure Parser::CreateProcedure() {
   ExpectWord("as");
   // The body runs on the server; here it is kept as text, and a registered function does its work.
   if (AtEnd()) Unexpected();
-  position_ = lexed_.tokens.size() - 1;
+  position_ = tokenList_.tokens.size() - 1;
   return procedure;
 }
 

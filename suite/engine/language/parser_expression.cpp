@@ -11,7 +11,7 @@ using ast::ExprPtr;
 namespace {
 
 constexpr int kCastLength = 30;  // of a character type named without a length
-constexpr int kGreatestStyle = 127;
+constexpr int kMaxStyle = 127;
 
 std::string LowerWord(std::string_view word) {
   std::string lower(word);
@@ -218,7 +218,7 @@ ExprPtr Parser::Primary() {
 
 ExprPtr Parser::WordPrimary() {
   const std::uint32_t token = Here();
-  const std::string word = LowerWord(lexed_.TextOf(Peek()));
+  const std::string word = LowerWord(tokenList_.TextOf(Peek()));
   if (word == "null") {
     ++position_;
     return Node(token, ast::Null{});
@@ -256,9 +256,10 @@ std::vector<ExprPtr> Parser::Arguments() {
 ExprPtr Parser::Function(std::string name) {
   const std::uint32_t token = Here();
   position_ += 2;
-  if (name == "count" && TakeSymbol('*')) {
+  const bool big = name == "count_big";
+  if ((big || name == "count") && TakeSymbol('*')) {
     ExpectSymbol(')');
-    return Node(token, ast::CountAll{});
+    return Node(token, ast::CountAll{big});
   }
   ast::Function function{std::move(name), false, {}};
   if (TakeSymbol(')')) return Node(token, std::move(function));
@@ -302,7 +303,7 @@ ExprPtr Parser::CastExpression(bool convert) {
     cast.type = TypeNamed(kCastLength);
     ExpectSymbol(',');
     cast.value = Value();
-    if (TakeSymbol(',')) cast.style = StructuralNumber(kGreatestStyle);
+    if (TakeSymbol(',')) cast.style = StructuralNumber(kMaxStyle);
   } else {
     cast.value = Value();
     ExpectWord("as");

@@ -10,6 +10,7 @@ std::unique_ptr<ast::Query> Parser::Query() {
   query->token = static_cast<std::uint32_t>(position_);
   for (;;) {
     query->parts.push_back(Select());
+    if (PeekWord("intersect") || PeekWord("except")) Unexpected();
     if (!TakeWord("union")) break;
     query->all.push_back(TakeWord("all"));
   }
@@ -68,7 +69,7 @@ ast::SelectItem Parser::Item() {
   if (Peek().kind == TokenKind::Text) {
     // An alias in quotation marks is a name, not a literal: it belongs to the statement's shape.
     MarkStructural(Peek());
-    item.alias = lexed_.ValueOf(lexed_.tokens[position_++]);
+    item.alias = tokenList_.ValueOf(tokenList_.tokens[position_++]);
   } else if (as || NameFollows()) {
     item.alias = Name();
   }

@@ -18,7 +18,7 @@ bool Cursor::Fetch() {
   if (state_ == State::Done) return false;
   state_ = State::Reading;
   do {
-    if ((most_ > 0 && read_ >= most_) || !session_->Step(rows_.Get())) {
+    if ((maxRows_ > 0 && read_ >= maxRows_) || !session_->Step(rows_.Get())) {
       Finish();
       return false;
     }
@@ -154,30 +154,30 @@ std::int64_t Cursor::Position() {
   return position_;
 }
 
-Cursor::Row& Cursor::Kept() {
+Cursor::Row& Cursor::CurrentRow() {
   if (onAdded_) return added_.back();
   return kept_[static_cast<std::size_t>(position_)];
 }
 
 late::Value Cursor::Value(std::size_t column) {
   if (!OnRow()) RaiseAdo(ado::kNoCurrentRecord, kSource);
-  if (keeps_ || onAdded_) return Kept().values[column];
+  if (keeps_ || onAdded_) return CurrentRow().values[column];
   return ToValue(rows_.Get(), static_cast<int>(column), Columns()[column].type);
 }
 
 std::int64_t Cursor::RowId() {
   if (!OnRow()) RaiseAdo(ado::kNoCurrentRecord, kSource);
-  if (keeps_ || onAdded_) return Kept().id;
+  if (keeps_ || onAdded_) return CurrentRow().id;
   return sqlite3_column_int64(rows_.Get(), static_cast<int>(Columns().size()));
 }
 
 void Cursor::Changed(std::size_t column, late::Value value) {
-  if (keeps_ || onAdded_) Kept().values[column] = std::move(value);
+  if (keeps_ || onAdded_) CurrentRow().values[column] = std::move(value);
 }
 
 void Cursor::Removed() {
   if (onAdded_) ReadAll();
-  if (keeps_) Kept().deleted = true;
+  if (keeps_) CurrentRow().deleted = true;
 }
 
 void Cursor::Added(Row row) {
@@ -197,7 +197,7 @@ void Cursor::Added(Row row) {
   onAdded_ = true;
 }
 
-void Cursor::Settle(std::int64_t provisional, std::int64_t id) {
+void Cursor::SetRowId(std::int64_t provisional, std::int64_t id) {
   for (std::vector<Row>* rows : {&added_, &kept_}) {
     for (Row& row : *rows) {
       if (row.id != provisional) continue;
@@ -219,7 +219,7 @@ late::ArrayPtr Cursor::Take(std::int64_t count, const std::vector<int>& columns)
     TakeStreaming(count, columns, block->items);
   } else {
     for (std::int64_t taken = 0; (count < 0 || taken < count) && !Eof(); ++taken) {
-      const Row& row = Kept();
+      const Row& row = CurrentRow();
       for (const int column : columns) block->items.push_back(row.values[static_cast<std::size_t>(column)]);
       MoveNext();
     }

@@ -18,8 +18,8 @@ class Cursor {
     bool deleted = false;
   };
 
-  Cursor(std::shared_ptr<Session> session, StatementHandle rows, bool keepsRows, std::int64_t mostRows)
-      : session_(std::move(session)), rows_(std::move(rows)), keeps_(keepsRows), most_(mostRows) {}
+  Cursor(std::shared_ptr<Session> session, StatementHandle rows, bool keepsRows, std::int64_t maxRows)
+      : session_(std::move(session)), rows_(std::move(rows)), keeps_(keepsRows), maxRows_(maxRows) {}
 
   const std::vector<ResultColumn>& Columns() const { return rows_.Translated().columns; }
   const Translation& Source() const { return rows_.Translated(); }
@@ -48,7 +48,7 @@ class Cursor {
   /// A value of the current row, which must be there.
   late::Value Value(std::size_t column);
   std::int64_t RowId();
-  /// Up to `count` rows (-1: all) from the current one, as (column, row); the cursor stands behind them.
+  /// Up to `count` rows (-1: all) from the current one, as (column, row); the cursor moves to the row after them.
   late::ArrayPtr Take(std::int64_t count, const std::vector<int>& columns);
 
   /// Notes what was sent to the store through this cursor.
@@ -56,7 +56,7 @@ class Cursor {
   void Removed();
   void Added(Row row);
   /// A new row shown under a provisional id has been sent and has this one; 0 takes the row back.
-  void Settle(std::int64_t provisional, std::int64_t id);
+  void SetRowId(std::int64_t provisional, std::int64_t id);
 
  private:
   enum class State { NotStarted, Reading, Done };
@@ -66,17 +66,17 @@ class Cursor {
   void Finish();
   Row ReadRow();
   void TakeStreaming(std::int64_t count, const std::vector<int>& columns, std::vector<late::Value>& items);
-  Row& Kept();
+  Row& CurrentRow();
 
   std::shared_ptr<Session> session_;
   StatementHandle rows_;
   bool keeps_;
-  std::int64_t most_;
+  std::int64_t maxRows_;
   State state_ = State::NotStarted;
   std::int64_t read_ = 0;
   std::int64_t position_ = 0;
   std::vector<Row> kept_;
-  std::vector<Row> added_;           ///< new rows, behind all that the query gives
+  std::vector<Row> added_;           ///< new rows, after all that the query returns
   std::set<std::int64_t> addedIds_;  ///< not to be met a second time when the query reaches them
   bool onAdded_ = false;             ///< the current row is the last one added
 };

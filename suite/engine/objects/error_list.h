@@ -23,7 +23,7 @@ class ErrorList : public late::TableObject<ErrorList> {
 /// One of them, with the server's own number beside the provider's.
 class ErrorItem : public late::TableObject<ErrorItem> {
  public:
-  // Kept to be asked for, not thrown.
+  // CurrentRow to be asked for, not thrown.
   explicit ErrorItem(const ServerError& error) : error_(error) {}  // NOLINT(bugprone-throw-keyword-missing)
   static const late::MemberTable<ErrorItem>& Members();
   std::string TypeName() const override { return "Error"; }

@@ -82,7 +82,7 @@ class Recordset : public late::TableObject<Recordset>, private OpenRows {
   void CancelUpdate();
   void CancelBatch();
   void Delete();
-  void SettleEdit();
+  void FinishEdit();
   void RequireRowHandle();
   void AddRow(const late::Array& names, const late::Array& values);
   void Keep(Pending pending);
@@ -110,8 +110,7 @@ class Recordset : public late::TableObject<Recordset>, private OpenRows {
   std::vector<std::pair<std::size_t, late::Value>> edits_;  ///< fields set, in that order
   std::vector<Pending> pending_;
   std::int64_t provisionalId_ = 0;
-  late::ArrayPtr lastNames_;  ///< AddNew's column list met last, and its columns
-  std::vector<std::string> lastNameTexts_;
+  std::vector<std::string> lastColumnNames_;  ///< of the last AddNew, and their columns
   RowWriter::ColumnSet* lastSet_ = nullptr;
 };
 

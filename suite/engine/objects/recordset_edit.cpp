@@ -30,7 +30,7 @@ int Recordset::TableColumn(std::size_t column) {
 }
 
 late::Value Recordset::Typed(std::size_t column, const late::Value& value) {
-  // What is read back is what the column makes of the value.
+  // The field reads back as the value converted to the column's type.
   std::string buffer;
   const Type& type = cursor_->Columns()[column].type;
   const Cell cell = FromValue(value, type, buffer);
@@ -94,7 +94,7 @@ void Recordset::SetField(std::size_t column, late::Value value) {
 
 void Recordset::AddNew(late::Arguments& arguments) {
   Writer();
-  SettleEdit();
+  FinishEdit();
   RequireRowHandle();
   if (!arguments.Has(0)) {
     edit_ = Edit::Adding;
@@ -114,16 +114,16 @@ void Recordset::AddRow(const late::Array& names, const late::Array& values) {
     const auto* given = name.If<std::string>();
     return given && *given == text;
   };
-  if (!lastSet_ || !std::equal(names.items.begin(), names.items.end(), lastNameTexts_.begin(), lastNameTexts_.end(), same)) {
+  if (!lastSet_ || !std::equal(names.items.begin(), names.items.end(), lastColumnNames_.begin(), lastColumnNames_.end(), same)) {
     std::vector<int> columns;
-    lastNameTexts_.clear();
+    lastColumnNames_.clear();
     for (const late::Value& name : names.items) {
       const std::size_t column = ColumnAt(name);
       const int position = TableColumn(column);
       if (std::find(columns.begin(), columns.end(), position) != columns.end()) RaiseAdo(ado::kArgumentError, kSource);
       columns.push_back(position);
-      lastNameTexts_.push_back(cursor_->Columns()[column].name);
-      if (const auto* text = name.If<std::string>()) lastNameTexts_.back() = *text;
+      lastColumnNames_.push_back(cursor_->Columns()[column].name);
+      if (const auto* text = name.If<std::string>()) lastColumnNames_.back() = *text;
     }
     lastSet_ = &Writer().SetOf(columns);
   }
@@ -146,7 +146,7 @@ void Recordset::SendRow(Pending& pending) {
     case Change::Insert: {
       const std::int64_t provisional = pending.rowId;
       pending.rowId = writer.Insert(*pending.set, pending.values);
-      if (pending.shown) cursor_->Settle(provisional, pending.rowId);
+      if (pending.shown) cursor_->SetRowId(provisional, pending.rowId);
       break;
     }
     case Change::Update:
@@ -178,7 +178,7 @@ void Recordset::ShowNew() {
   std::erase_if(pending_, [](const Pending& pending) { return pending.sent && pending.shown; });
 }
 
-void Recordset::SettleEdit() {
+void Recordset::FinishEdit() {
   if (edit_ == Edit::None) return;
   late::Arguments none({});
   Update(none);
@@ -213,7 +213,7 @@ void Recordset::Update(late::Arguments& arguments) {
 }
 
 void Recordset::UpdateBatch() {
-  SettleEdit();
+  FinishEdit();
   Writer();
   const auto unsent = [](const Pending& pending) { return !pending.sent; };
   if (std::none_of(pending_.begin(), pending_.end(), unsent)) return;
@@ -232,7 +232,7 @@ void Recordset::UpdateBatch() {
     });
   } catch (...) {
     for (const auto& [pending, id] : sent) {
-      if (pending->shown && pending->change == Change::Insert) cursor_->Settle(pending->rowId, id);
+      if (pending->shown && pending->change == Change::Insert) cursor_->SetRowId(pending->rowId, id);
       pending->rowId = id;
       pending->sent = false;
     }
@@ -252,7 +252,7 @@ void Recordset::CancelBatch() {
   CancelUpdate();
   for (const Pending& pending : pending_) {
     if (pending.sent) continue;
-    if (pending.shown && pending.change == Change::Insert) cursor_->Settle(pending.rowId, 0);
+    if (pending.shown && pending.change == Change::Insert) cursor_->SetRowId(pending.rowId, 0);
   }
   std::erase_if(pending_, [](const Pending& pending) { return !pending.sent; });
 }

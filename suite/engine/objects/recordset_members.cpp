@@ -27,18 +27,18 @@ struct RecordsetMembers {
               self.*setting = arguments[0].ToInt32();
             }};
   }
-  static late::Member<Recordset> Method(std::string_view name, void (Recordset::*method)(), int most = 0) {
+  static late::Member<Recordset> Method(std::string_view name, void (Recordset::*method)(), int maxArguments = 0) {
     return {name,
             [method](Self& self, Arguments&) -> Value {
               (self.*method)();
               return {};
             },
-            nullptr, 0, most};
+            nullptr, 0, maxArguments};
   }
   static late::Member<Recordset> Moving(std::string_view name, void (Cursor::*move)()) {
     return {name,
             [move](Self& self, Arguments&) -> Value {
-              self.SettleEdit();
+              self.FinishEdit();
               (self.Rows().*move)();
               return {};
             },

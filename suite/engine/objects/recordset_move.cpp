@@ -41,7 +41,7 @@ std::int64_t Recordset::RecordCount() {
 }
 
 void Recordset::Move(late::Arguments& arguments) {
-  SettleEdit();
+  FinishEdit();
   Cursor& rows = Rows();
   std::int64_t base = rows.Position();
   if (arguments.Has(1)) {
@@ -60,7 +60,7 @@ late::Value Recordset::Bookmark() {
 }
 
 void Recordset::SetBookmark(const late::Value& value) {
-  SettleEdit();
+  FinishEdit();
   if (!Rows().KeepsRows()) RaiseAdo(ado::kFeatureNotAvailable, kSource);
   const auto position = static_cast<std::int64_t>(value.ToDouble()) - 1;
   if (position < 0) RaiseAdo(ado::kArgumentError, kSource);
@@ -89,7 +89,7 @@ std::vector<int> Recordset::FieldList(const late::Arguments& arguments, std::siz
 }
 
 late::Value Recordset::GetRows(late::Arguments& arguments) {
-  SettleEdit();
+  FinishEdit();
   Cursor& rows = Rows();
   if (arguments.Has(1) && arguments[1].IsNumber()) {
     const std::int32_t start = arguments[1].ToInt32();
@@ -100,7 +100,7 @@ late::Value Recordset::GetRows(late::Arguments& arguments) {
 }
 
 late::Value Recordset::GetString(late::Arguments& arguments) {
-  SettleEdit();
+  FinishEdit();
   if (arguments.Or(0, std::int32_t{kClipString}).ToInt32() != kClipString) RaiseAdo(ado::kArgumentError, kSource);
   const std::string columnDelimiter = arguments.Or(2, "\t").ToText();
   const std::string rowDelimiter = arguments.Or(3, "\r").ToText();

@@ -152,7 +152,6 @@ void Recordset::ConnectionClosed() {
   edit_ = Edit::None;
   edits_.clear();
   pending_.clear();
-  lastNames_.reset();
   lastSet_ = nullptr;
   writer_.reset();
   cursor_.reset();

@@ -12,16 +12,16 @@ namespace {
 constexpr int kRowIdentifierStat = 2;  // syscolumns.colstat of a row identifier
 
 /// The statement's own words.
-std::string_view TextOfStatement(const Lexed& lexed, const ast::Statement& statement) {
-  const Token& last = lexed.tokens[statement.end - 1];
-  const std::uint32_t begin = lexed.tokens[statement.token].begin;
+std::string_view TextOfStatement(const TokenList& tokenList, const ast::Statement& statement) {
+  const Token& last = tokenList.tokens[statement.end - 1];
+  const std::uint32_t begin = tokenList.tokens[statement.token].begin;
   const bool quoted = last.kind == TokenKind::Text || last.kind == TokenKind::Quoted;
-  return lexed.text.substr(begin, last.end - begin + (quoted ? 1 : 0));
+  return tokenList.text.substr(begin, last.end - begin + (quoted ? 1 : 0));
 }
 
 /// A statement of the store's own with texts bound to ?1, ?2, ...
-void Bound(Session& session, const char* sql, std::initializer_list<std::string_view> texts,
-           std::initializer_list<std::int64_t> numbers = {}) {
+void ExecuteBound(Session& session, const char* sql, std::initializer_list<std::string_view> texts,
+                  std::initializer_list<std::int64_t> numbers = {}) {
   Translation translation;
   translation.sql = sql;
   const StatementHandle handle = session.Prepare(std::move(translation));
@@ -34,7 +34,7 @@ void Bound(Session& session, const char* sql, std::initializer_list<std::string_
 
 }  // namespace
 
-void Definitions::Store(const std::string& sql) {
+void Definitions::Execute(const std::string& sql) {
   Translation translation;
   translation.sql = sql;
   const StatementHandle handle = session_.Prepare(std::move(translation));
@@ -43,11 +43,11 @@ void Definitions::Store(const std::string& sql) {
 }
 
 void Definitions::Prepare() {
-  Store(
+  Execute(
       "CREATE TABLE IF NOT EXISTS sysobjects (id INTEGER PRIMARY KEY, name TEXT COLLATE server UNIQUE, xtype TEXT COLLATE "
       "server, "
       "definition TEXT)");
-  Store(
+  Execute(
       "CREATE TABLE IF NOT EXISTS syscolumns (id INT, name TEXT COLLATE server, colid INT, colstat INT, length INT, isnullable "
       "INT)");
 }
@@ -61,11 +61,11 @@ void Definitions::Load() {
     const StatementHandle handle = session_.Prepare(std::move(translation));
     while (session_.Step(handle.Get())) texts.push_back(ToValue(handle.Get(), 0, Type::TextOf(0)).ToText());
   }
-  Lexed lexed;
+  TokenList tokenList;
   for (const std::string& text : texts) {
-    Lex(text, lexed);
-    Parser parser(lexed);
-    AddToCatalog(lexed, *parser.Statement(true));
+    Lex(text, tokenList);
+    Parser parser(tokenList);
+    AddToCatalog(tokenList, *parser.Statement(true));
   }
 }
 
@@ -90,9 +90,9 @@ Relation Definitions::ShapeOf(ast::CreateTable& table) {
   return relation;
 }
 
-void Definitions::AddView(const Lexed& lexed, const ast::CreateView& view) {
+void Definitions::AddView(const TokenList& tokenList, const ast::CreateView& view) {
   std::vector<int> structural;
-  const Translation translation = Translator(catalog_, lexed, structural, true).View(view);
+  const Translation translation = Translator(catalog_, tokenList, structural, true).View(view);
   Relation relation{view.name, true, {}};
   for (const ResultColumn& column : translation.columns) {
     relation.columns.push_back(ColumnDef{column.name, column.type, column.nullable, false});
@@ -100,43 +100,43 @@ void Definitions::AddView(const Lexed& lexed, const ast::CreateView& view) {
   catalog_.Add(std::move(relation));
 }
 
-void Definitions::AddProcedure(const Lexed& lexed, const ast::CreateProcedure& procedure) {
+void Definitions::AddProcedure(const TokenList& tokenList, const ast::CreateProcedure& procedure) {
   ProcedureDef definition{procedure.name, {}};
   for (const ast::ProcedureParameter& parameter : procedure.parameters) {
     definition.parameters.push_back(
-        {parameter.name, parameter.type, parameter.hasDefault, ArgumentValue(lexed, parameter.initial.get())});
+        {parameter.name, parameter.type, parameter.hasDefault, ArgumentValue(tokenList, parameter.defaultValue.get())});
   }
   catalog_.Add(std::move(definition));
 }
 
-void Definitions::AddToCatalog(const Lexed& lexed, ast::Statement& statement) {
+void Definitions::AddToCatalog(const TokenList& tokenList, ast::Statement& statement) {
   std::visit(ast::Overloaded{
                  [&](ast::CreateTable& table) { catalog_.Add(ShapeOf(table)); },
-                 [&](const ast::CreateView& view) { AddView(lexed, view); },
-                 [&](const ast::CreateProcedure& procedure) { AddProcedure(lexed, procedure); },
+                 [&](const ast::CreateView& view) { AddView(tokenList, view); },
+                 [&](const ast::CreateProcedure& procedure) { AddProcedure(tokenList, procedure); },
                  [](const auto&) {},
              },
              statement.node);
 }
 
-void Definitions::Run(const Lexed& lexed, ast::Statement& statement) {
+void Definitions::Run(const TokenList& tokenList, ast::Statement& statement) {
   const std::int64_t version = catalog_.Version();
   try {
-    session_.Atomically([&] { Change(lexed, statement); });
+    session_.Atomically([&] { Change(tokenList, statement); });
   } catch (...) {
     if (version != catalog_.Version()) Load();
     throw;
   }
 }
 
-void Definitions::Change(const Lexed& lexed, ast::Statement& statement) {
-  const std::string_view text = TextOfStatement(lexed, statement);
+void Definitions::Change(const TokenList& tokenList, ast::Statement& statement) {
+  const std::string_view text = TextOfStatement(tokenList, statement);
   std::visit(ast::Overloaded{
-                 [&](ast::CreateTable& table) { CreateTable(lexed, table, text); },
-                 [&](const ast::CreateView& view) { CreateView(lexed, view, text); },
+                 [&](ast::CreateTable& table) { CreateTable(tokenList, table, text); },
+                 [&](const ast::CreateView& view) { CreateView(tokenList, view, text); },
                  [&](const ast::CreateIndex& index) { CreateIndex(index); },
-                 [&](const ast::CreateProcedure& procedure) { CreateProcedure(lexed, procedure, text); },
-                 [&](const ast::AddColumns& add) { AddColumns(lexed, add, statement); },
+                 [&](const ast::CreateProcedure& procedure) { CreateProcedure(tokenList, procedure, text); },
+                 [&](const ast::AddColumns& add) { AddColumns(tokenList, add, statement); },
                  [&](const ast::Drop& drop) { Drop(drop); },
                  [](const auto&) {},
              },
@@ -150,36 +150,36 @@ void Definitions::RefuseExisting(const std::string& name) const {
 }
 
 void Definitions::Remember(const std::string& name, const char* type, std::string_view text, const Relation* relation) {
-  Bound(session_, "INSERT INTO sysobjects (name, xtype, definition) VALUES (?1, ?2, ?3)", {name, type, text});
+  ExecuteBound(session_, "INSERT INTO sysobjects (name, xtype, definition) VALUES (?1, ?2, ?3)", {name, type, text});
   if (relation) RememberColumns(*relation);
 }
 
 void Definitions::RememberColumns(const Relation& relation) {
-  Bound(session_, "DELETE FROM syscolumns WHERE id = (SELECT id FROM sysobjects WHERE name = ?1)", {relation.name});
+  ExecuteBound(session_, "DELETE FROM syscolumns WHERE id = (SELECT id FROM sysobjects WHERE name = ?1)", {relation.name});
   std::int64_t position = 0;
   for (const ColumnDef& column : relation.columns) {
-    Bound(session_,
-          "INSERT INTO syscolumns (id, name, colid, colstat, length, isnullable) "
-          "SELECT id, ?2, ?3, ?4, ?5, ?6 FROM sysobjects WHERE name = ?1",
-          {relation.name, column.name},
-          {++position, column.rowIdentifier ? kRowIdentifierStat : 0, column.type.length, column.nullable ? 1 : 0});
+    ExecuteBound(session_,
+                 "INSERT INTO syscolumns (id, name, colid, colstat, length, isnullable) "
+                 "SELECT id, ?2, ?3, ?4, ?5, ?6 FROM sysobjects WHERE name = ?1",
+                 {relation.name, column.name},
+                 {++position, column.rowIdentifier ? kRowIdentifierStat : 0, column.type.length, column.nullable ? 1 : 0});
   }
 }
 
-void Definitions::CreateTable(const Lexed& lexed, ast::CreateTable& table, std::string_view text) {
+void Definitions::CreateTable(const TokenList& tokenList, ast::CreateTable& table, std::string_view text) {
   RefuseExisting(table.name);
   const Relation relation = ShapeOf(table);
   std::vector<int> structural;
-  Store(Translator(catalog_, lexed, structural, true).Table(table.name, table.columns, table.keys).sql);
+  Execute(Translator(catalog_, tokenList, structural, true).Table(table.name, table.columns, table.keys).sql);
   Remember(table.name, "U", text, &relation);
   catalog_.Add(relation);
 }
 
-void Definitions::CreateView(const Lexed& lexed, const ast::CreateView& view, std::string_view text) {
+void Definitions::CreateView(const TokenList& tokenList, const ast::CreateView& view, std::string_view text) {
   RefuseExisting(view.name);
   std::vector<int> structural;
-  Store(Translator(catalog_, lexed, structural, true).View(view).sql);
-  AddView(lexed, view);
+  Execute(Translator(catalog_, tokenList, structural, true).View(view).sql);
+  AddView(tokenList, view);
   Remember(view.name, "V", text, &catalog_.RelationNamed(view.name));
 }
 
@@ -192,14 +192,14 @@ void Definitions::CreateIndex(const ast::CreateIndex& index) {
     columns += (columns.empty() ? "" : ", ") + Quoted(table.columns[static_cast<std::size_t>(column)].name);
   }
   // The store's index names are the database's; the server's belong to their table.
-  Store(std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Quoted(table.name + "." + index.name) + " ON " +
-        Quoted(table.name) + " (" + columns + ")");
+  Execute(std::string(index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Quoted(table.name + "." + index.name) + " ON " +
+          Quoted(table.name) + " (" + columns + ")");
 }
 
-void Definitions::CreateProcedure(const Lexed& lexed, const ast::CreateProcedure& procedure, std::string_view text) {
+void Definitions::CreateProcedure(const TokenList& tokenList, const ast::CreateProcedure& procedure, std::string_view text) {
   RefuseExisting(procedure.name);
   Remember(procedure.name, "P", text, nullptr);
-  AddProcedure(lexed, procedure);
+  AddProcedure(tokenList, procedure);
 }
 
 std::string Definitions::TextOf(const std::string& name) {
@@ -210,27 +210,27 @@ std::string Definitions::TextOf(const std::string& name) {
   return session_.Step(handle.Get()) ? ToValue(handle.Get(), 0, Type::TextOf(0)).ToText() : std::string();
 }
 
-void Definitions::AddColumns(const Lexed& lexed, const ast::AddColumns& add, const ast::Statement& statement) {
+void Definitions::AddColumns(const TokenList& tokenList, const ast::AddColumns& add, const ast::Statement& statement) {
   const Relation& table = catalog_.RelationNamed(add.table);
   std::string text = TextOf(table.name);
   text.erase(text.rfind(')'));
   std::vector<int> structural;
-  const std::string whole = Translator(catalog_, lexed, structural, true).Table(table.name, add.columns, {}).sql;
-  // The store adds one column at a time; their definitions stand between the outer parentheses.
+  const std::string whole = Translator(catalog_, tokenList, structural, true).Table(table.name, add.columns, {}).sql;
+  // The store adds one column at a time; their definitions are between the outer parentheses.
   if (add.columns.size() != 1) RaiseServer(kSyntaxNear, "Incorrect syntax near 'add': one column at a time.");
   const std::size_t open = whole.find(" (") + 2;
-  Store("ALTER TABLE " + Quoted(table.name) + " ADD COLUMN " + whole.substr(open, whole.size() - open - 1));
-  const std::string_view added = TextOfStatement(lexed, statement);
+  Execute("ALTER TABLE " + Quoted(table.name) + " ADD COLUMN " + whole.substr(open, whole.size() - open - 1));
+  const std::string_view added = TextOfStatement(tokenList, statement);
   std::size_t column = 0;
   for (std::uint32_t token = statement.token; token < statement.end; ++token) {
-    if (EqualWord(lexed.TextOf(lexed.tokens[token]), "add")) {
-      column = lexed.tokens[token].end - lexed.tokens[statement.token].begin;
+    if (EqualWord(tokenList.TextOf(tokenList.tokens[token]), "add")) {
+      column = tokenList.tokens[token].end - tokenList.tokens[statement.token].begin;
       break;
     }
   }
   text += "," + std::string(added.substr(column)) + ")";
-  Bound(session_, "UPDATE sysobjects SET definition = ?2 WHERE name = ?1", {table.name, text});
-  Lexed grown;
+  ExecuteBound(session_, "UPDATE sysobjects SET definition = ?2 WHERE name = ?1", {table.name, text});
+  TokenList grown;
   Lex(text, grown);
   AddToCatalog(grown, *Parser(grown).Statement(true));
   RememberColumns(catalog_.RelationNamed(add.table));
@@ -239,7 +239,7 @@ void Definitions::AddColumns(const Lexed& lexed, const ast::AddColumns& add, con
 void Definitions::Drop(const ast::Drop& drop) {
   if (drop.objectType == "index") {
     const std::string table = drop.table.empty() ? std::string() : catalog_.RelationNamed(drop.table).name;
-    return Store("DROP INDEX " + Quoted(table + "." + drop.name));
+    return Execute("DROP INDEX " + Quoted(table + "." + drop.name));
   }
   const Relation* relation = catalog_.FindRelation(drop.name);
   const bool procedure = drop.objectType == "procedure";
@@ -250,9 +250,9 @@ void Definitions::Drop(const ast::Drop& drop) {
                 "Cannot drop the " + drop.objectType + " '" + drop.name + "', because it does not exist in the system catalog.");
   }
   const std::string name = relation ? relation->name : drop.name;
-  if (!procedure) Store((relation->view ? "DROP VIEW " : "DROP TABLE ") + Quoted(name));
-  Bound(session_, "DELETE FROM syscolumns WHERE id = (SELECT id FROM sysobjects WHERE name = ?1)", {name});
-  Bound(session_, "DELETE FROM sysobjects WHERE name = ?1", {name});
+  if (!procedure) Execute((relation->view ? "DROP VIEW " : "DROP TABLE ") + Quoted(name));
+  ExecuteBound(session_, "DELETE FROM syscolumns WHERE id = (SELECT id FROM sysobjects WHERE name = ?1)", {name});
+  ExecuteBound(session_, "DELETE FROM sysobjects WHERE name = ?1", {name});
   if (procedure) {
     catalog_.RemoveProcedure(name);
   } else {

@@ -9,7 +9,7 @@
 
 namespace suite {
 
-/// Told of everything a connection is about to do, in the words of the one who asked for it. It may raise a run-time error:
+/// Notified of everything a connection is about to do, in the caller's words. It may raise a run-time error:
 /// then the thing is not done and the error goes to the caller (a refused commit leaves the transaction open).
 class StatementObserver {
  public:

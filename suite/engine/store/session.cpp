@@ -117,36 +117,36 @@ RunResult Session::Run(std::string_view text, bool updatable) {
     ~Depth() { --depth; }
   } depth(running_);
   if (running_ > 1) {
-    Lexed own;
+    TokenList own;
     Lex(text, own);
-    return RunLexed(own, updatable);
+    return RunTokens(own, updatable);
   }
   return Guarded([&] {
     if (observer_) observer_->Statement(text);
     Use();
     Lex(text, scratch_);
-    return RunLexed(scratch_, updatable);
+    return RunTokens(scratch_, updatable);
   });
 }
 
-RunResult Session::RunLexed(const Lexed& lexed, bool updatable) {
+RunResult Session::RunTokens(const TokenList& tokenList, bool updatable) {
   if (cacheVersion_ != store_->catalog.Version()) {
     cache_.Clear();
     cacheVersion_ = store_->catalog.Version();
   }
-  if (auto cached = cache_.Find(lexed, updatable)) return Start(lexed, std::move(cached));
-  return RunBatch(lexed, updatable);
+  if (auto cached = cache_.Find(tokenList, updatable)) return Start(tokenList, std::move(cached));
+  return RunBatch(tokenList, updatable);
 }
 
-RunResult Session::RunBatch(const Lexed& lexed, bool updatable) {
-  Parser parser(lexed);
+RunResult Session::RunBatch(const TokenList& tokenList, bool updatable) {
+  Parser parser(tokenList);
   LaterResults results;
   for (bool first = true; !results.error; first = false) {
     parser.SkipSeparators();
     if (parser.AtEnd()) break;
     const ast::StatementPtr statement = parser.Statement(first);
     try {
-      RunResult next = RunStatement(lexed, *statement, parser, updatable);
+      RunResult next = RunStatement(tokenList, *statement, parser, updatable);
       if (!next.IsEmpty()) results.results.push_back(std::move(next));
     } catch (const ServerError& error) {
       if (results.results.empty()) throw;
@@ -161,9 +161,9 @@ RunResult Session::RunBatch(const Lexed& lexed, bool updatable) {
   return result;
 }
 
-std::shared_ptr<CachedStatement> Session::Translate(const Lexed& lexed, const ast::Statement& statement,
+std::shared_ptr<CachedStatement> Session::Translate(const TokenList& tokenList, const ast::Statement& statement,
                                                     std::vector<int>& structural, bool updatable, bool inlineLiterals) {
-  Translator translator(store_->catalog, lexed, structural, inlineLiterals);
+  Translator translator(store_->catalog, tokenList, structural, inlineLiterals);
   auto cached = std::make_shared<CachedStatement>();
   cached->store = handle_;
   cached->query = std::holds_alternative<ast::QueryStatement>(statement.node);
@@ -179,70 +179,72 @@ std::shared_ptr<CachedStatement> Session::Translate(const Lexed& lexed, const as
   return cached;
 }
 
-RunResult Session::RunTranslated(const Lexed& lexed, const ast::Statement& statement, const Parser& parser, bool updatable) {
+RunResult Session::RunTranslated(const TokenList& tokenList, const ast::Statement& statement, const Parser& parser,
+                                 bool updatable) {
   constexpr std::size_t kMaxParameters = 2000;
-  const bool tooMany = lexed.literals.size() > kMaxParameters;
+  const bool tooMany = tokenList.literals.size() > kMaxParameters;
   std::vector<int> structural = parser.Structural();
-  auto cached = Translate(lexed, statement, structural, updatable, tooMany);
+  auto cached = Translate(tokenList, statement, structural, updatable, tooMany);
   const bool whole = statement.token == 0 && parser.AtEnd();
-  if (whole && !tooMany) cache_.Add(lexed, updatable, structural, cached);
+  if (whole && !tooMany) cache_.Add(tokenList, updatable, structural, cached);
   if (tooMany) cached->translation.parameters.clear();
-  return Start(lexed, std::move(cached));
+  return Start(tokenList, std::move(cached));
 }
 
 /// Answers with its first rows, or else with its last count.
-RunResult Session::RunBlock(const Lexed& lexed, const ast::Block& block, Parser& parser, bool updatable) {
+RunResult Session::RunBlock(const TokenList& tokenList, const ast::Block& block, Parser& parser, bool updatable) {
   RunResult result;
   for (const ast::StatementPtr& inner : block.statements) {
-    RunResult next = RunStatement(lexed, *inner, parser, updatable);
+    RunResult next = RunStatement(tokenList, *inner, parser, updatable);
     if (!result.rows) result = std::move(next);
   }
   return result;
 }
 
-RunResult Session::RunStatement(const Lexed& lexed, ast::Statement& statement, Parser& parser, bool updatable) {
-  const auto onRows = [&](const auto&) { return RunTranslated(lexed, statement, parser, updatable); };
+RunResult Session::RunStatement(const TokenList& tokenList, ast::Statement& statement, Parser& parser, bool updatable) {
+  const auto onRows = [&](const auto&) { return RunTranslated(tokenList, statement, parser, updatable); };
   return std::visit(ast::Overloaded{
                         [&](const ast::QueryStatement& node) { return onRows(node); },
                         [&](const ast::Insert& node) { return onRows(node); },
                         [&](const ast::Update& node) { return onRows(node); },
                         [&](const ast::Delete& node) { return onRows(node); },
-                        [&](const ast::Execute& execute) { return RunProcedure(lexed, execute, updatable); },
+                        [&](const ast::Execute& execute) { return RunProcedure(tokenList, execute, updatable); },
                         [&](const ast::Begin&) { return BeginTransaction(), OpenTransaction(), RunResult{}; },
                         [&](const ast::Commit&) { return CommitTransaction(), RunResult{}; },
                         [&](const ast::Rollback&) { return RollbackTransaction(), RunResult{}; },
                         [&](const ast::If& node) {
-                          const ast::StatementPtr& branch = ConditionHolds(lexed, *node.condition) ? node.then : node.otherwise;
-                          return branch ? RunStatement(lexed, *branch, parser, updatable) : RunResult{};
+                          const ast::StatementPtr& branch =
+                              ConditionHolds(tokenList, *node.condition) ? node.then : node.otherwise;
+                          return branch ? RunStatement(tokenList, *branch, parser, updatable) : RunResult{};
                         },
-                        [&](const ast::Block& block) { return RunBlock(lexed, block, parser, updatable); },
+                        [&](const ast::Block& block) { return RunBlock(tokenList, block, parser, updatable); },
                         [&](const ast::SetNoCount& setting) { return countsRows_ = !setting.on, RunResult{}; },
                         [&](const ast::SetDateOrder& setting) { return functions_.dateOrder = setting.order, RunResult{}; },
                         [](const ast::OtherSetting&) { return RunResult{}; },
-                        [&](const auto&) { return Definitions(*this).Run(lexed, statement), RunResult{}; },
+                        [&](const auto&) { return Definitions(*this).Run(tokenList, statement), RunResult{}; },
                     },
                     statement.node);
 }
 
-bool Session::ConditionHolds(const Lexed& lexed, const ast::Expr& condition) {
+bool Session::ConditionHolds(const TokenList& tokenList, const ast::Expr& condition) {
   std::vector<int> structural;
   auto cached = std::make_shared<CachedStatement>();
   cached->store = handle_;
   cached->query = true;
-  cached->translation = Translator(store_->catalog, lexed, structural).Condition(condition);
-  const RunResult result = Start(lexed, std::move(cached));
+  cached->translation = Translator(store_->catalog, tokenList, structural).Condition(condition);
+  const RunResult result = Start(tokenList, std::move(cached));
   return Step(result.rows.Get()) && sqlite3_column_int(result.rows.Get(), 0) != 0;
 }
 
-RunResult Session::Start(const Lexed& lexed, std::shared_ptr<CachedStatement> cached) {
+RunResult Session::Start(const TokenList& tokenList, std::shared_ptr<CachedStatement> cached) {
   const bool query = cached->query;
   StatementHandle handle(std::move(cached));
   std::string buffer;
   int index = 0;
   const auto& parameters = handle.Translated().parameters;
   for (const Parameter& parameter : parameters) {
-    const Cell cell = LiteralCell(lexed, parameter, buffer, functions_.dateOrder);
-    // The caller's text stays in place while a change runs; rows are read later, and a converted text lies in the buffer.
+    const Cell cell = LiteralCell(tokenList, parameter, buffer, functions_.dateOrder);
+    // The caller's text stays in place while a change runs; rows are read later, and a converted text is in the buffer.
     BindCell(handle.Get(), ++index, cell, query || cell.text.data() == buffer.data());
   }
   RunResult result;

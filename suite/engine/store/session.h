@@ -97,16 +97,16 @@ class Session : public std::enable_shared_from_this<Session> {
  private:
   friend class Definitions;
 
-  RunResult RunLexed(const Lexed& lexed, bool updatable);
-  RunResult RunBatch(const Lexed& lexed, bool updatable);
-  RunResult RunStatement(const Lexed& lexed, ast::Statement& statement, Parser& parser, bool updatable);
-  RunResult RunTranslated(const Lexed& lexed, const ast::Statement& statement, const Parser& parser, bool updatable);
-  RunResult RunBlock(const Lexed& lexed, const ast::Block& block, Parser& parser, bool updatable);
-  RunResult RunProcedure(const Lexed& lexed, const ast::Execute& execute, bool updatable);
-  RunResult Start(const Lexed& lexed, std::shared_ptr<CachedStatement> cached);
-  std::shared_ptr<CachedStatement> Translate(const Lexed& lexed, const ast::Statement& statement, std::vector<int>& structural,
-                                             bool updatable, bool inlineLiterals);
-  bool ConditionHolds(const Lexed& lexed, const ast::Expr& condition);
+  RunResult RunTokens(const TokenList& tokenList, bool updatable);
+  RunResult RunBatch(const TokenList& tokenList, bool updatable);
+  RunResult RunStatement(const TokenList& tokenList, ast::Statement& statement, Parser& parser, bool updatable);
+  RunResult RunTranslated(const TokenList& tokenList, const ast::Statement& statement, const Parser& parser, bool updatable);
+  RunResult RunBlock(const TokenList& tokenList, const ast::Block& block, Parser& parser, bool updatable);
+  RunResult RunProcedure(const TokenList& tokenList, const ast::Execute& execute, bool updatable);
+  RunResult Start(const TokenList& tokenList, std::shared_ptr<CachedStatement> cached);
+  std::shared_ptr<CachedStatement> Translate(const TokenList& tokenList, const ast::Statement& statement,
+                                             std::vector<int>& structural, bool updatable, bool inlineLiterals);
+  bool ConditionHolds(const TokenList& tokenList, const ast::Expr& condition);
   void RunBatchText(std::string_view text);
   void Configure();
   void Execute(const char* sql);
@@ -127,7 +127,7 @@ class Session : public std::enable_shared_from_this<Session> {
   StatementCache cache_;
   std::int64_t cacheVersion_ = -1;
   std::int64_t versionAtBegin_ = 0;
-  Lexed scratch_;
+  TokenList scratch_;
   int running_ = 0;  ///< depth of Run: only the outermost may use the scratch tokens
   std::vector<OpenRows*> open_;
   bool manual_ = false;         ///< between Begin and Commit or Rollback

@@ -91,7 +91,7 @@ void Session::LoadCatalog() {
   definitions.Load();
 }
 
-RunResult Session::RunProcedure(const Lexed& lexed, const ast::Execute& execute, bool updatable) {
+RunResult Session::RunProcedure(const TokenList& tokenList, const ast::Execute& execute, bool updatable) {
   const ProcedureDef* definition = store_->catalog.FindProcedure(execute.procedure);
   if (!definition) RaiseServer(kUnknownProcedure, "Could not find stored procedure '" + execute.procedure + "'.");
   const Procedure procedure = FindProcedure(definition->name);
@@ -108,8 +108,8 @@ RunResult Session::RunProcedure(const Lexed& lexed, const ast::Execute& execute,
       RaiseServer(kParameterNotSupplied,
                   "Procedure '" + definition->name + "' expects parameter '" + parameter.name + "', which was not supplied.");
     }
-    arguments.push_back(i < given.size() ? ArgumentValue(lexed, given[i].get()) : parameter.initial);
-    if (parameter.type.IsWhole() && arguments.back().IsText()) {
+    arguments.push_back(i < given.size() ? ArgumentValue(tokenList, given[i].get()) : parameter.defaultValue);
+    if (parameter.type.IsInteger() && arguments.back().IsText()) {
       std::string buffer;
       arguments.back() =
           Convert(Cell::Of(std::string_view(*arguments.back().If<std::string>())), Type::TextOf(0), parameter.type, buffer)

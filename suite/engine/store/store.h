@@ -13,7 +13,7 @@ namespace suite {
 
 class Session;
 
-/// What the connections to one database share: where it lies, its clock, its catalog.
+/// What the connections to one database share: its location, its clock, its catalog.
 struct Store {
   std::string location;  ///< for sqlite3_open_v2
   bool memory = false;

@@ -33,7 +33,7 @@ struct ProcedureDef {
     std::string name;
     Type type;
     bool hasDefault = false;
-    late::Value initial;
+    late::Value defaultValue;
   };
   std::string name;
   std::vector<Parameter> parameters;

@@ -9,8 +9,8 @@
 namespace suite {
 namespace {
 
-constexpr std::size_t kMostEntries = 1000;
-constexpr std::size_t kMostIdle = 4;
+constexpr std::size_t kMaxEntries = 1000;
+constexpr std::size_t kMaxIdle = 4;
 
 }  // namespace
 
@@ -48,7 +48,7 @@ StatementHandle::~StatementHandle() {
 void StatementHandle::Release() {
   if (!statement_) return;
   sqlite3_reset(statement_);
-  if (origin_->idle.size() < kMostIdle) {
+  if (origin_->idle.size() < kMaxIdle) {
     sqlite3_clear_bindings(statement_);
     origin_->idle.push_back(statement_);
   } else {
@@ -58,41 +58,41 @@ void StatementHandle::Release() {
   origin_.reset();
 }
 
-const std::string& StatementCache::KeyOf(const Lexed& lexed, bool updatable, const std::vector<int>& structural) {
+const std::string& StatementCache::KeyOf(const TokenList& tokenList, bool updatable, const std::vector<int>& structural) {
   key_.assign(1, updatable ? 'u' : 'r');
-  key_ += lexed.key;
+  key_ += tokenList.key;
   for (const int literal : structural) {
     key_ += '\0';
-    key_ += lexed.TextOf(lexed.tokens[lexed.literals[static_cast<std::size_t>(literal)]]);
+    key_ += tokenList.TextOf(tokenList.tokens[tokenList.literals[static_cast<std::size_t>(literal)]]);
   }
   return key_;
 }
 
-std::shared_ptr<CachedStatement> StatementCache::Find(const Lexed& lexed, bool updatable) {
-  auto found = entries_.find(KeyOf(lexed, updatable, {}));
+std::shared_ptr<CachedStatement> StatementCache::Find(const TokenList& tokenList, bool updatable) {
+  auto found = entries_.find(KeyOf(tokenList, updatable, {}));
   if (found == entries_.end()) return nullptr;
   if (!found->second.structural.empty()) {
-    found = entries_.find(KeyOf(lexed, updatable, found->second.structural));
+    found = entries_.find(KeyOf(tokenList, updatable, found->second.structural));
     if (found == entries_.end()) return nullptr;
   }
   return found->second.statement;
 }
 
-void StatementCache::Add(const Lexed& lexed, bool updatable, const std::vector<int>& structural,
+void StatementCache::Add(const TokenList& tokenList, bool updatable, const std::vector<int>& structural,
                          std::shared_ptr<CachedStatement> statement) {
-  if (entries_.size() >= kMostEntries) entries_.clear();
+  if (entries_.size() >= kMaxEntries) entries_.clear();
   std::vector<int> sorted = structural;
   std::sort(sorted.begin(), sorted.end());
   sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
   if (!sorted.empty()) {
     // What shapes the statement may differ between two of the same words: the union tells them all apart.
-    Entry& marker = entries_[KeyOf(lexed, updatable, {})];
+    Entry& marker = entries_[KeyOf(tokenList, updatable, {})];
     std::vector<int> all;
     std::set_union(marker.structural.begin(), marker.structural.end(), sorted.begin(), sorted.end(), std::back_inserter(all));
     marker.structural = sorted = all;
     marker.statement = nullptr;
   }
-  entries_[KeyOf(lexed, updatable, sorted)].statement = std::move(statement);
+  entries_[KeyOf(tokenList, updatable, sorted)].statement = std::move(statement);
 }
 
 }  // namespace suite

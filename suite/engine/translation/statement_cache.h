@@ -43,13 +43,14 @@ class StatementHandle {
   sqlite3_stmt* statement_ = nullptr;
 };
 
-/// Translations by literal-free token sequence. Statements whose shape depends on a literal (a length, a position) are told apart
-/// by that literal as well.
+/// Translations by literal-free token sequence. Statements whose shape depends on a literal (a length, a position) are
+/// distinguished by that literal as well.
 class StatementCache {
  public:
-  /// The entry for the lexed statement, or nothing. `updatable` statements are kept apart from the others of the same words.
-  std::shared_ptr<CachedStatement> Find(const Lexed& lexed, bool updatable);
-  void Add(const Lexed& lexed, bool updatable, const std::vector<int>& structural, std::shared_ptr<CachedStatement> statement);
+  /// The entry for the tokenList statement, or nothing. `updatable` statements are kept apart from the others of the same words.
+  std::shared_ptr<CachedStatement> Find(const TokenList& tokenList, bool updatable);
+  void Add(const TokenList& tokenList, bool updatable, const std::vector<int>& structural,
+           std::shared_ptr<CachedStatement> statement);
   void Clear() { entries_.clear(); }
 
  private:
@@ -61,7 +62,7 @@ class StatementCache {
     using is_transparent = void;
     std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>()(key); }
   };
-  const std::string& KeyOf(const Lexed& lexed, bool updatable, const std::vector<int>& structural);
+  const std::string& KeyOf(const TokenList& tokenList, bool updatable, const std::vector<int>& structural);
 
   std::unordered_map<std::string, Entry, Hash, std::equal_to<>> entries_;
   std::string key_;

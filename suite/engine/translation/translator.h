@@ -14,10 +14,10 @@ struct ResultColumn {
   std::string name;
   Type type;
   bool nullable = true;
-  int tableColumn = -1;  ///< position in the base table when it is one of its columns as it stands
+  int tableColumn = -1;  ///< position in the base table when it is one of its columns unchanged
 };
 
-/// A statement in the store's own words.
+/// A statement as SQLite SQL.
 struct Translation {
   std::string sql;
   std::vector<Parameter> parameters;  ///< for ?1, ?2, ...
@@ -27,11 +27,11 @@ struct Translation {
 };
 
 /// Looks up names and types and writes a statement for the store. One instance translates one statement.
-/// With `inlineLiterals` they stand in the text (stored definitions cannot have parameters).
+/// With `inlineLiterals` the literals are written into the text (stored definitions cannot have parameters).
 class Translator {
  public:
-  Translator(const Catalog& catalog, const Lexed& lexed, std::vector<int>& structural, bool inlineLiterals = false)
-      : catalog_(catalog), lexed_(lexed), structural_(structural), inline_(inlineLiterals) {}
+  Translator(const Catalog& catalog, const TokenList& tokenList, std::vector<int>& structural, bool inlineLiterals = false)
+      : catalog_(catalog), tokenList_(tokenList), structural_(structural), inline_(inlineLiterals) {}
 
   /// A select; with `rowIds` and a single base table the row's own id comes along.
   Translation Query(const ast::Query& query, bool rowIds);
@@ -40,14 +40,14 @@ class Translator {
   Translation Delete(const ast::Delete& statement);
   /// A query of one row and column: 1 when the condition holds, else 0.
   Translation Condition(const ast::Expr& predicate);
-  /// The columns' initial values and keys, as the store's "create table".
+  /// The columns' defaultValue values and keys, as the store's "create table".
   Translation Table(const std::string& name, const std::vector<ast::ColumnDefinition>& columns,
                     const std::vector<ast::Key>& keys);
   Translation View(const ast::CreateView& view);
 
  private:
-  /// A value expression as text of the store's.
-  struct Emitted {
+  /// A value expression as SQLite SQL.
+  struct SqlValue {
     std::string sql;
     Type type;
     int parameter = -1;     ///< a bare literal: its slot, whose type may still be settled
@@ -76,7 +76,7 @@ class Translator {
   };
   /// One select of a union, before its columns are brought to the common types.
   struct Part {
-    std::vector<Emitted> items;
+    std::vector<SqlValue> items;
     std::vector<ResultColumn> columns;
     std::string tail;  ///< from ... having
     std::string limit;
@@ -86,29 +86,29 @@ class Translator {
   };
 
   // Values (translator_expression.cpp)
-  Emitted Value(const ast::Expr& expr, Scope& scope);
-  Emitted ValueUngrouped(const ast::Expr& expr, Scope& scope);
-  Emitted Literal(const ast::Literal& literal);
-  Emitted Column(const ast::ColumnName& name, Scope& scope);
-  Emitted Unary(const ast::Expr& expr, const ast::Unary& sign, Scope& scope);
-  Emitted Case(const ast::Case& choice, Scope& scope);
+  SqlValue Value(const ast::Expr& expr, Scope& scope);
+  SqlValue ValueUngrouped(const ast::Expr& expr, Scope& scope);
+  SqlValue Literal(const ast::Literal& literal);
+  SqlValue Column(const ast::ColumnName& name, Scope& scope);
+  SqlValue Unary(const ast::Expr& expr, const ast::Unary& sign, Scope& scope);
+  SqlValue Case(const ast::Case& choice, Scope& scope);
   std::string CaseCondition(const ast::Case& choice, const ast::Expr& when, Scope& scope);
-  Emitted Scalar(const ast::Scalar& subquery, Scope& scope);
+  SqlValue Scalar(const ast::Scalar& subquery, Scope& scope);
   Place Resolve(const ast::ColumnName& name, Scope& scope) const;
   /// Whether two expressions are the same text for a group by. Those with a query never are.
   bool Same(const ast::Expr& a, const ast::Expr& b, Scope& scope);
   bool SameLiteral(const ast::Literal& a, const ast::Literal& b);
 
   // Operators and conversions (translator_operator.cpp)
-  Emitted Binary(const ast::Expr& expr, const ast::Binary& binary, Scope& scope);
-  Emitted Arithmetic(ast::BinaryOperator op, Emitted left, Emitted right);
-  Emitted Bitwise(ast::BinaryOperator op, const Emitted& left, const Emitted& right);
-  Emitted DateArithmetic(ast::BinaryOperator op, const Emitted& left, const Emitted& right);
-  Emitted Divide(ast::BinaryOperator op, Emitted left, Emitted right);
-  Emitted Coerce(Emitted value, const Type& target, int style = 0);
-  Emitted CoerceAssigned(Emitted value, const Type& target);
-  Emitted CastTo(Emitted value, const Type& target, int style);
-  static std::string Collated(const Emitted& value);
+  SqlValue Binary(const ast::Expr& expr, const ast::Binary& binary, Scope& scope);
+  SqlValue Arithmetic(ast::BinaryOperator op, SqlValue left, SqlValue right);
+  SqlValue Bitwise(ast::BinaryOperator op, const SqlValue& left, const SqlValue& right);
+  SqlValue DateArithmetic(ast::BinaryOperator op, const SqlValue& left, const SqlValue& right);
+  SqlValue Divide(ast::BinaryOperator op, SqlValue left, SqlValue right);
+  SqlValue Coerce(SqlValue value, const Type& target, int style = 0);
+  SqlValue CoerceAssigned(SqlValue value, const Type& target);
+  SqlValue CastTo(SqlValue value, const Type& target, int style);
+  static std::string Collated(const SqlValue& value);
 
   // Conditions (translator_predicate.cpp)
   std::string Predicate(const ast::Expr& expr, Scope& scope);
@@ -128,18 +128,18 @@ class Translator {
   };
   static const FunctionEntry* FindFunction(std::string_view name);
   static bool IsAggregate(const ast::Expr& expr);
-  Emitted Function(const ast::Expr& expr, const ast::Function& function, Scope& scope);
-  Emitted StoreFunction(const FunctionUse& use, Scope& scope);
-  Emitted CountAll(Scope& scope);
+  SqlValue Function(const ast::Expr& expr, const ast::Function& function, Scope& scope);
+  SqlValue StoreFunction(const FunctionUse& use, Scope& scope);
+  SqlValue CountAll(const ast::CountAll& count, Scope& scope);
   static void RequireAggregateAllowed(const std::string& name, const Scope& scope);
-  Emitted Aggregate(const FunctionUse& use, Scope& scope);
-  Emitted Average(const std::string& argument, const Type& type);
-  Emitted IsNull(const FunctionUse& use, Scope& scope);
-  Emitted Coalesce(const FunctionUse& use, Scope& scope);
-  Emitted NullIf(const FunctionUse& use, Scope& scope);
-  Emitted IsNumeric(const FunctionUse& use, Scope& scope);
-  Emitted Rounding(const FunctionUse& use, Scope& scope);
-  Emitted DateFunction(const ast::DateFunction& function, Scope& scope);
+  SqlValue Aggregate(const FunctionUse& use, Scope& scope);
+  SqlValue Average(const std::string& argument, const Type& type);
+  SqlValue IsNull(const FunctionUse& use, Scope& scope);
+  SqlValue Coalesce(const FunctionUse& use, Scope& scope);
+  SqlValue NullIf(const FunctionUse& use, Scope& scope);
+  SqlValue IsNumeric(const FunctionUse& use, Scope& scope);
+  SqlValue Rounding(const FunctionUse& use, Scope& scope);
+  SqlValue DateFunction(const ast::DateFunction& function, Scope& scope);
 
   // Selects (translator_select.cpp)
   std::string QueryText(const ast::Query& query, Scope* outer, std::vector<ResultColumn>& columns,
@@ -159,12 +159,11 @@ class Translator {
   Translation Finish(std::string sql);
 
   const Catalog& catalog_;
-  const Lexed& lexed_;
+  const TokenList& tokenList_;
   std::vector<int>& structural_;
   bool inline_;
   std::vector<Parameter> parameters_;
   std::vector<std::pair<std::uint32_t, std::string>> derivedTexts_;
-  std::vector<std::vector<ResultColumn>> derivedColumns_;
 };
 
 /// A name as the store quotes it.

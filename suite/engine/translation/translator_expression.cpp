@@ -14,19 +14,19 @@ std::string Quoted(std::string_view name) {
 }
 
 std::string Translator::Near(std::uint32_t token) const {
-  return std::string(lexed_.TextOf(lexed_.tokens[token]));
+  return std::string(tokenList_.TextOf(tokenList_.tokens[token]));
 }
 
 void Translator::Unknown(const Expr& expr, const std::string& what) const {
   RaiseServer(kSyntaxNear, "Incorrect syntax near '" + Near(expr.token) + "': " + what);
 }
 
-Translator::Emitted Translator::Value(const Expr& expr, Scope& scope) {
+Translator::SqlValue Translator::Value(const Expr& expr, Scope& scope) {
   if (scope.grouped && !scope.inAggregate && scope.group) {
     for (const ast::ExprPtr& grouped : *scope.group) {
       if (!Same(expr, *grouped, scope)) continue;
       scope.inAggregate = true;
-      Emitted value = ValueUngrouped(expr, scope);
+      SqlValue value = ValueUngrouped(expr, scope);
       scope.inAggregate = false;
       return value;
     }
@@ -34,34 +34,34 @@ Translator::Emitted Translator::Value(const Expr& expr, Scope& scope) {
   return ValueUngrouped(expr, scope);
 }
 
-Translator::Emitted Translator::ValueUngrouped(const Expr& expr, Scope& scope) {
+Translator::SqlValue Translator::ValueUngrouped(const Expr& expr, Scope& scope) {
   return std::visit(Overloaded{
                         [&](const ast::Literal& node) { return Literal(node); },
                         [](const ast::Null&) {
-                          return Emitted{"NULL", Type{}};
+                          return SqlValue{"NULL", Type{}};
                         },
                         [&](const ast::ColumnName& node) { return Column(node, scope); },
                         [&](const ast::Unary& node) { return Unary(expr, node, scope); },
                         [&](const ast::Binary& node) { return Binary(expr, node, scope); },
                         [&](const ast::Case& node) { return Case(node, scope); },
                         [&](const ast::Function& node) { return Function(expr, node, scope); },
-                        [&](const ast::CountAll&) { return CountAll(scope); },
+                        [&](const ast::CountAll& node) { return CountAll(node, scope); },
                         [&](const ast::DateFunction& node) { return DateFunction(node, scope); },
                         [&](const ast::Cast& node) { return CastTo(Value(*node.value, scope), node.type, node.style); },
                         [&](const ast::Scalar& node) { return Scalar(node, scope); },
-                        [&](const auto&) -> Emitted { Unknown(expr, "a value is expected"); },
+                        [&](const auto&) -> SqlValue { Unknown(expr, "a value is expected"); },
                     },
                     expr.node);
 }
 
-Translator::Emitted Translator::Literal(const ast::Literal& literal) {
-  const Token& token = lexed_.tokens[literal.token];
-  Emitted value;
+Translator::SqlValue Translator::Literal(const ast::Literal& literal) {
+  const Token& token = tokenList_.tokens[literal.token];
+  SqlValue value;
   value.type = LiteralType(token);
   value.parameter = static_cast<int>(parameters_.size());
   value.nullable = false;
   parameters_.push_back(Parameter{token.literal, value.type});
-  value.sql = inline_ ? LiteralText(lexed_, parameters_.back()) : "?" + std::to_string(parameters_.size());
+  value.sql = inline_ ? LiteralText(tokenList_, parameters_.back()) : "?" + std::to_string(parameters_.size());
   return value;
 }
 
@@ -91,7 +91,7 @@ Translator::Place Translator::Resolve(const ast::ColumnName& name, Scope& scope)
   RaiseServer(kInvalidColumn, "Invalid column name '" + name.name + "'.");
 }
 
-Translator::Emitted Translator::Column(const ast::ColumnName& name, Scope& scope) {
+Translator::SqlValue Translator::Column(const ast::ColumnName& name, Scope& scope) {
   const Place place = Resolve(name, scope);
   const SourceInfo& source = place.scope->sources[place.source];
   const ColumnDef& column = source.columns[place.column];
@@ -101,7 +101,7 @@ Translator::Emitted Translator::Column(const ast::ColumnName& name, Scope& scope
                     "' is invalid in the select list because it is not contained in either an aggregate function or the "
                     "GROUP BY clause.");
   }
-  Emitted value;
+  SqlValue value;
   value.sql = Quoted(source.alias) + "." + Quoted(column.name);
   value.type = column.type;
   value.collated = true;
@@ -110,10 +110,10 @@ Translator::Emitted Translator::Column(const ast::ColumnName& name, Scope& scope
   return value;
 }
 
-Translator::Emitted Translator::Unary(const Expr& expr, const ast::Unary& sign, Scope& scope) {
-  Emitted value = Value(*sign.operand, scope);
+Translator::SqlValue Translator::Unary(const Expr& expr, const ast::Unary& sign, Scope& scope) {
+  SqlValue value = Value(*sign.operand, scope);
   if (sign.op == ast::UnaryOperator::BitNot) {
-    if (!value.type.IsWhole()) Unknown(expr, "~ needs a whole number");
+    if (!value.type.IsInteger()) Unknown(expr, "~ needs a whole number");
     value.sql = value.type.kind == Kind::Bit ? "(1 - " + value.sql + ")" : "(~" + value.sql + ")";
   } else {
     if (value.type.IsText()) value = Coerce(std::move(value), Type::Of(Kind::Int));
@@ -130,8 +130,8 @@ Translator::Emitted Translator::Unary(const Expr& expr, const ast::Unary& sign, 
 std::string Translator::CaseCondition(const ast::Case& choice, const Expr& when, Scope& scope) {
   if (!choice.operand) return Predicate(when, scope);
   // Each comparison is written out, so that every pair is brought to its own common type.
-  Emitted operand = Value(*choice.operand, scope);
-  Emitted value = Value(when, scope);
+  SqlValue operand = Value(*choice.operand, scope);
+  SqlValue value = Value(when, scope);
   const Type common = CommonType(operand.type, value.type);
   operand = Coerce(std::move(operand), common);
   value = Coerce(std::move(value), common);
@@ -139,9 +139,9 @@ std::string Translator::CaseCondition(const ast::Case& choice, const Expr& when,
   return (text ? Collated(operand) : operand.sql) + " = " + value.sql;
 }
 
-Translator::Emitted Translator::Case(const ast::Case& choice, Scope& scope) {
+Translator::SqlValue Translator::Case(const ast::Case& choice, Scope& scope) {
   std::vector<std::string> conditions;
-  std::vector<Emitted> results;
+  std::vector<SqlValue> results;
   Type type;
   for (const ast::Case::Branch& branch : choice.branches) {
     conditions.push_back(CaseCondition(choice, *branch.when, scope));
@@ -152,7 +152,7 @@ Translator::Emitted Translator::Case(const ast::Case& choice, Scope& scope) {
     results.push_back(Value(*choice.otherwise, scope));
     type = CommonType(type, results.back().type);
   }
-  Emitted value;
+  SqlValue value;
   value.type = type;
   value.sql = "CASE";
   for (std::size_t i = 0; i < conditions.size(); ++i) {
@@ -163,9 +163,9 @@ Translator::Emitted Translator::Case(const ast::Case& choice, Scope& scope) {
   return value;
 }
 
-Translator::Emitted Translator::Scalar(const ast::Scalar& subquery, Scope& scope) {
+Translator::SqlValue Translator::Scalar(const ast::Scalar& subquery, Scope& scope) {
   std::vector<ResultColumn> columns;
-  Emitted value;
+  SqlValue value;
   value.sql = "(" + QueryText(*subquery.query, &scope, columns) + ")";
   if (columns.size() != 1) {
     RaiseServer(kSubqueryOfManyColumns,
@@ -176,11 +176,11 @@ Translator::Emitted Translator::Scalar(const ast::Scalar& subquery, Scope& scope
 }
 
 bool Translator::SameLiteral(const ast::Literal& a, const ast::Literal& b) {
-  const Token &left = lexed_.tokens[a.token], &right = lexed_.tokens[b.token];
+  const Token &left = tokenList_.tokens[a.token], &right = tokenList_.tokens[b.token];
   // Which literals are equal shapes the statement.
   structural_.push_back(left.literal);
   structural_.push_back(right.literal);
-  return left.kind == right.kind && lexed_.TextOf(left) == lexed_.TextOf(right);
+  return left.kind == right.kind && tokenList_.TextOf(left) == tokenList_.TextOf(right);
 }
 
 bool Translator::Same(const Expr& a, const Expr& b, Scope& scope) {
@@ -196,7 +196,7 @@ bool Translator::Same(const Expr& a, const Expr& b, Scope& scope) {
   };
   const Overloaded same{
       [](const ast::Null&, const ast::Null&) { return true; },
-      [](const ast::CountAll&, const ast::CountAll&) { return true; },
+      [](const ast::CountAll& x, const ast::CountAll& y) { return x.big == y.big; },
       [&](const ast::Literal& x, const ast::Literal& y) { return SameLiteral(x, y); },
       [&](const ast::ColumnName& x, const ast::ColumnName& y) {
         if (!vb::EqualNoCase(x.name, y.name)) return false;

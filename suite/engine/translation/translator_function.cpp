@@ -17,7 +17,7 @@ struct Translator::FunctionEntry {
   std::string_view name;
   std::size_t minArguments;
   std::size_t maxArguments;
-  Emitted (Translator::*handler)(const FunctionUse& use, Scope& scope) = &Translator::StoreFunction;
+  SqlValue (Translator::*handler)(const FunctionUse& use, Scope& scope) = &Translator::StoreFunction;
   std::array<Kind, 3> arguments{};
   Kind result = Kind::Null;
   std::string_view store = {};
@@ -75,6 +75,7 @@ const Translator::FunctionEntry* Translator::FindFunction(std::string_view name)
       Entry::Store("sqrt", "srv_sqrt", kFloat, {kFloat}),
       Entry::Aggregate("sum"),
       Entry::Aggregate("count"),
+      Entry::Aggregate("count_big"),
       Entry::Aggregate("min"),
       Entry::Aggregate("max"),
       Entry::Aggregate("avg"),
@@ -105,7 +106,7 @@ bool Translator::HasAggregate(const Expr& expr) {
   return found;
 }
 
-Translator::Emitted Translator::Function(const Expr& expr, const ast::Function& function, Scope& scope) {
+Translator::SqlValue Translator::Function(const Expr& expr, const ast::Function& function, Scope& scope) {
   const FunctionEntry* entry = FindFunction(function.name);
   if (!entry) RaiseServer(kUnknownFunction, "'" + function.name + "' is not a recognized function name.");
   if (function.distinct && !entry->aggregate) Unknown(expr, "distinct belongs to aggregates");
@@ -118,13 +119,13 @@ Translator::Emitted Translator::Function(const Expr& expr, const ast::Function& 
   return (this->*entry->handler)({expr, function, *entry}, scope);
 }
 
-Translator::Emitted Translator::StoreFunction(const FunctionUse& use, Scope& scope) {
+Translator::SqlValue Translator::StoreFunction(const FunctionUse& use, Scope& scope) {
   const FunctionEntry& entry = use.entry;
-  Emitted value;
+  SqlValue value;
   value.sql = std::string(entry.store) + "(";
   value.type = Type::Of(entry.result);
   for (std::size_t i = 0; i < use.function.arguments.size(); ++i) {
-    Emitted argument = Value(*use.function.arguments[i], scope);
+    SqlValue argument = Value(*use.function.arguments[i], scope);
     if (i == 0 && entry.keepsLength) value.type.length = argument.type.IsText() ? argument.type.length : 0;
     const Kind kind = entry.arguments[i];
     // Text of any length and a uniqueidentifier pass as they are.
@@ -141,32 +142,34 @@ void Translator::RequireAggregateAllowed(const std::string& name, const Scope& s
               "An aggregate may not appear in the WHERE clause or inside another aggregate: '" + name + "'.");
 }
 
-Translator::Emitted Translator::CountAll(Scope& scope) {
+Translator::SqlValue Translator::CountAll(const ast::CountAll& count, Scope& scope) {
   RequireAggregateAllowed("count", scope);
-  return {"count(*)", Type::Of(Kind::Int)};
+  return {"count(*)", Type::Of(count.big ? Kind::BigInt : Kind::Int)};
 }
 
-Translator::Emitted Translator::Aggregate(const FunctionUse& use, Scope& scope) {
+Translator::SqlValue Translator::Aggregate(const FunctionUse& use, Scope& scope) {
   const std::string& name = use.function.name;
   RequireAggregateAllowed(name, scope);
   scope.inAggregate = true;
-  const Emitted argument = Value(*use.function.arguments[0], scope);
+  const SqlValue argument = Value(*use.function.arguments[0], scope);
   scope.inAggregate = false;
   const std::string distinct = use.function.distinct ? "DISTINCT " : "";
-  if (name == "count") return {"count(" + distinct + Collated(argument) + ")", Type::Of(Kind::Int)};
+  if (name == "count" || name == "count_big") {
+    return {"count(" + distinct + Collated(argument) + ")", Type::Of(name == "count" ? Kind::Int : Kind::BigInt)};
+  }
   if (name == "min" || name == "max") return {name + "(" + Collated(argument) + ")", argument.type};
   if (!argument.type.IsNumber() || argument.type.kind == Kind::Bit) {
     RaiseServer(kNotToBeSummed,
                 "The " + name + " aggregate operation cannot take a " + TypeName(argument.type) + " data type as an argument.");
   }
   Type type = argument.type;
-  if (type.IsWhole()) type = Type::Of(std::max(type.kind, Kind::Int));
+  if (type.IsInteger()) type = Type::Of(std::max(type.kind, Kind::Int));
   if (type.kind == Kind::Decimal) type = Type::DecimalOf(38, type.scale);
   if (name == "sum") return {"sum(" + distinct + argument.sql + ")", type};
   return Average(distinct + argument.sql, type);
 }
 
-Translator::Emitted Translator::Average(const std::string& argument, const Type& type) {
+Translator::SqlValue Translator::Average(const std::string& argument, const Type& type) {
   const std::string sum = "sum(" + argument + ")";
   const std::string count = "count(" + argument + ")";
   if (type.kind != Kind::Decimal) return {"(" + sum + " / " + count + ")", type};
@@ -175,21 +178,21 @@ Translator::Emitted Translator::Average(const std::string& argument, const Type&
           Type::DecimalOf(38, scale)};
 }
 
-Translator::Emitted Translator::IsNull(const FunctionUse& use, Scope& scope) {
-  Emitted value = Value(*use.function.arguments[0], scope);
-  Emitted instead = Value(*use.function.arguments[1], scope);
+Translator::SqlValue Translator::IsNull(const FunctionUse& use, Scope& scope) {
+  SqlValue value = Value(*use.function.arguments[0], scope);
+  SqlValue instead = Value(*use.function.arguments[1], scope);
   if (value.type.kind == Kind::Null) return instead;
   // The result has the first argument's type, whatever the second one is.
-  Emitted result;
+  SqlValue result;
   result.type = value.type;
   result.nullable = instead.nullable;
   result.sql = "ifnull(" + value.sql + ", " + Coerce(std::move(instead), result.type).sql + ")";
   return result;
 }
 
-Translator::Emitted Translator::Coalesce(const FunctionUse& use, Scope& scope) {
-  std::vector<Emitted> values;
-  Emitted result;
+Translator::SqlValue Translator::Coalesce(const FunctionUse& use, Scope& scope) {
+  std::vector<SqlValue> values;
+  SqlValue result;
   for (const ast::ExprPtr& argument : use.function.arguments) {
     values.push_back(Value(*argument, scope));
     result.type = CommonType(result.type, values.back().type);
@@ -200,11 +203,11 @@ Translator::Emitted Translator::Coalesce(const FunctionUse& use, Scope& scope) {
   return result;
 }
 
-Translator::Emitted Translator::NullIf(const FunctionUse& use, Scope& scope) {
+Translator::SqlValue Translator::NullIf(const FunctionUse& use, Scope& scope) {
   const auto& arguments = use.function.arguments;
-  Emitted result = Value(*arguments[0], scope);
-  Emitted left = Value(*arguments[0], scope);
-  Emitted right = Value(*arguments[1], scope);
+  SqlValue result = Value(*arguments[0], scope);
+  SqlValue left = Value(*arguments[0], scope);
+  SqlValue right = Value(*arguments[1], scope);
   const Type common = CommonType(left.type, right.type);
   left = Coerce(std::move(left), common);
   result.sql =
@@ -216,9 +219,9 @@ Translator::Emitted Translator::NullIf(const FunctionUse& use, Scope& scope) {
   return result;
 }
 
-Translator::Emitted Translator::IsNumeric(const FunctionUse& use, Scope& scope) {
-  const Emitted argument = Value(*use.function.arguments[0], scope);
-  Emitted value;
+Translator::SqlValue Translator::IsNumeric(const FunctionUse& use, Scope& scope) {
+  const SqlValue argument = Value(*use.function.arguments[0], scope);
+  SqlValue value;
   value.type = Type::Of(Kind::Int);
   value.nullable = false;
   if (argument.type.IsText()) {
@@ -229,12 +232,12 @@ Translator::Emitted Translator::IsNumeric(const FunctionUse& use, Scope& scope) 
   return value;
 }
 
-Translator::Emitted Translator::Rounding(const FunctionUse& use, Scope& scope) {
+Translator::SqlValue Translator::Rounding(const FunctionUse& use, Scope& scope) {
   const auto& [name, distinct, arguments] = use.function;
-  Emitted value = Value(*arguments[0], scope);
+  SqlValue value = Value(*arguments[0], scope);
   if (value.type.IsText()) value = Coerce(std::move(value), Type::Of(Kind::Float));
   if (!value.type.IsNumber()) Unknown(use.expr, "a number is expected");
-  Emitted result;
+  SqlValue result;
   result.type = value.type;
   const int scale = value.type.kind == Kind::Decimal ? value.type.scale : 0;
   if (name == "abs") {
@@ -248,7 +251,7 @@ Translator::Emitted Translator::Rounding(const FunctionUse& use, Scope& scope) {
   return result;
 }
 
-Translator::Emitted Translator::DateFunction(const ast::DateFunction& function, Scope& scope) {
+Translator::SqlValue Translator::DateFunction(const ast::DateFunction& function, Scope& scope) {
   static constexpr std::array<std::pair<std::string_view, std::string_view>, 20> kParts = {
       {{"year", "year"},     {"yy", "year"},   {"yyyy", "year"},     {"quarter", "quarter"}, {"qq", "quarter"},
        {"month", "month"},   {"mm", "month"},  {"m", "month"},       {"day", "day"},         {"dd", "day"},
@@ -266,7 +269,7 @@ Translator::Emitted Translator::DateFunction(const ast::DateFunction& function, 
   if (found == kParts.end()) {
     RaiseServer(kUnknownOption, "'" + function.part + "' is not a recognized " + function.name + " option.");
   }
-  Emitted value;
+  SqlValue value;
   value.type = Type::Of(add ? Kind::DateTime : Kind::Int);
   value.sql = "srv_" + function.name + "('" + std::string(found->second) + "'";
   for (std::size_t i = 0; i < function.arguments.size(); ++i) {

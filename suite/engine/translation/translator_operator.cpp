@@ -9,7 +9,7 @@ using ast::BinaryOperator;
 
 namespace {
 
-constexpr int kQuotientScale = 6;  // the least digits behind the point of a decimal quotient
+constexpr int kQuotientScale = 6;  // the fewest digits after the point of a decimal quotient
 constexpr const char* kDayText = "86400000";
 
 std::string Symbol(BinaryOperator op) {
@@ -50,11 +50,11 @@ std::string Power(int exponent) {
 
 }  // namespace
 
-std::string Translator::Collated(const Emitted& value) {
+std::string Translator::Collated(const SqlValue& value) {
   return value.collated || !value.type.IsText() ? value.sql : "(" + value.sql + " COLLATE server)";
 }
 
-Translator::Emitted Translator::Coerce(Emitted value, const Type& target, int style) {
+Translator::SqlValue Translator::Coerce(SqlValue value, const Type& target, int style) {
   const Type from = value.type;
   if (target.kind == Kind::Null) return value;
   if (from.kind == Kind::Null) {
@@ -66,13 +66,13 @@ Translator::Emitted Translator::Coerce(Emitted value, const Type& target, int st
     Parameter& parameter = parameters_[static_cast<std::size_t>(value.parameter)];
     parameter.type = target;
     parameter.style = style;
-    if (inline_) value.sql = LiteralText(lexed_, parameter);
+    if (inline_) value.sql = LiteralText(tokenList_, parameter);
     value.type = target;
     return value;
   }
   const bool sameText = from.IsText() && target.IsText() && !target.fixed &&
                         (target.length == 0 || (from.length > 0 && from.length <= target.length));
-  const bool wider = from.IsWhole() && target.IsWhole() && from.kind <= target.kind;
+  const bool wider = from.IsInteger() && target.IsInteger() && from.kind <= target.kind;
   const bool sameDecimal = from.kind == Kind::Decimal && target.kind == Kind::Decimal && from.scale == target.scale &&
                            from.precision <= target.precision;
   const bool same = from.kind == target.kind && (from.kind == Kind::Float || from.kind == Kind::DateTime);
@@ -83,13 +83,13 @@ Translator::Emitted Translator::Coerce(Emitted value, const Type& target, int st
   value.tableColumn = -1;
   const int fromScale = from.kind == Kind::Decimal ? from.scale : 0;
   // The smallest bigint has no decimal of 18 digits.
-  const bool everyValueFits = from.kind != Kind::BigInt || target.precision > kMostDigits;
-  if (target.kind == Kind::Decimal && !target.assign && everyValueFits && (from.IsWhole() || from.kind == Kind::Decimal) &&
+  const bool everyValueFits = from.kind != Kind::BigInt || target.precision > kMaxDigits;
+  if (target.kind == Kind::Decimal && !target.assign && everyValueFits && (from.IsInteger() || from.kind == Kind::Decimal) &&
       target.scale >= fromScale && (target.precision - target.scale >= from.precision - fromScale)) {
     if (target.scale > fromScale) value.sql = "(" + value.sql + " * " + Power(target.scale - fromScale) + ")";
     return value;
   }
-  if (target.kind == Kind::Float && (from.IsWhole() || from.kind == Kind::Decimal)) {
+  if (target.kind == Kind::Float && (from.IsInteger() || from.kind == Kind::Decimal)) {
     value.sql = "(" + value.sql + " / " + Power(fromScale) + ".0)";
     return value;
   }
@@ -98,23 +98,23 @@ Translator::Emitted Translator::Coerce(Emitted value, const Type& target, int st
   return value;
 }
 
-Translator::Emitted Translator::CoerceAssigned(Emitted value, const Type& target) {
+Translator::SqlValue Translator::CoerceAssigned(SqlValue value, const Type& target) {
   Type strict = target;
   strict.assign = true;
   return Coerce(std::move(value), strict);
 }
 
-Translator::Emitted Translator::CastTo(Emitted value, const Type& target, int style) {
+Translator::SqlValue Translator::CastTo(SqlValue value, const Type& target, int style) {
   // A literal's own value first takes part in the statement: cast(1.005 as decimal(9,2)) rounds, it does not reinterpret.
   value = Coerce(std::move(value), target, style);
   value.parameter = -1;
   return value;
 }
 
-Translator::Emitted Translator::Binary(const ast::Expr& expr, const ast::Binary& binary, Scope& scope) {
-  Emitted left = Value(*binary.left, scope);
-  Emitted right = Value(*binary.right, scope);
-  Emitted value;
+Translator::SqlValue Translator::Binary(const ast::Expr& expr, const ast::Binary& binary, Scope& scope) {
+  SqlValue left = Value(*binary.left, scope);
+  SqlValue right = Value(*binary.right, scope);
+  SqlValue value;
   const bool anyNumber = left.type.kind > Kind::Guid || right.type.kind > Kind::Guid;
   if (binary.op == BinaryOperator::Add && !anyNumber && (left.type.IsText() || right.type.IsText())) {
     const int length = left.type.length && right.type.length ? left.type.length + right.type.length : 0;
@@ -137,13 +137,13 @@ Translator::Emitted Translator::Binary(const ast::Expr& expr, const ast::Binary&
   return Arithmetic(binary.op, std::move(left), std::move(right));
 }
 
-Translator::Emitted Translator::DateArithmetic(BinaryOperator op, const Emitted& left, const Emitted& right) {
-  const auto days = [&](const Emitted& number) {
+Translator::SqlValue Translator::DateArithmetic(BinaryOperator op, const SqlValue& left, const SqlValue& right) {
+  const auto days = [&](const SqlValue& number) {
     if (number.type.kind == Kind::Float) return "CAST(round(" + number.sql + " * " + kDayText + ") AS INTEGER)";
     const std::string units = "(" + number.sql + " * " + kDayText + ")";
     return number.type.kind == Kind::Decimal && number.type.scale ? "(" + units + " / " + Power(number.type.scale) + ")" : units;
   };
-  Emitted value;
+  SqlValue value;
   value.type = Type::Of(Kind::DateTime);
   const bool bothDates = left.type.kind == Kind::DateTime && right.type.kind == Kind::DateTime;
   if (bothDates || left.type.IsText() || right.type.IsText()) {
@@ -155,12 +155,12 @@ Translator::Emitted Translator::DateArithmetic(BinaryOperator op, const Emitted&
   return value;
 }
 
-Translator::Emitted Translator::Bitwise(BinaryOperator op, const Emitted& left, const Emitted& right) {
-  if (!left.type.IsWhole() || !right.type.IsWhole()) {
+Translator::SqlValue Translator::Bitwise(BinaryOperator op, const SqlValue& left, const SqlValue& right) {
+  if (!left.type.IsInteger() || !right.type.IsInteger()) {
     RaiseServer(kIncompatibleTypes, "The data types " + TypeName(left.type) + " and " + TypeName(right.type) +
                                         " are incompatible in the operator '" + Symbol(op) + "'.");
   }
-  Emitted value;
+  SqlValue value;
   value.type = CommonType(left.type, right.type);
   const std::string both = left.sql + " & " + right.sql;
   value.sql = op == BinaryOperator::BitXor ? "((" + left.sql + " | " + right.sql + ") - (" + both + "))"
@@ -168,7 +168,7 @@ Translator::Emitted Translator::Bitwise(BinaryOperator op, const Emitted& left, 
   return value;
 }
 
-Translator::Emitted Translator::Arithmetic(BinaryOperator op, Emitted left, Emitted right) {
+Translator::SqlValue Translator::Arithmetic(BinaryOperator op, SqlValue left, SqlValue right) {
   switch (op) {
     case BinaryOperator::BitAnd:
     case BinaryOperator::BitOr:
@@ -180,17 +180,17 @@ Translator::Emitted Translator::Arithmetic(BinaryOperator op, Emitted left, Emit
     default:
       break;
   }
-  Emitted value;
+  SqlValue value;
   const Type common = CommonType(left.type, right.type);
   if (common.kind == Kind::Decimal && op == BinaryOperator::Multiply) {
     const int scale =
         (left.type.kind == Kind::Decimal ? left.type.scale : 0) + (right.type.kind == Kind::Decimal ? right.type.scale : 0);
-    if (scale > kMostDigits) RaiseOverflow("decimal");
+    if (scale > kMaxDigits) RaiseOverflow("decimal");
     value.type = Type::DecimalOf(38, scale);
     value.sql = "(" + left.sql + " * " + right.sql + ")";
     return value;
   }
-  value.type = common.IsWhole() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
+  value.type = common.IsInteger() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
   if (common.kind == Kind::Decimal) value.type = Type::DecimalOf(std::min<int>(common.precision + 1, 38), common.scale);
   if (op != BinaryOperator::Add && op != BinaryOperator::Subtract) {
     value.sql = "(" + Coerce(std::move(left), common).sql + TextOf(op) + Coerce(std::move(right), common).sql + ")";
@@ -204,8 +204,8 @@ Translator::Emitted Translator::Arithmetic(BinaryOperator op, Emitted left, Emit
   return value;
 }
 
-Translator::Emitted Translator::Divide(BinaryOperator op, Emitted left, Emitted right) {
-  Emitted value;
+Translator::SqlValue Translator::Divide(BinaryOperator op, SqlValue left, SqlValue right) {
+  SqlValue value;
   const Type common = CommonType(left.type, right.type);
   if (common.kind == Kind::Decimal && op == BinaryOperator::Divide) {
     const int leftScale = left.type.kind == Kind::Decimal ? left.type.scale : 0;
@@ -215,7 +215,7 @@ Translator::Emitted Translator::Divide(BinaryOperator op, Emitted left, Emitted 
     value.sql = "srv_quotient(" + left.sql + ", " + right.sql + ", " + std::to_string(scale - leftScale + rightScale) + ")";
     return value;
   }
-  value.type = common.IsWhole() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
+  value.type = common.IsInteger() ? Type::Of(std::max(common.kind, Kind::Int)) : common;
   value.sql = std::string(op == BinaryOperator::Divide ? "srv_divide(" : "srv_remainder(") + Coerce(std::move(left), common).sql +
               ", " + Coerce(std::move(right), common).sql + ")";
   return value;

@@ -58,8 +58,8 @@ std::string Translator::Chain(const std::vector<ast::ExprPtr>& terms, const char
 }
 
 std::string Translator::Compare(const ast::Compare& comparison, Scope& scope) {
-  Emitted left = Value(*comparison.left, scope);
-  Emitted right = Value(*comparison.right, scope);
+  SqlValue left = Value(*comparison.left, scope);
+  SqlValue right = Value(*comparison.right, scope);
   const Type common = CommonType(left.type, right.type);
   left = Coerce(std::move(left), common);
   right = Coerce(std::move(right), common);
@@ -77,9 +77,9 @@ std::string Translator::Like(const ast::Like& like, Scope& scope) {
 }
 
 std::string Translator::In(const ast::In& in, Scope& scope) {
-  Emitted value = Value(*in.value, scope);
+  SqlValue value = Value(*in.value, scope);
   Type common = value.type;
-  std::vector<Emitted> candidates;
+  std::vector<SqlValue> candidates;
   for (const ast::ExprPtr& candidate : in.candidates) {
     candidates.push_back(Value(*candidate, scope));
     common = CommonType(common, candidates.back().type);
@@ -93,7 +93,7 @@ std::string Translator::In(const ast::In& in, Scope& scope) {
 }
 
 std::string Translator::InQuery(const ast::InQuery& in, Scope& scope) {
-  Emitted value = Value(*in.value, scope);
+  SqlValue value = Value(*in.value, scope);
   std::vector<ResultColumn> columns;
   QueryText(*in.query, &scope, columns);
   if (columns.size() != 1) {
@@ -108,9 +108,9 @@ std::string Translator::InQuery(const ast::InQuery& in, Scope& scope) {
 }
 
 std::string Translator::Between(const ast::Between& between, Scope& scope) {
-  Emitted value = Value(*between.value, scope);
-  Emitted low = Value(*between.low, scope);
-  Emitted high = Value(*between.high, scope);
+  SqlValue value = Value(*between.value, scope);
+  SqlValue low = Value(*between.low, scope);
+  SqlValue high = Value(*between.high, scope);
   const Type common = CommonType(CommonType(value.type, low.type), high.type);
   const std::string text = Collated(Coerce(std::move(value), common)) + (between.negated ? " NOT BETWEEN " : " BETWEEN ") +
                            Coerce(std::move(low), common).sql + " AND " + Coerce(std::move(high), common).sql;

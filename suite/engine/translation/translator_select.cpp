@@ -62,7 +62,7 @@ void Translator::Star(const std::string& qualifier, Scope& scope, Part& part) {
     found = true;
     for (std::size_t c = 0; c < source.columns.size(); ++c) {
       const ColumnDef& column = source.columns[c];
-      Emitted value;
+      SqlValue value;
       value.sql = Quoted(source.alias) + "." + Quoted(column.name);
       value.type = column.type;
       value.collated = true;
@@ -87,7 +87,7 @@ void Translator::Items(const ast::Select& select, Scope& scope, Part& part) {
       Star(item.qualifier, scope, part);
       continue;
     }
-    Emitted value = Value(*item.value, scope);
+    SqlValue value = Value(*item.value, scope);
     ResultColumn column;
     const auto* named = item.value->If<ast::ColumnName>();
     column.name = !item.alias.empty() ? item.alias : named ? named->name : std::string();
@@ -136,7 +136,7 @@ Translator::Part Translator::SelectPart(const ast::Select& select, Scope* outer,
   part.tail = Tail(select, scope);
   part.distinct = select.distinct;
   if (select.top) {
-    Emitted top = Coerce(Literal(*select.top->If<ast::Literal>()), Type::Of(Kind::BigInt));
+    SqlValue top = Coerce(Literal(*select.top->If<ast::Literal>()), Type::Of(Kind::BigInt));
     part.limit = " LIMIT " + top.sql;
   }
   if (!scope.grouped && !select.distinct && scope.sources.size() == 1 && scope.sources[0].table) {
@@ -181,7 +181,7 @@ std::string Translator::OrderText(const ast::Query& query, Scope* scope, const s
 std::string Translator::PartText(Part& part, const std::vector<Type>& types, bool assigned) {
   std::string text = part.distinct ? "SELECT DISTINCT " : "SELECT ";
   for (std::size_t i = 0; i < part.items.size(); ++i) {
-    Emitted item = assigned ? CoerceAssigned(std::move(part.items[i]), types[i]) : Coerce(std::move(part.items[i]), types[i]);
+    SqlValue item = assigned ? CoerceAssigned(std::move(part.items[i]), types[i]) : Coerce(std::move(part.items[i]), types[i]);
     // Every column carries its name for derived tables; text carries the server's comparison for sorting and grouping above.
     text += (i ? ", " : "") + Collated(item) + " AS " + Quoted(part.columns[i].name);
   }

@@ -136,7 +136,7 @@ Translation Translator::Table(const std::string& name, const std::vector<ast::Co
     sql += separator + Quoted(column.name) + " " + StoreType(column.type);
     separator = ", ";
     if (!column.nullable) sql += " NOT NULL";
-    if (column.initial) sql += " DEFAULT (" + CoerceAssigned(Value(*column.initial, scope), column.type).sql + ")";
+    if (column.defaultValue) sql += " DEFAULT (" + CoerceAssigned(Value(*column.defaultValue, scope), column.type).sql + ")";
     if (column.unique) keyText += ", UNIQUE (" + Quoted(column.name) + ")";
     if (column.primary) keyText += ", PRIMARY KEY (" + Quoted(column.name) + ")";
   }

@@ -18,26 +18,26 @@ constexpr std::int64_t kDay = 86400000;
 /// The server counts days from 1 January 1900 where a number becomes a date.
 constexpr std::int64_t kServerDayZero = 2 * kDay;
 
-std::int64_t CheckedWhole(std::int64_t value, const Type& to, int error = 8115) {
-  std::int64_t least = 0, most = 0;
+std::int64_t CheckedInteger(std::int64_t value, const Type& to, int error = 8115) {
+  std::int64_t min = 0, max = 0;
   switch (to.kind) {
     case Kind::Bit:
       return value != 0 ? 1 : 0;
     case Kind::TinyInt:
-      most = 255;
+      max = 255;
       break;
     case Kind::SmallInt:
-      least = std::numeric_limits<std::int16_t>::min();
-      most = std::numeric_limits<std::int16_t>::max();
+      min = std::numeric_limits<std::int16_t>::min();
+      max = std::numeric_limits<std::int16_t>::max();
       break;
     case Kind::Int:
-      least = std::numeric_limits<std::int32_t>::min();
-      most = std::numeric_limits<std::int32_t>::max();
+      min = std::numeric_limits<std::int32_t>::min();
+      max = std::numeric_limits<std::int32_t>::max();
       break;
     default:
       return value;
   }
-  if (value < least || value > most) {
+  if (value < min || value > max) {
     if (error == 248)
       RaiseServer(kTextOverflowsInt,
                   "The conversion of the varchar value '" + std::to_string(value) + "' overflowed an int column.");
@@ -46,7 +46,7 @@ std::int64_t CheckedWhole(std::int64_t value, const Type& to, int error = 8115) 
   return value;
 }
 
-std::int64_t TextToWhole(std::string_view text, const Type& to) {
+std::int64_t TextToInteger(std::string_view text, const Type& to) {
   const std::string_view trimmed = vb::Trim(text);
   if (trimmed.empty()) return 0;
   std::string_view digits = trimmed;
@@ -57,7 +57,7 @@ std::int64_t TextToWhole(std::string_view text, const Type& to) {
   if (error == std::errc::result_out_of_range) {
     RaiseServer(kTextOverflowsInt, "The conversion of the varchar value '" + std::string(text) + "' overflowed an int column.");
   }
-  return CheckedWhole(value, to, 248);
+  return CheckedInteger(value, to, 248);
 }
 
 [[noreturn]] void RaiseNumberConversion(const Type& to) {
@@ -129,7 +129,7 @@ Cell ToText(const Cell& value, const Type& from, const Type& to, std::string& bu
     buffer = NumberAsText(value, from);
     if (to.length > 0 && buffer.size() > static_cast<std::size_t>(to.length)) {
       // A number that does not fit is never cut to another number.
-      if (!from.IsWhole() || to.assign) RaiseOverflow(TypeName(to));
+      if (!from.IsInteger() || to.assign) RaiseOverflow(TypeName(to));
       buffer = "*";
     }
   }
@@ -149,14 +149,14 @@ Cell ToDate(const Cell& value, const Type& from, DateOrder order) {
   return Cell::Of(std::int64_t{std::llround(days * static_cast<double>(kDay)) + kServerDayZero});
 }
 
-Cell ToWhole(const Cell& value, const Type& from, const Type& to) {
-  if (value.form == Cell::Form::Text) return Cell::Of(TextToWhole(value.text, to));
+Cell ToInteger(const Cell& value, const Type& from, const Type& to) {
+  if (value.form == Cell::Form::Text) return Cell::Of(TextToInteger(value.text, to));
   if (from.kind == Kind::DateTime) return Cell::Of(std::int64_t{(value.integer - kServerDayZero + kDay / 2) / kDay});
-  if (from.IsWhole()) return Cell::Of(CheckedWhole(value.integer, to));
+  if (from.IsInteger()) return Cell::Of(CheckedInteger(value.integer, to));
   const double number = AsDouble(value, from);
   if (to.kind == Kind::Bit) return Cell::Of(std::int64_t{number != 0});
   if (!(std::fabs(number) < 9.2e18)) RaiseOverflow(TypeName(to));
-  return Cell::Of(CheckedWhole(static_cast<std::int64_t>(number), to));  // cut, not rounded
+  return Cell::Of(CheckedInteger(static_cast<std::int64_t>(number), to));  // cut, not rounded
 }
 
 Cell ToDecimal(const Cell& value, const Type& from, const Type& to) {
@@ -180,7 +180,7 @@ std::int64_t Rescale(std::int64_t units, int oldScale, int newScale, int precisi
     units /= power;
     if (std::abs(rest) >= power - std::abs(rest)) units += rest < 0 ? -1 : 1;
   }
-  if (precision < kMostDigits + 1 && std::abs(units) >= PowerOfTen(precision)) {
+  if (precision < kMaxDigits + 1 && std::abs(units) >= PowerOfTen(precision)) {
     RaiseOverflow(TypeName(Type::DecimalOf(precision, newScale)));
   }
   return units;
@@ -196,7 +196,7 @@ std::int64_t DoubleToUnits(double value, int scale) {
            std::llround((value - whole) * static_cast<double>(PowerOfTen(scale)));
   }
   const double rounded = std::round(scaled);
-  // Near a half the binary value may lie on the wrong side of the decimal one that the user sees; 15 digits decide.
+  // Near a half the binary value may be on the wrong side of the decimal one that the user sees; 15 digits decide.
   if (std::fabs(std::fabs(scaled - std::trunc(scaled)) - 0.5) < 1e-4 && std::fabs(scaled) < 1e14) {
     return static_cast<std::int64_t>(std::round(scaled + std::copysign(std::fabs(scaled) * 2e-15 + 1e-9, scaled)));
   }
@@ -216,7 +216,7 @@ Cell Convert(const Cell& value, const Type& from, const Type& to, std::string& b
     case Kind::SmallInt:
     case Kind::Int:
     case Kind::BigInt:
-      return ToWhole(value, from, to);
+      return ToInteger(value, from, to);
     case Kind::Decimal:
       return ToDecimal(value, from, to);
     case Kind::Float:

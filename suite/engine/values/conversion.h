@@ -11,7 +11,7 @@ struct sqlite3_stmt;
 
 namespace suite {
 
-/// A value as it stands in the store. Its text belongs to somebody else.
+/// A value in the store's form. It does not own its text.
 struct Cell {
   enum class Form : std::uint8_t { Null, Integer, Real, Text };
 

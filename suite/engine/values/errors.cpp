@@ -79,7 +79,7 @@ std::string AdoText(long number) {
   }
 }
 
-/// The part of the store's message behind ": ", which names what a constraint stands on ("table.column, table.column").
+/// The part of the store's message after ": ", which names the columns of the constraint ("table.column, table.column").
 std::string Subject(std::string_view message) {
   const std::size_t colon = message.rfind(": ");
   return std::string(colon == std::string_view::npos ? message : message.substr(colon + 2));

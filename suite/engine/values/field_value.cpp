@@ -29,10 +29,10 @@ Cell NaturalCell(const late::Value& value, Type& type) {
           type = Type::Of(Kind::Float);
           return Cell::Of(alternative);
         } else if constexpr (std::is_same_v<T, late::Currency>) {
-          type = Type::DecimalOf(kMostDigits + 1, 4);
+          type = Type::DecimalOf(kMaxDigits + 1, 4);
           return Cell::Of(alternative.units);
         } else if constexpr (std::is_same_v<T, vb::Decimal>) {
-          type = Type::DecimalOf(kMostDigits + 1, alternative.scale);
+          type = Type::DecimalOf(kMaxDigits + 1, alternative.scale);
           return Cell::Of(alternative.units);
         } else if constexpr (std::is_same_v<T, vb::Date>) {
           type = Type::Of(Kind::DateTime);
@@ -80,7 +80,7 @@ Cell FromValue(const late::Value& value, const Type& to, std::string& buffer) {
   target.assign = true;
   const bool client = to.kind == Kind::DateTime ? from.kind != Kind::DateTime
                       : to.kind == Kind::BigInt ? false
-                      : to.IsWhole()            ? from.kind != Kind::Bit
+                      : to.IsInteger()          ? from.kind != Kind::Bit
                                                 : from.kind == Kind::Text && to.kind == Kind::Float;
   try {
     if (client) return ByClientRules(value, to);

@@ -89,7 +89,7 @@ Type CommonType(const Type& a, const Type& b) {
 }
 
 std::int64_t PowerOfTen(int exponent) {
-  if (exponent < 0 || exponent > kMostDigits) RaiseOverflow("decimal");
+  if (exponent < 0 || exponent > kMaxDigits) RaiseOverflow("decimal");
   std::int64_t power = 1;
   for (int i = 0; i < exponent; ++i) power *= 10;
   return power;

@@ -5,13 +5,13 @@
 
 namespace suite {
 
-/// Kinds of the server's types, the lower yielding to the higher where two meet in an expression.
 /// How a session reads dates with separators (set dateformat). Eight digits are year, month and day in each.
 enum class DateOrder : std::uint8_t { MonthDayYear, DayMonthYear, YearMonthDay };
 
+/// Kinds of the server's types, by rising precedence: where two meet in an expression the lower is converted to the higher.
 enum class Kind : std::uint8_t { Null, Text, Guid, Bit, TinyInt, SmallInt, Int, BigInt, Decimal, Float, DateTime };
 
-/// A server type. How its values stand in the store:
+/// A server type. Its values in the store:
 ///  - bit and the integers as integers; float as real; text and uniqueidentifier as text with the server's collation;
 ///  - decimal(p,s) as the integer value * 10^s, so that sums and comparisons are exact;
 ///  - datetime as integer milliseconds since 30 December 1899, so that ranges and indexes work on it.
@@ -28,7 +28,7 @@ struct Type {
   static Type TextOf(int length);
 
   bool IsText() const { return kind == Kind::Text || kind == Kind::Guid; }
-  bool IsWhole() const { return kind >= Kind::Bit && kind <= Kind::BigInt; }
+  bool IsInteger() const { return kind >= Kind::Bit && kind <= Kind::BigInt; }
   bool IsNumber() const { return kind >= Kind::Bit && kind <= Kind::Float; }
 
   /// The type as one number, for the store's function arguments, and back.
@@ -36,7 +36,7 @@ struct Type {
   static Type Unpack(std::int64_t packed);
 };
 
-inline constexpr int kMostDigits = 18;
+inline constexpr int kMaxDigits = 18;
 
 /// "varchar(50)", "decimal(18,3)", as messages name it.
 std::string TypeName(const Type& type);

@@ -1,4 +1,4 @@
--- The shops' item lists, what lies in shops and godowns, and what is already promised.
+-- The shops' item lists, the stock of shops and godowns, and what is already promised.
 
 -- Item list of shop 1
 insert into aShopItemDetail (ShopID, ItemID, ItemReorderLevel, ReorderQuantity, RequestRaised, shortcutno) values
@@ -409,7 +409,7 @@ insert into aShopItemDetail (ShopID, ItemID, ItemReorderLevel, ReorderQuantity, 
 (3, 298, 20.000, 40.000, 1, 0)
 go
 
--- Stock of shop 1; an item may lie in several places.
+-- Stock of shop 1; an item may be in several places.
 insert into smpShopStock (shopid, itemid, stock) values
 (1, 1, 41.000),
 (1, 2, 37.000),
@@ -678,7 +678,7 @@ insert into smpShopStock (shopid, itemid, stock) values
 (1, 284, 16.000)
 go
 
--- Stock of shop 2; an item may lie in several places.
+-- Stock of shop 2; an item may be in several places.
 insert into smpShopStock (shopid, itemid, stock) values
 (2, 2, 21.000),
 (2, 4, 4.000),
@@ -830,7 +830,7 @@ insert into smpShopStock (shopid, itemid, stock) values
 (2, 276, 10.000)
 go
 
--- Stock of shop 3; an item may lie in several places.
+-- Stock of shop 3; an item may be in several places.
 insert into smpShopStock (shopid, itemid, stock) values
 (3, 200, 37.500),
 (3, 203, 50.000),

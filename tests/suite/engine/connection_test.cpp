@@ -153,7 +153,7 @@ TEST_F(Connections, TheUpdatesOfASaveArePreparedOnce) {
   EXPECT_EQ(Count("raised=1 and remarks like 'o''clock; --%'"), 10);
 }
 
-/// Writes down what it is told, and refuses the one it is told to refuse.
+/// Records every notification, and refuses the one named.
 class Diary : public StatementObserver {
  public:
   void Statement(std::string_view text) override { Note(std::string(text)); }

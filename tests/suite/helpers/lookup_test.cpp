@@ -204,7 +204,7 @@ TEST_F(Lookup, AnOpenListHandedOverIsShownWithoutAskingTheDatabaseAgain) {
   another();
   fetch->Put("PreserveData", false);
   Show([](suite::frmLookup& window) { window.Unload(); });
-  EXPECT_EQ(statements(), 2u) << "every list anew, where the shop wants it so";
+  EXPECT_EQ(statements(), 2u) << "every list is read again, where the shop wants it so";
   another();
   fetch->Put("ForcedRefresh", true);
   Show([](suite::frmLookup& window) { window.Unload(); });

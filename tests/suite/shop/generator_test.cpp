@@ -26,7 +26,7 @@ TEST_F(GrowingShop, AddsWhatWasAskedForInsideTheRegistersRange) {
   EXPECT_EQ(
       Count("(select distinct GRDrequestID, GRDitemID from mosGoodsRequestDetail where GRDshopID = 1 and GRDrequestID > 28) d"),
       250 * 4)
-      << "an item stands once in a request";
+      << "an item is in a request only once";
   EXPECT_EQ(Count("(select distinct GRHrequestno from mosGoodsRequestHeader where GRHshopID = 1) n"), 28 + 250);
   for (const auto* state : {"GRHcancel = 1 and GRHcancelRemarks is not null", "GRHTransFinished = 1", "GRHIssuenotegenerated = 1",
                             "GRHcancel = 0 and GRHTransFinished = 0 and GRHIssuenotegenerated = 0 and GRHrequesttype = 'P'"})

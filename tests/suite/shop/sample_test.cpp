@@ -33,7 +33,7 @@ TEST(Schema, ReplicationAddsARowIdentifierThatGrowsWithEveryLine) {
   const auto lines =
       replicated.List("select GRDitemID from mosGoodsRequestDetail where GRDrequestID = 27 and GRDshopID = 1 order by rowguid");
   ASSERT_FALSE(lines.empty());
-  EXPECT_EQ(lines.back(), "3") << "the line that came last stands last, whatever its number";
+  EXPECT_EQ(lines.back(), "3") << "the line added last is last, whatever its number";
   EXPECT_EQ(
       lines.front(),
       replicated.List("select GRDitemID from mosGoodsRequestDetail where GRDrequestID = 27 and GRDshopID = 1 and GRDDetailid = 1")

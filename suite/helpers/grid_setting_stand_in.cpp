@@ -1,4 +1,4 @@
-#include "suite/helpers/cls_master_grid_setting.h"
+#include "suite/helpers/grid_setting_stand_in.h"
 
 #include <cstdint>
 
@@ -16,16 +16,16 @@ constexpr OwnTable kTable = {"smpGridSettings", "userid smallint,companyid int,i
 
 }  // namespace
 
-const late::MemberTable<clsMasterGridSetting>& clsMasterGridSetting::Members() {
-  static const late::MemberTable<clsMasterGridSetting> table{
+const late::MemberTable<GridSettingStandIn>& GridSettingStandIn::Members() {
+  static const late::MemberTable<GridSettingStandIn> table{
       {"fnGridSettings",
-       [](clsMasterGridSetting& self, Arguments& arguments) {
+       [](GridSettingStandIn& self, Arguments& arguments) {
          self.fnGridSettings(OwnerOf(arguments), *arguments[3].ToObject());
          return Value(true);
        },
        nullptr, 4, 4},
       {"fnSaveGridSettings",
-       [](clsMasterGridSetting& self, Arguments& arguments) {
+       [](GridSettingStandIn& self, Arguments& arguments) {
          self.fnSaveGridSettings(OwnerOf(arguments), *arguments[3].ToObject());
          return Value(true);
        },
@@ -34,22 +34,22 @@ const late::MemberTable<clsMasterGridSetting>& clsMasterGridSetting::Members() {
   return table;
 }
 
-std::string clsMasterGridSetting::Owner::Condition() const {
+std::string GridSettingStandIn::Owner::Condition() const {
   return " where userid=" + std::to_string(userId) + " and companyid=" + std::to_string(companyId) +
          " and interfaceid=" + std::to_string(interfaceId);
 }
 
-clsMasterGridSetting::Owner clsMasterGridSetting::OwnerOf(Arguments& arguments) {
+GridSettingStandIn::Owner GridSettingStandIn::OwnerOf(Arguments& arguments) {
   return {arguments[0].ToInt16(), arguments[1].ToInt32(), arguments[2].ToInt32()};
 }
 
-ado::Connection clsMasterGridSetting::Connection() const {
+ado::Connection GridSettingStandIn::Connection() const {
   const late::ObjectPtr connection = surroundings_->lastConnection.lock();
   if (!connection) vb::Raise(vb::kObjectNotSet);
   return ado::Connection(connection);
 }
 
-void clsMasterGridSetting::fnGridSettings(const Owner& owner, late::Object& grid) const {
+void GridSettingStandIn::fnGridSettings(const Owner& owner, late::Object& grid) const {
   ado::Connection connection = Connection();
   if (FindOrMake(surroundings_, connection, kTable) != OwnTableState::Found) return;
   ado::Recordset widths = connection.Execute("select colno,colwidth from smpGridSettings" + owner.Condition());
@@ -61,7 +61,7 @@ void clsMasterGridSetting::fnGridSettings(const Owner& owner, late::Object& grid
   widths.Close();
 }
 
-void clsMasterGridSetting::fnSaveGridSettings(const Owner& owner, late::Object& grid) const {
+void GridSettingStandIn::fnSaveGridSettings(const Owner& owner, late::Object& grid) const {
   ado::Connection connection = Connection();
   if (FindOrMake(surroundings_, connection, kTable) == OwnTableState::Refused) return;
   connection.ExecuteNoRecords("delete from smpGridSettings" + owner.Condition());

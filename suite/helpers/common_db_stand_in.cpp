@@ -1,4 +1,4 @@
-#include "suite/helpers/cls_common_db.h"
+#include "suite/helpers/common_db_stand_in.h"
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
@@ -22,34 +22,35 @@ std::string Joined(std::initializer_list<std::string_view> pieces) {
 
 }  // namespace
 
-const late::MemberTable<clsCommonDB>& clsCommonDB::Members() {
-  static const late::MemberTable<clsCommonDB> table{
-      {"adocon", [](clsCommonDB& self, Arguments&) { return Value(self.connection_.Object()); },
-       [](clsCommonDB& self, Arguments& arguments) { self.SetConnection(arguments[0]); }},
-      {"strTableName", [](clsCommonDB& self, Arguments&) { return Value(self.strTableName_); },
-       [](clsCommonDB& self, Arguments& arguments) { self.strTableName_ = arguments[0].ToText(); }},
+const late::MemberTable<CommonDbStandIn>& CommonDbStandIn::Members() {
+  static const late::MemberTable<CommonDbStandIn> table{
+      {"adocon", [](CommonDbStandIn& self, Arguments&) { return Value(self.connection_.Object()); },
+       [](CommonDbStandIn& self, Arguments& arguments) { self.SetConnection(arguments[0]); }},
+      {"strTableName", [](CommonDbStandIn& self, Arguments&) { return Value(self.strTableName_); },
+       [](CommonDbStandIn& self, Arguments& arguments) { self.strTableName_ = arguments[0].ToText(); }},
       {"fnReturnField",
-       [](clsCommonDB& self, Arguments& arguments) {
+       [](CommonDbStandIn& self, Arguments& arguments) {
          return self.fnReturnField(arguments[0].ToText(), arguments.Or(1, "").ToText());
        },
        nullptr, 1, 2},
       {"fnGetNextMaxNo",
-       [](clsCommonDB& self, Arguments& arguments) { return Value(self.fnGetNextMaxNo(arguments[0].ToText())); }, nullptr, 1, 1},
+       [](CommonDbStandIn& self, Arguments& arguments) { return Value(self.fnGetNextMaxNo(arguments[0].ToText())); }, nullptr, 1,
+       1},
       {"fnUpdateSelectedRecord",
-       [](clsCommonDB& self, Arguments& arguments) {
+       [](CommonDbStandIn& self, Arguments& arguments) {
          self.fnUpdateSelectedRecord(arguments[0].ToText(), arguments[1].ToText(), arguments[2].ToInt16());
          return Value();
        },
        nullptr, 3, 3},
       {"PopulateListview",
-       [](clsCommonDB& self, Arguments& arguments) {
+       [](CommonDbStandIn& self, Arguments& arguments) {
          self.PopulateListview(*arguments[0].ToObject(), arguments[1].ToText(), arguments[2].ToText(), arguments[3].ToText(),
                                arguments[4].ToText(), arguments[5].ToText());
          return Value();
        },
        nullptr, 6, 6},
       {"fnDeleteListview",
-       [](clsCommonDB& self, Arguments& arguments) {
+       [](CommonDbStandIn& self, Arguments& arguments) {
          self.fnDeleteListview(*arguments[0].ToObject(), arguments[1].ToInt32());
          return Value();
        },
@@ -58,12 +59,12 @@ const late::MemberTable<clsCommonDB>& clsCommonDB::Members() {
   return table;
 }
 
-void clsCommonDB::SetConnection(const Value& connection) {
+void CommonDbStandIn::SetConnection(const Value& connection) {
   connection_ = ado::Connection(connection.ToObject());
   surroundings_->lastConnection = connection_.Object();
 }
 
-Value clsCommonDB::fnReturnField(std::string_view field, std::string_view condition) {
+Value CommonDbStandIn::fnReturnField(std::string_view field, std::string_view condition) {
   const bool all = vb::Trim(condition).empty();
   ado::Recordset row =
       connection_.Execute(Joined({"select ", field, " from ", strTableName_, all ? "" : " where ", all ? "" : condition}));
@@ -72,20 +73,20 @@ Value clsCommonDB::fnReturnField(std::string_view field, std::string_view condit
   return value;
 }
 
-std::int32_t clsCommonDB::fnGetNextMaxNo(std::string_view column) {
+std::int32_t CommonDbStandIn::fnGetNextMaxNo(std::string_view column) {
   ado::Recordset row = connection_.Execute("select max(" + std::string(column) + ") from " + strTableName_);
   const Value greatest = row.Eof() ? Value(late::Null{}) : row.Field(0);
   row.Close();
   return greatest.IsNull() ? 1 : vb::CLng(greatest.ToDouble() + 1);
 }
 
-void clsCommonDB::fnUpdateSelectedRecord(std::string_view condition, std::string_view column, std::int16_t value) {
+void CommonDbStandIn::fnUpdateSelectedRecord(std::string_view condition, std::string_view column, std::int16_t value) {
   connection_.ExecuteNoRecords(
       Joined({"update ", strTableName_, " set ", column, "=", std::to_string(value), " where ", condition}));
 }
 
-void clsCommonDB::PopulateListview(late::Object& list, std::string_view tables, std::string_view condition,
-                                   std::string_view keyColumn, std::string_view textColumn, std::string_view option) {
+void CommonDbStandIn::PopulateListview(late::Object& list, std::string_view tables, std::string_view condition,
+                                       std::string_view keyColumn, std::string_view textColumn, std::string_view option) {
   ado::Recordset rows = connection_.Execute("select " + std::string(keyColumn) + "," + std::string(textColumn) + " from " +
                                             std::string(tables) + " where " + std::string(condition));
   const late::ObjectPtr items = list.Get("ListItems").ToObject();
@@ -102,7 +103,7 @@ void clsCommonDB::PopulateListview(late::Object& list, std::string_view tables, 
   rows.Close();
 }
 
-void clsCommonDB::fnDeleteListview(late::Object& list, std::int32_t index) {
+void CommonDbStandIn::fnDeleteListview(late::Object& list, std::int32_t index) {
   const late::ObjectPtr items = list.Get("ListItems").ToObject();
   const std::int32_t count = items->Get("Count").ToInt32();
   if (index >= 1 && index <= count) {

@@ -11,10 +11,10 @@ namespace suite {
 
 /// Stand-in of the suite's form colouring: one calm scheme for all forms, which steps back while the person has asked the
 /// system for high contrast. Reaches forms and controls by member name.
-class clsFormcolor : public late::TableObject<clsFormcolor> {
+class FormColorStandIn : public late::TableObject<FormColorStandIn> {
  public:
-  explicit clsFormcolor(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
-  static const late::MemberTable<clsFormcolor>& Members();
+  explicit FormColorStandIn(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
+  static const late::MemberTable<FormColorStandIn>& Members();
   std::string TypeName() const override { return "clsFormcolor"; }
 
   static void Applyformcolor(late::Object& form, const controls::Desktop& desktop);

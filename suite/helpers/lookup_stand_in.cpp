@@ -1,4 +1,4 @@
-#include "suite/helpers/cls_fetch.h"
+#include "suite/helpers/lookup_stand_in.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,16 +26,16 @@ std::vector<std::string> Texts(const Value& value) {
 
 /// A property kept as it is put.
 template <class T, class Convert>
-late::Member<clsFetch> Property(std::string_view name, T clsFetch::*member, Convert convert) {
-  return {name, [member](clsFetch& self, Arguments&) { return Value(self.*member); },
-          [member, convert](clsFetch& self, Arguments& arguments) { self.*member = convert(arguments[0]); }};
+late::Member<LookupStandIn> Property(std::string_view name, T LookupStandIn::*member, Convert convert) {
+  return {name, [member](LookupStandIn& self, Arguments&) { return Value(self.*member); },
+          [member, convert](LookupStandIn& self, Arguments& arguments) { self.*member = convert(arguments[0]); }};
 }
 
 /// A method of one argument that is kept.
 template <class Keep>
-late::Member<clsFetch> Setter(std::string_view name, Keep keep) {
+late::Member<LookupStandIn> Setter(std::string_view name, Keep keep) {
   return {name,
-          [keep](clsFetch& self, Arguments& arguments) {
+          [keep](LookupStandIn& self, Arguments& arguments) {
             keep(self, arguments[0]);
             return Value();
           },
@@ -44,58 +44,59 @@ late::Member<clsFetch> Setter(std::string_view name, Keep keep) {
 
 }  // namespace
 
-const late::MemberTable<clsFetch>& clsFetch::Members() {
+const late::MemberTable<LookupStandIn>& LookupStandIn::Members() {
   const auto text = [](const Value& value) { return value.TextOrEmpty(); };
   const auto number = [](const Value& value) { return value.ToInt32(); };
   const auto flag = [](const Value& value) { return value.TrueOrFalse(); };
-  static const late::MemberTable<clsFetch> table{
-      {"adocon", [](clsFetch& self, Arguments&) { return Value(self.connection_.Object()); },
-       [](clsFetch& self, Arguments& arguments) {
+  static const late::MemberTable<LookupStandIn> table{
+      {"adocon", [](LookupStandIn& self, Arguments&) { return Value(self.connection_.Object()); },
+       [](LookupStandIn& self, Arguments& arguments) {
          self.connection_ = ado::Connection(arguments[0].ToObject());
          self.surroundings_->lastConnection = self.connection_.Object();
        }},
-      Property("strQuery", &clsFetch::strQuery_, text),
-      Property("strMsgboxTitle", &clsFetch::strMsgboxTitle_, text),
-      Property("lngUserID", &clsFetch::lngUserID_, number),
-      Property("InterfaceId", &clsFetch::interfaceId_, number),
-      Property("DataIdentifier", &clsFetch::dataIdentifier_, text),
-      Property("ForcedRefresh", &clsFetch::forcedRefresh_, flag),
-      Property("PreserveData", &clsFetch::preserveData_, flag),
-      Setter("setFetchType", [](clsFetch& self, const Value& value) { self.fetchType_ = value.TextOrEmpty(); }),
-      Setter("setLocationType", [](clsFetch& self, const Value& value) { self.locationType_ = value.TextOrEmpty(); }),
-      Setter("setShopId", [](clsFetch& self, const Value& value) { self.shopId_ = value.ToInt32(); }),
+      Property("strQuery", &LookupStandIn::strQuery_, text),
+      Property("strMsgboxTitle", &LookupStandIn::strMsgboxTitle_, text),
+      Property("lngUserID", &LookupStandIn::lngUserID_, number),
+      Property("InterfaceId", &LookupStandIn::interfaceId_, number),
+      Property("DataIdentifier", &LookupStandIn::dataIdentifier_, text),
+      Property("ForcedRefresh", &LookupStandIn::forcedRefresh_, flag),
+      Property("PreserveData", &LookupStandIn::preserveData_, flag),
+      Setter("setFetchType", [](LookupStandIn& self, const Value& value) { self.fetchType_ = value.TextOrEmpty(); }),
+      Setter("setLocationType", [](LookupStandIn& self, const Value& value) { self.locationType_ = value.TextOrEmpty(); }),
+      Setter("setShopId", [](LookupStandIn& self, const Value& value) { self.shopId_ = value.ToInt32(); }),
       {"setRecordSet",
-       [](clsFetch& self, Arguments& arguments) {
+       [](LookupStandIn& self, Arguments& arguments) {
          self.setRecordSet(arguments);
          return Value();
        },
        nullptr, 1, 1},
       Setter("setFieldNames",
-             [](clsFetch& self, const Value& value) {
+             [](LookupStandIn& self, const Value& value) {
                std::vector<std::string> names = Texts(value);
                if (names != self.fieldNames_) self.heldIdentifier_.reset();  // rows are kept as these fields
                self.fieldNames_ = std::move(names);
              }),
-      Setter("setFieldCaptions", [](clsFetch& self, const Value& value) { self.fieldCaptions_ = Texts(value); }),
+      Setter("setFieldCaptions", [](LookupStandIn& self, const Value& value) { self.fieldCaptions_ = Texts(value); }),
       Setter("setFieldWidths",
-             [](clsFetch& self, const Value& value) {
+             [](LookupStandIn& self, const Value& value) {
                self.fieldWidths_.clear();
                for (const std::string& width : Texts(value)) self.fieldWidths_.push_back(vb::CLng(vb::Val(width)));
              }),
-      Setter("setDefaultFetchField", [](clsFetch& self, const Value& value) { self.defaultField_ = value.ToInt32(); }),
-      Setter("setInterfaceCaption", [](clsFetch& self, const Value& value) { self.interfaceCaption_ = value.TextOrEmpty(); }),
+      Setter("setDefaultFetchField", [](LookupStandIn& self, const Value& value) { self.defaultField_ = value.ToInt32(); }),
+      Setter("setInterfaceCaption",
+             [](LookupStandIn& self, const Value& value) { self.interfaceCaption_ = value.TextOrEmpty(); }),
       {"Show",
-       [](clsFetch& self, Arguments&) {
+       [](LookupStandIn& self, Arguments&) {
          self.Show();
          return Value();
        },
        nullptr},
-      {"getCancelledStatus", [](clsFetch& self, Arguments&) { return Value(self.cancelled_); }, nullptr},
+      {"getCancelledStatus", [](LookupStandIn& self, Arguments&) { return Value(self.cancelled_); }, nullptr},
   };
   return table;
 }
 
-void clsFetch::setRecordSet(Arguments& arguments) {
+void LookupStandIn::setRecordSet(Arguments& arguments) {
   const Value& given = arguments[0];
   const late::ObjectPtr* object = given.If<late::ObjectPtr>();
   if (object == nullptr || *object == nullptr) {
@@ -109,13 +110,13 @@ void clsFetch::setRecordSet(Arguments& arguments) {
   }
 }
 
-bool clsFetch::HasRows() {
+bool LookupStandIn::HasRows() {
   if (forcedRefresh_ || !preserveData_ || !recordset_.IsOpen()) return false;
   if (!heldIdentifier_) TakeHandedRows();
   return heldIdentifier_ == dataIdentifier_ && rows_.Count() > 0;
 }
 
-void clsFetch::TakeHandedRows() {
+void LookupStandIn::TakeHandedRows() {
   try {
     const std::string source = recordset_.Object()->Get("Source").ToText();
     if (vb::Trim(source) != vb::Trim(strQuery_) || (recordset_.Bof() && recordset_.Eof())) return;
@@ -127,7 +128,7 @@ void clsFetch::TakeHandedRows() {
   }
 }
 
-void clsFetch::LoadRows() {
+void LookupStandIn::LoadRows() {
   heldIdentifier_.reset();
   recordset_.CloseIfOpen();
   recordset_.SetCursorLocation(ado::kUseClient);
@@ -136,7 +137,7 @@ void clsFetch::LoadRows() {
   heldIdentifier_ = dataIdentifier_;
 }
 
-std::vector<std::string> clsFetch::FieldNames() {
+std::vector<std::string> LookupStandIn::FieldNames() {
   if (!fieldNames_.empty()) return fieldNames_;
   std::vector<std::string> names;
   const int count = recordset_.FieldCount();
@@ -145,7 +146,7 @@ std::vector<std::string> clsFetch::FieldNames() {
   return names;
 }
 
-std::vector<LookupColumn> clsFetch::Columns() {
+std::vector<LookupColumn> LookupStandIn::Columns() {
   const std::vector<std::string> names = FieldNames();
   std::vector<LookupColumn> columns;
   for (std::size_t field = 0; field < names.size(); ++field) {
@@ -155,7 +156,7 @@ std::vector<LookupColumn> clsFetch::Columns() {
   return columns;
 }
 
-void clsFetch::Show() {
+void LookupStandIn::Show() {
   cancelled_ = true;
   if (!recordset_) recordset_ = ado::Recordset::Create(surroundings_->factory);
   if (!HasRows()) LoadRows();

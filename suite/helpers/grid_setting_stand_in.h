@@ -11,11 +11,11 @@ namespace suite {
 
 /// Stand-in of the suite's grid settings: column widths of a grid by user, company and interface, kept in smpGridSettings
 /// (created on first use). It is handed no connection, so it works on the one last handed to any of the stand-ins.
-class clsMasterGridSetting : public late::TableObject<clsMasterGridSetting> {
+class GridSettingStandIn : public late::TableObject<GridSettingStandIn> {
  public:
-  explicit clsMasterGridSetting(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
+  explicit GridSettingStandIn(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
 
-  static const late::MemberTable<clsMasterGridSetting>& Members();
+  static const late::MemberTable<GridSettingStandIn>& Members();
   std::string TypeName() const override { return "clsMasterGridSetting"; }
 
  private:

@@ -9,9 +9,9 @@ namespace suite {
 
 /// Stand-in of the suite's general user-interface helper: combo selection and the numeric key filter. Reaches controls by member
 /// name.
-class clsCommonGen : public late::TableObject<clsCommonGen> {
+class CommonGenStandIn : public late::TableObject<CommonGenStandIn> {
  public:
-  static const late::MemberTable<clsCommonGen>& Members();
+  static const late::MemberTable<CommonGenStandIn>& Members();
   std::string TypeName() const override { return "clsCommonGen"; }
 
   /// Without regard to case and surrounding blanks; the combo stays as it is when no entry matches.

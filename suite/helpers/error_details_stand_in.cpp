@@ -1,4 +1,4 @@
-#include "suite/helpers/error_details.h"
+#include "suite/helpers/error_details_stand_in.h"
 
 #include "base/vb/error.h"
 #include "base/vb/text.h"
@@ -20,10 +20,10 @@ std::string OneLine(const std::string& text) {
 
 }  // namespace
 
-const late::MemberTable<ErrorDetails>& ErrorDetails::Members() {
-  static const late::MemberTable<ErrorDetails> table{
+const late::MemberTable<ErrorDetailsStandIn>& ErrorDetailsStandIn::Members() {
+  static const late::MemberTable<ErrorDetailsStandIn> table{
       {"ErrorTrack",
-       [](ErrorDetails& self, Arguments& arguments) {
+       [](ErrorDetailsStandIn& self, Arguments& arguments) {
          self.Log(arguments);
          self.Tell(arguments);
          return Value(true);
@@ -33,21 +33,21 @@ const late::MemberTable<ErrorDetails>& ErrorDetails::Members() {
   return table;
 }
 
-void ErrorDetails::Note(std::string_view module, std::string_view routine, const vb::RunTimeError& error) const {
+void ErrorDetailsStandIn::Note(std::string_view module, std::string_view routine, const vb::RunTimeError& error) const {
   std::vector<Value> values{module, "",  routine, static_cast<std::int32_t>(error.Number()), error.Source(), error.Description(),
                             "",     true};
   Arguments arguments(values);
   Log(arguments);
 }
 
-void ErrorDetails::Log(Arguments& arguments) const {
+void ErrorDetailsStandIn::Log(Arguments& arguments) const {
   const std::string line = LineOf(arguments);
   workstation::Workstation& workstation = surroundings_->workstation;
   // An application folder that may not be written, or a full disk, must not hide the error itself.
   if (!Append(workstation.ApplicationFolder(), line)) Append(workstation.TempFolder(), line);
 }
 
-std::string ErrorDetails::LineOf(Arguments& arguments) const {
+std::string ErrorDetailsStandIn::LineOf(Arguments& arguments) const {
   std::string line = vb::FormatDate(surroundings_->workstation.Now(), "yyyy-mm-dd hh:nn:ss");
   for (const std::size_t field : {kUser, kForm, kRoutine, kNumber, kSource, kDescription, kMode}) {
     line += "\t" + OneLine(std::string(vb::Trim(arguments[field].TextOrEmpty())));
@@ -55,7 +55,7 @@ std::string ErrorDetails::LineOf(Arguments& arguments) const {
   return line + "\r\n";
 }
 
-bool ErrorDetails::Append(const std::string& folder, const std::string& line) const {
+bool ErrorDetailsStandIn::Append(const std::string& folder, const std::string& line) const {
   try {
     const auto log = surroundings_->workstation.OpenForAppend(folder + "\\errors.log");
     log->Write(line);
@@ -66,7 +66,7 @@ bool ErrorDetails::Append(const std::string& folder, const std::string& line) co
   }
 }
 
-void ErrorDetails::Tell(Arguments& arguments) const {
+void ErrorDetailsStandIn::Tell(Arguments& arguments) const {
   const std::string form(vb::Trim(arguments[kForm].TextOrEmpty()));
   const std::string routine(vb::Trim(arguments[kRoutine].TextOrEmpty()));
   controls::Message message;

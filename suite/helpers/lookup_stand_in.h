@@ -18,11 +18,11 @@ namespace suite {
 /// recordset it was handed (or made, where it was handed none). Unless a refresh is forced, and only when PreserveData says so,
 /// rows are kept from one Show to the next for the same data identifier, and an open recordset of the same query is shown as it
 /// is handed over.
-class clsFetch : public late::TableObject<clsFetch> {
+class LookupStandIn : public late::TableObject<LookupStandIn> {
  public:
-  explicit clsFetch(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
+  explicit LookupStandIn(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
 
-  static const late::MemberTable<clsFetch>& Members();
+  static const late::MemberTable<LookupStandIn>& Members();
   std::string TypeName() const override { return "clsFetch"; }
 
  private:
@@ -32,7 +32,7 @@ class clsFetch : public late::TableObject<clsFetch> {
   bool HasRows();
   void TakeHandedRows();
   void LoadRows();
-  /// The fields told, or else all that the query has.
+  /// The configured fields, or else all of the query.
   std::vector<std::string> FieldNames();
   std::vector<LookupColumn> Columns();
 

@@ -1,4 +1,4 @@
-#include "suite/helpers/cls_user_auditing.h"
+#include "suite/helpers/user_auditing_stand_in.h"
 
 #include <cstdint>
 
@@ -49,24 +49,24 @@ std::string Quoted(std::string_view text) {
 
 }  // namespace
 
-const late::MemberTable<clsUserAuditing>& clsUserAuditing::Members() {
-  static const late::MemberTable<clsUserAuditing> table{
+const late::MemberTable<UserAuditingStandIn>& UserAuditingStandIn::Members() {
+  static const late::MemberTable<UserAuditingStandIn> table{
       {"OpenObject",
-       [](clsUserAuditing& self, Arguments& arguments) {
+       [](UserAuditingStandIn& self, Arguments& arguments) {
          self.Open(arguments);
          return Value();
        },
        nullptr, 6, 6},
-      {"LoggedTime", [](clsUserAuditing& self, Arguments&) { return Value(self.loggedTime_); },
-       [](clsUserAuditing& self, Arguments& arguments) { self.loggedTime_ = arguments[0].ToDate(); }},
+      {"LoggedTime", [](UserAuditingStandIn& self, Arguments&) { return Value(self.loggedTime_); },
+       [](UserAuditingStandIn& self, Arguments& arguments) { self.loggedTime_ = arguments[0].ToDate(); }},
       {"SaveInToTag",
-       [](clsUserAuditing&, Arguments& arguments) {
+       [](UserAuditingStandIn&, Arguments& arguments) {
          SaveInToTag(*arguments[0].ToObject());
          return Value();
        },
        nullptr, 1, 1},
       {"SaveUserAuditingInfo",
-       [](clsUserAuditing& self, Arguments& arguments) {
+       [](UserAuditingStandIn& self, Arguments& arguments) {
          self.SaveUserAuditingInfo(arguments);
          return Value();
        },
@@ -75,7 +75,7 @@ const late::MemberTable<clsUserAuditing>& clsUserAuditing::Members() {
   return table;
 }
 
-void clsUserAuditing::Open(Arguments& arguments) {
+void UserAuditingStandIn::Open(Arguments& arguments) {
   connection_ = ado::Connection(arguments[0].ToObject());
   surroundings_->lastConnection = connection_.Object();
   companyId_ = arguments[1].ToInt32();
@@ -85,11 +85,11 @@ void clsUserAuditing::Open(Arguments& arguments) {
   loggedTime_ = arguments[5].ToDate();
 }
 
-void clsUserAuditing::SaveInToTag(late::Object& form) {
+void UserAuditingStandIn::SaveInToTag(late::Object& form) {
   ForEachEntry(form, [](late::Object& control, const std::string& shown) { control.Put("Tag", shown); });
 }
 
-std::string clsUserAuditing::ChangesSinceTag(late::Object& form) {
+std::string UserAuditingStandIn::ChangesSinceTag(late::Object& form) {
   std::string changes;
   ForEachEntry(form, [&](late::Object& control, const std::string& shown) {
     const std::string before = control.Get("Tag").TextOrEmpty();
@@ -98,7 +98,7 @@ std::string clsUserAuditing::ChangesSinceTag(late::Object& form) {
   return vb::Left(changes, kChangesWidth);
 }
 
-void clsUserAuditing::SaveUserAuditingInfo(Arguments& arguments) {
+void UserAuditingStandIn::SaveUserAuditingInfo(Arguments& arguments) {
   if (FindOrMake(surroundings_, connection_, kTable) == OwnTableState::Refused) return;
   const std::string changes = arguments.Has(4) ? ChangesSinceTag(*arguments[4].ToObject()) : std::string();
   connection_.ExecuteNoRecords(

@@ -10,11 +10,11 @@
 namespace suite {
 
 /// Stand-in of the suite's user auditing: one row of smpUserAudit an action. The table is created on first use.
-class clsUserAuditing : public late::TableObject<clsUserAuditing> {
+class UserAuditingStandIn : public late::TableObject<UserAuditingStandIn> {
  public:
-  explicit clsUserAuditing(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
+  explicit UserAuditingStandIn(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
 
-  static const late::MemberTable<clsUserAuditing>& Members();
+  static const late::MemberTable<UserAuditingStandIn>& Members();
   std::string TypeName() const override { return "clsUserAuditing"; }
 
   /// Keeps what each box, combo, check box and option shows in its Tag.

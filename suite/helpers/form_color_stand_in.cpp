@@ -1,4 +1,4 @@
-#include "suite/helpers/cls_formcolor.h"
+#include "suite/helpers/form_color_stand_in.h"
 
 #include <algorithm>
 #include <array>
@@ -17,8 +17,8 @@ constexpr std::int32_t Rgb(int red, int green, int blue) {
 }
 
 constexpr std::int32_t kFace = Rgb(234, 240, 246);   // forms, frames, labels, options
-constexpr std::int32_t kField = Rgb(255, 255, 250);  // what is typed into
-constexpr std::int32_t kText = Rgb(16, 24, 32);      // what is typed and listed
+constexpr std::int32_t kField = Rgb(255, 255, 250);  // background of input fields
+constexpr std::int32_t kText = Rgb(16, 24, 32);      // text of fields and lists
 constexpr std::int32_t kCaption = Rgb(26, 54, 93);   // captions
 constexpr std::array<std::string_view, 5> kFields = {"TextBox", "ComboBox", "ListView", "MSHFlexGrid", "ListBox"};
 constexpr std::array<std::string_view, 6> kFaces = {"Label", "Frame", "OptionButton", "CheckBox", "PictureBox", "SSTab"};
@@ -41,16 +41,16 @@ void ColorControl(late::Object& control) {
 
 }  // namespace
 
-const late::MemberTable<clsFormcolor>& clsFormcolor::Members() {
-  static const late::MemberTable<clsFormcolor> table{
+const late::MemberTable<FormColorStandIn>& FormColorStandIn::Members() {
+  static const late::MemberTable<FormColorStandIn> table{
       {"Applyformcolor",
-       [](clsFormcolor& self, Arguments& arguments) {
+       [](FormColorStandIn& self, Arguments& arguments) {
          Applyformcolor(*arguments[0].ToObject(), self.surroundings_->desktop);
          return Value();
        },
        nullptr, 1, 1},
       {"Applytabcolor",
-       [](clsFormcolor& self, Arguments& arguments) {
+       [](FormColorStandIn& self, Arguments& arguments) {
          Applytabcolor(*arguments[0].ToObject(), self.surroundings_->desktop);
          return Value();
        },
@@ -59,7 +59,7 @@ const late::MemberTable<clsFormcolor>& clsFormcolor::Members() {
   return table;
 }
 
-void clsFormcolor::Applyformcolor(late::Object& form, const controls::Desktop& desktop) {
+void FormColorStandIn::Applyformcolor(late::Object& form, const controls::Desktop& desktop) {
   if (desktop.IsHighContrast()) return;
   form.Put("BackColor", kFace);
   const late::ObjectPtr controls = form.Get("Controls").ToObject();
@@ -67,7 +67,7 @@ void clsFormcolor::Applyformcolor(late::Object& form, const controls::Desktop& d
   for (std::int32_t index = 0; index < count; ++index) ColorControl(*controls->Get("Item", {index}).ToObject());
 }
 
-void clsFormcolor::Applytabcolor(late::Object& tab, const controls::Desktop& desktop) {
+void FormColorStandIn::Applytabcolor(late::Object& tab, const controls::Desktop& desktop) {
   if (!desktop.IsHighContrast()) ColorBoth(tab, kFace, kCaption);
 }
 

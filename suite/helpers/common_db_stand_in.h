@@ -12,11 +12,11 @@ namespace suite {
 
 /// Stand-in of the suite's database helper: single values, next numbers, flag updates, filling of list views. Every member runs
 /// on the connection it was handed.
-class clsCommonDB : public late::TableObject<clsCommonDB> {
+class CommonDbStandIn : public late::TableObject<CommonDbStandIn> {
  public:
-  explicit clsCommonDB(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
+  explicit CommonDbStandIn(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
 
-  static const late::MemberTable<clsCommonDB>& Members();
+  static const late::MemberTable<CommonDbStandIn>& Members();
   std::string TypeName() const override { return "clsCommonDB"; }
 
   /// First row's field of "select field from table [where condition]"; Null when no row matches.

@@ -1,4 +1,4 @@
-#include "suite/helpers/cls_common_gen.h"
+#include "suite/helpers/common_gen_stand_in.h"
 
 #include "base/vb/text.h"
 
@@ -32,22 +32,22 @@ std::string TextAfterKey(late::Object& box, char32_t character) {
 
 }  // namespace
 
-const late::MemberTable<clsCommonGen>& clsCommonGen::Members() {
-  static const late::MemberTable<clsCommonGen> table{
+const late::MemberTable<CommonGenStandIn>& CommonGenStandIn::Members() {
+  static const late::MemberTable<CommonGenStandIn> table{
       {"SelectComboItemByName",
-       [](clsCommonGen&, Arguments& arguments) {
+       [](CommonGenStandIn&, Arguments& arguments) {
          SelectComboItemByName(*arguments[0].ToObject(), arguments[1].ToText());
          return Value();
        },
        nullptr, 2, 2},
       {"SelectComboItemByValue",
-       [](clsCommonGen&, Arguments& arguments) {
+       [](CommonGenStandIn&, Arguments& arguments) {
          SelectComboItemByValue(*arguments[0].ToObject(), arguments[1].ToInt32());
          return Value();
        },
        nullptr, 2, 2},
       {"TextValidateNum",
-       [](clsCommonGen&, Arguments& arguments) {
+       [](CommonGenStandIn&, Arguments& arguments) {
          const auto character = static_cast<char32_t>(arguments[1].ToInt16());
          if (!AcceptsNumericKey(*arguments[0].ToObject(), character, arguments[2].ToInt16(), arguments[3].ToInt16())) {
            arguments.Write(1, std::int16_t{0});
@@ -59,7 +59,7 @@ const late::MemberTable<clsCommonGen>& clsCommonGen::Members() {
   return table;
 }
 
-void clsCommonGen::SelectComboItemByName(late::Object& combo, std::string_view text) {
+void CommonGenStandIn::SelectComboItemByName(late::Object& combo, std::string_view text) {
   const std::string wanted(vb::Trim(text));
   SelectFirst(combo, [&](std::int32_t index) {
     const std::string entry = combo.Get("List", {index}).ToText();
@@ -67,11 +67,11 @@ void clsCommonGen::SelectComboItemByName(late::Object& combo, std::string_view t
   });
 }
 
-void clsCommonGen::SelectComboItemByValue(late::Object& combo, std::int32_t value) {
+void CommonGenStandIn::SelectComboItemByValue(late::Object& combo, std::int32_t value) {
   SelectFirst(combo, [&](std::int32_t index) { return combo.Get("ItemData", {index}).ToInt32() == value; });
 }
 
-bool clsCommonGen::AcceptsNumericKey(late::Object& box, char32_t character, int length, int decimals) {
+bool CommonGenStandIn::AcceptsNumericKey(late::Object& box, char32_t character, int length, int decimals) {
   if (character < 32) return true;
   const bool digit = character >= U'0' && character <= U'9';
   if (!digit && character != U'.') return false;

@@ -11,11 +11,11 @@ namespace suite {
 
 /// Stand-in of the suite's error log: appends to errors.log in the application folder, or in the
 /// user's temporary folder where the first cannot be written, and tells the user.
-class ErrorDetails : public late::TableObject<ErrorDetails> {
+class ErrorDetailsStandIn : public late::TableObject<ErrorDetailsStandIn> {
  public:
-  explicit ErrorDetails(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
+  explicit ErrorDetailsStandIn(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}
 
-  static const late::MemberTable<ErrorDetails>& Members();
+  static const late::MemberTable<ErrorDetailsStandIn>& Members();
   std::string TypeName() const override { return "ErrorDetails"; }
 
   /// Appends a line without a message box. Raises nothing.
