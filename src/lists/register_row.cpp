@@ -8,6 +8,7 @@
 #include "src/lists/cell_text.h"
 #include "src/module/error_routine.h"
 #include "src/module/module_name.h"
+#include "src/records/query_rows.h"
 
 namespace goods {
 namespace {
@@ -23,14 +24,8 @@ std::string RowQuery(const std::string& gridQuery, std::string_view condition) {
 
 /// The query's first record as cells; none when it finds nothing.
 std::vector<std::string> ReadRow(basGoodsRequest& session, const std::string& query) {
-  ado::Recordset rows = ado::Recordset::Create(session.services.factory);
-  rows.Open(query, session.gAdoCon);
   std::vector<std::string> cells;
-  if (!rows.Eof()) {
-    const late::ArrayPtr record = rows.GetRows(1);
-    for (late::Value& field : record->items) cells.push_back(CellText(std::move(field)));
-  }
-  rows.Close();
+  for (late::Value& field : FirstRow(session, query)) cells.push_back(CellText(std::move(field)));
   return cells;
 }
 

@@ -13,16 +13,18 @@
 #include "src/lists/register_view.h"
 #include "src/lists/search_answer.h"
 #include "src/module/module_form.h"
+#include "src/register/register_fill.h"
+#include "src/register/register_grid.h"
 
 namespace goods {
 
 class frmcancelreason;
 class frmPrint;
 class frmRequest;
-struct GridOwner;
 
 /// The register: the shop's requests of a recent date range, one row each, and the commands on the selected one. Owns the editor,
-/// the print dialog and the reason dialog.
+/// the print dialog and the reason dialog. How the list is filled is register_fill's, what cancelling means
+/// request_cancellation's.
 class frmMaster : public ModuleForm {
  public:
   explicit frmMaster(basGoodsRequest& session);
@@ -57,53 +59,39 @@ class frmMaster : public ModuleForm {
   // Loading.
   void Form_Load();
   void Form_Unload();
-  void ReadSettings();
-  /// Lower bound of the list: the process date less the configured days, or the last close when that lies further back. The zero
-  /// date after an error.
+  /// Lower bound of the list; the zero date after an error.
   vb::Date fnPopulateDate();
+  /// Fills the grid with the shop's requests since the from-date.
+  void GridPopulate();
 
-  // Filling the grid.
-  /// Fills the grid from the query; an empty result leaves one empty placeholder row. `table` names the headings.
-  void GridPopulate(const std::string& query, std::string_view table);
-  void FillRows(const std::string& query);
-  void SetHeadings(std::string_view table);
-  void AddHeading(long column, const std::string& heading);
-  void WidenColumn(long column, std::size_t characters);
-  /// Where the columns are wider than the list, the widest gives way to the others, down to a quarter of the list.
-  void KeepColumnsInSight();
-  void MarkCancelledRequests();
-  /// Whose settings of the grid are applied and stored. Error 6 for a user id beyond 16 bits.
-  GridOwner SettingsOwner() const;
-
-  // Rights.
+  // What the user's rights and the current row allow.
   void USerRights();
   void EnableCommands(bool enabled);
-  /// Whether the user has the right of that letter; the letter is trimmed and put in capitals in place. False after an error.
-  bool fnUSerRights(std::string& letter);
-  bool HasRight(std::string letter) { return fnUSerRights(letter); }
-
-  // What the current row allows.
+  /// Whether the user has the right of that letter. False after an error.
+  bool fnUSerRights(std::string_view letter);
   void Form_Activate();
   void flexMaster_RowColChange();
   void flexMaster_SelChange();
-  bool IsOnRequest() const;  ///< whether the current row holds a request
-  /// Text of the current row; "" outside the grid.
-  std::string CurrentCell(long column) const;
-  std::int32_t CurrentRequestId() const;
-  void SelectWholeRow(long row);
-  void ApplySelectionColor();
 
   // Commands.
   void cmdnew_Click();
   void CmdEdit_Click();
   void CmdDelete_Click();
   void Cmdprev_Click();
-  void CmdClose_Click();
   void mnurefresh_Click();
+  /// The editor, not loaded, with the session set for a new request (mode "N") or for the current one ("E").
+  frmRequest& EditorFor(std::string_view mode);
+  void ShowEditor();
   /// The focus goes to the list again once a command's form has closed.
   void ReturnToList();
-  /// The editor, not loaded: an opening that failed on its way must not show through in the next one.
-  frmRequest& FreshEditor();
+
+  // Cancelling a request.
+  bool RefusesToDelete();
+  bool EditorAllowsSaving() const;
+  /// What the user types as reason; empty when there is none.
+  std::string AskReason();
+  void MarkRequestCancelled(std::string_view userName, std::string_view reason);
+  void ShowCancelled();
 
   // Grid keys and mouse.
   void flexMaster_DblClick();
@@ -120,22 +108,13 @@ class frmMaster : public ModuleForm {
   void SortDirection_Click();
   void flexMaster_HeadingClick(long column);
   void txtsearch_KeyUp(int& keyCode, int shift);
-  void SortGrid(long column);
-
-  // Cancelling a request.
-  bool RefusesToDelete();
-  /// What the user types as reason; empty when there is none.
-  std::string AskReason();
-  void MarkRequestCancelled(std::string_view remark);
-  void RemoveRequestRaisedFromShopItemDetail();
-  bool EditorAllowsSaving() const;
 
   RegisterView view_{flexMaster, {}};
+  RegisterGrid requests_{flexMaster};
+  RegisterFill fill_{Session(), flexMaster, cboColNames, cboSearch};
   SearchAnswer searchAnswer_{txtsearch};
   CommonDb objCommonDB_;
-  std::string mainTable_ = "mosGoodsRequestHeader";
-  std::int32_t editedRequest_ = 0;  ///< the request last opened for editing
-  long evaluatedRow_ = 1;           ///< the row that the buttons were last judged by
+  long evaluatedRow_ = 1;  ///< the row that the buttons were last judged by
 
   std::shared_ptr<frmRequest> editor_;
   std::shared_ptr<frmPrint> printDialog_;

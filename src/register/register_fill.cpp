@@ -1,10 +1,13 @@
+#include "src/register/register_fill.h"
+
 #include <algorithm>
 #include <vector>
 
+#include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/faces/grid_settings.h"
 #include "src/lists/cell_text.h"
-#include "src/register/frm_master.h"
+#include "src/records/query_rows.h"
 
 namespace goods {
 namespace {
@@ -14,7 +17,6 @@ constexpr int kTwipsPerCharacter = 105;
 constexpr int kCellMargin = 180;
 /// Room beside the columns: the scroll bar and the list's edges.
 constexpr int kScrollBar = 360;
-constexpr std::string_view kCancelled = "Yes";
 
 std::string HeadingQuery(std::string_view table) {
   return "select tc.columnheader,tc.columnname from atables t,"
@@ -36,27 +38,12 @@ class LongestTexts {
   std::vector<std::size_t> characters_;
 };
 
-}  // namespace
-
-void frmMaster::GridPopulate(const std::string& query, std::string_view table) {
-  Trap("GridPopulate", [&] {
-    view_.gridQuery = query;
-    FillRows(query);
-    Trap("SetHeadings", [&] { SetHeadings(table); });
-    MarkCancelledRequests();
-    SelectWholeRow(1);
-  });
-}
-
-void frmMaster::FillRows(const std::string& query) {
-  flexMaster.Clear();
-  flexMaster.SetRows(2);
-  ado::Recordset rows = ado::Recordset::Create(Session().services.factory);
-  rows.Open(query, Session().gAdoCon);
+/// Appends the recordset's rows to the grid; the first one takes the placeholder's place.
+LongestTexts AppendRows(ado::Recordset& rows, controls::FlexGrid& grid) {
   const auto fields = static_cast<std::size_t>(rows.FieldCount());
-  flexMaster.SetCols(static_cast<long>(fields));
+  grid.SetCols(static_cast<long>(fields));
   LongestTexts longest(fields);
-  bool placeholder = true;  // the first request takes the placeholder's row
+  bool placeholder = true;
   while (!rows.Eof()) {
     const late::ArrayPtr block = rows.GetRows(kBlockRows);
     for (std::size_t record = 0; record < block->columns; ++record) {
@@ -66,61 +53,81 @@ void frmMaster::FillRows(const std::string& query) {
         cells.push_back(CellText(std::move(block->At(field, record))));
         longest.Measure(field, cells.back());
       }
-      flexMaster.AppendRow(std::move(cells));
-      if (placeholder) flexMaster.RemoveItem(1);
+      grid.AppendRow(std::move(cells));
+      if (placeholder) grid.RemoveItem(1);
       placeholder = false;
     }
   }
-  rows.Close();
-  for (std::size_t field = 0; field < fields; ++field) WidenColumn(static_cast<long>(field), longest.Characters()[field]);
+  return longest;
 }
 
-void frmMaster::WidenColumn(long column, std::size_t characters) {
+/// Whose settings of which grid. Error 6 for a user id beyond 16 bits.
+GridOwner OwnerOf(const basGoodsRequest& session) {
+  return {vb::CInt(static_cast<double>(session.gIntUserID)), session.gIntCompanyID, session.gLngInterfaceID};
+}
+
+}  // namespace
+
+std::string RegisterQuery(std::int32_t shopId, vb::Date fromDate) {
+  return "select GRHrequestID,GRHrequestno,GRHrequestdate,GRHremarks, "
+         " CASE GRHcancel when 1 then 'Yes' when 0 then 'No' end ,"
+         " CASE GRHtransfinished when 1 then 'Yes' when 0 then 'No' end from " +
+         std::string(kRegisterTable) + " where GRHshopid=" + std::to_string(shopId) + "  and grhrequestdate >'" +
+         vb::FormatDate(fromDate, "yyyymmdd") + "' order by GRHrequestID";
+}
+
+void RegisterFill::FillRows(const std::string& query) {
+  flexMaster_.Clear();
+  flexMaster_.SetRows(2);
+  const LongestTexts longest = ReadQuery(session_, query, [this](ado::Recordset& rows) { return AppendRows(rows, flexMaster_); });
+  long column = 0;
+  for (const std::size_t characters : longest.Characters()) WidenColumn(column++, characters);
+}
+
+void RegisterFill::WidenColumn(long column, std::size_t characters) {
   // One long text may fill half of the list; the tool tip shows the rest.
-  const int widest = flexMaster.Place().width / 2;
+  const int widest = flexMaster_.Place().width / 2;
   const int needed = std::min(static_cast<int>(characters) * kTwipsPerCharacter + kCellMargin, widest);
-  if (needed > flexMaster.ColWidth(column)) flexMaster.SetColWidth(column, needed);
+  if (needed > flexMaster_.ColWidth(column)) flexMaster_.SetColWidth(column, needed);
 }
 
-void frmMaster::KeepColumnsInSight() {
+void RegisterFill::NarrowWidestColumn() {
   long widest = 0;
   int together = 0;
-  for (long column = 0; column < flexMaster.Cols(); ++column) {
-    together += flexMaster.ColWidth(column);
-    if (flexMaster.ColWidth(column) > flexMaster.ColWidth(widest)) widest = column;
+  for (long column = 0; column < flexMaster_.Cols(); ++column) {
+    together += flexMaster_.ColWidth(column);
+    if (flexMaster_.ColWidth(column) > flexMaster_.ColWidth(widest)) widest = column;
   }
-  const int room = flexMaster.Place().width - kScrollBar;
+  const int room = flexMaster_.Place().width - kScrollBar;
   if (together <= room) return;
-  flexMaster.SetColWidth(widest, std::max(flexMaster.ColWidth(widest) - (together - room), room / 4));
+  flexMaster_.SetColWidth(widest, std::max(flexMaster_.ColWidth(widest) - (together - room), room / 4));
 }
 
-void frmMaster::SetHeadings(std::string_view table) {
-  cboColNames.Clear();
-  cboSearch.Clear();
-  ado::Recordset headings = ado::Recordset::Create(Session().services.factory);
-  headings.Open(HeadingQuery(table), Session().gAdoCon);
-  // The catalogue may know more columns than the register shows.
-  for (long column = 0; column < flexMaster.Cols() && !headings.Eof(); ++column, headings.MoveNext()) {
-    AddHeading(column, headings.Field("columnheader").TextOrEmpty());
-  }
-  headings.Close();
-  KeepColumnsInSight();
-  const GridOwner owner = SettingsOwner();
-  GridSettings(Session().services.factory).fnGridSettings(owner, flexMaster);
+void RegisterFill::SetHeadings(std::string_view table) {
+  cboColNames_.Clear();
+  cboSearch_.Clear();
+  ReadQuery(session_, HeadingQuery(table), [this](ado::Recordset& headings) {
+    // The catalogue may know more columns than the register shows.
+    for (long column = 0; column < flexMaster_.Cols() && !headings.Eof(); ++column, headings.MoveNext()) {
+      AddHeading(column, headings.Field("columnheader").TextOrEmpty());
+    }
+  });
+  NarrowWidestColumn();
+  const GridOwner owner = OwnerOf(session_);
+  GridSettings(session_.services.factory).fnGridSettings(owner, flexMaster_);
 }
 
-void frmMaster::AddHeading(long column, const std::string& heading) {
-  flexMaster.SetTextMatrix(0, column, heading);
+void RegisterFill::StoreColumnWidths() {
+  const GridOwner owner = OwnerOf(session_);
+  GridSettings(session_.services.factory).fnSaveGridSettings(owner, flexMaster_);
+}
+
+void RegisterFill::AddHeading(long column, const std::string& heading) {
+  flexMaster_.SetTextMatrix(0, column, heading);
   WidenColumn(column, vb::Len(heading));
   if (heading.empty()) return;
-  cboColNames.AddItem(heading, static_cast<std::int32_t>(column));
-  cboSearch.AddItem(heading, static_cast<std::int32_t>(column));
-}
-
-void frmMaster::MarkCancelledRequests() {
-  for (long row = 1; row < flexMaster.Rows(); ++row) {
-    if (flexMaster.TextMatrix(row, kRegisterCancelled) == kCancelled) flexMaster.SetRowForeColor(row, controls::kRed);
-  }
+  cboColNames_.AddItem(heading, static_cast<std::int32_t>(column));
+  cboSearch_.AddItem(heading, static_cast<std::int32_t>(column));
 }
 
 }  // namespace goods

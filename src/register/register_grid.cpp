@@ -1,98 +1,77 @@
+#include "src/register/register_grid.h"
+
 #include "base/vb/number.h"
-#include "src/register/frm_master.h"
+#include "base/vb/text.h"
+#include "src/lists/register_view.h"
 
 namespace goods {
 
-bool frmMaster::IsOnRequest() const {
-  return flexMaster.Row() >= 1 && !CurrentCell(kRegisterId).empty();
+bool RegisterGrid::IsOnRequest() const {
+  return flexMaster_.Row() >= 1 && !CurrentCell(kRegisterId).empty();
 }
 
-std::string frmMaster::CurrentCell(long column) const {
-  const long row = flexMaster.Row();
-  const bool inside = row >= 0 && row < flexMaster.Rows() && column < flexMaster.Cols();
-  return inside ? flexMaster.TextMatrix(row, column) : std::string();
+std::string RegisterGrid::CurrentCell(long column) const {
+  const long row = flexMaster_.Row();
+  const bool inside = row >= 0 && row < flexMaster_.Rows() && column < flexMaster_.Cols();
+  return inside ? flexMaster_.TextMatrix(row, column) : std::string();
 }
 
-std::int32_t frmMaster::CurrentRequestId() const {
+std::int32_t RegisterGrid::CurrentRequestId() const {
   return vb::CLng(vb::Val(CurrentCell(kRegisterId)));
 }
 
-void frmMaster::SelectWholeRow(long row) {
-  flexMaster.SetRow(row);
-  flexMaster.SetCol(0);
-  flexMaster.SetColSel(flexMaster.Cols() - 1);
+void RegisterGrid::SelectWholeRow(long row) {
+  flexMaster_.SetRow(row);
+  flexMaster_.SetCol(0);
+  flexMaster_.SetColSel(flexMaster_.Cols() - 1);
 }
 
-void frmMaster::Form_Activate() {
-  if (CurrentCell(kRegisterId).empty()) {
-    CmdEdit.SetEnabled(false);
-    CmdDelete.SetEnabled(false);
-    Cmdprev.SetEnabled(false);
-    return;
-  }
-  // Edit is left as it was on a cancelled request, so that it can be looked at; Delete is not.
-  const bool live = CurrentCell(kRegisterCancelled) == "No";
-  if (live) CmdEdit.SetEnabled(HasRight("E"));
-  CmdDelete.SetEnabled(live && HasRight("D"));
-  Cmdprev.SetEnabled(HasRight("P"));
-}
-
-void frmMaster::flexMaster_RowColChange() {
-  if (flexMaster.Row() == evaluatedRow_) return;  // a change of column
-  evaluatedRow_ = flexMaster.Row();
-  // As on activation: Edit is left as it was on a cancelled request.
-  const bool cancelled = CurrentCell(kRegisterCancelled) == "Yes";
-  if (!cancelled) CmdEdit.SetEnabled(HasRight("E"));
-  CmdDelete.SetEnabled(!cancelled && HasRight("D"));
-  Cmdprev.SetEnabled(HasRight("P"));
-  ApplySelectionColor();
-}
-
-void frmMaster::flexMaster_SelChange() {
-  ApplySelectionColor();
-}
-
-// The selection's colour follows the row, so that a red one never stays behind on a request that is not cancelled.
-void frmMaster::ApplySelectionColor() {
+void RegisterGrid::ApplySelectionColor() {
   using namespace controls;
-  if (flexMaster.Row() != flexMaster.RowSel()) {
-    flexMaster.SetBackColorSel(kCyan);
-    flexMaster.SetForeColorSel(kWindowText);
+  if (flexMaster_.Row() != flexMaster_.RowSel()) {
+    flexMaster_.SetBackColorSel(kCyan);
+    flexMaster_.SetForeColorSel(kWindowText);
     return;
   }
-  const Color own = flexMaster.CellForeColor(flexMaster.Row(), flexMaster.Col());
+  const Color own = flexMaster_.CellForeColor(flexMaster_.Row(), flexMaster_.Col());
   if (own != kDefaultColor && own != kWindowText) {
-    flexMaster.SetBackColorSel(own);
-    flexMaster.SetForeColorSel(kHighlightText);
+    flexMaster_.SetBackColorSel(own);
+    flexMaster_.SetForeColorSel(kHighlightText);
     return;
   }
   // This colour is the one selected text usually has; text in the highlight's own colour keeps the selection readable on it.
-  flexMaster.SetBackColorSel(kHighlightText);
-  flexMaster.SetForeColorSel(kHighlight);
+  flexMaster_.SetBackColorSel(kHighlightText);
+  flexMaster_.SetForeColorSel(kHighlight);
 }
 
-void frmMaster::flexMaster_DblClick() {
-  if (CmdEdit.Enabled()) CmdEdit.Click.Fire();
+void RegisterGrid::MarkCancelledRequests() {
+  for (long row = 1; row < flexMaster_.Rows(); ++row) {
+    if (flexMaster_.TextMatrix(row, kRegisterCancelled) == "Yes") flexMaster_.SetRowForeColor(row, controls::kRed);
+  }
 }
 
-void frmMaster::flexMaster_KeyDown(int& keyCode, int) {
-  if (keyCode == controls::kKeyDelete && CmdDelete.Enabled()) CmdDelete.Click.Fire();
-}
+void RegisterGrid::Sort(long column, bool ascending) {
+  using controls::GridSort;
+  const bool numeric = vb::IsNumeric(CurrentCell(column));
+  const GridSort upward = numeric ? GridSort::GenericAscending : GridSort::TextAscending;
+  const GridSort downward = numeric ? GridSort::GenericDescending : GridSort::TextDescending;
+  const std::string current = CurrentCell(kRegisterId);
+  const long row = flexMaster_.Row();
 
-void frmMaster::flexMaster_KeyPress(int& character) {
-  if (character == controls::kCharReturn && CmdEdit.Enabled()) CmdEdit.Click.Fire();
-  if (character == controls::kCharLineFeed && cmdnew.Enabled()) cmdnew.Click.Fire();
-}
+  flexMaster_.SetCol(column);
+  flexMaster_.SetRowSel(row);  // a selection of one row sorts all of them
+  flexMaster_.SetColSel(column);
+  flexMaster_.Sort(ascending ? upward : downward);
+  flexMaster_.ShowSortedBy(-1, true);  // the list below says what it is sorted on
 
-void frmMaster::flexMaster_MouseMove() {
-  const long row = flexMaster.MouseRow();
-  const long column = flexMaster.MouseCol();
-  const bool onCell = row >= 0 && row < flexMaster.Rows() && column >= 0 && column < flexMaster.Cols();
-  flexMaster.SetToolTipText(onCell ? flexMaster.TextMatrix(row, column) : std::string());
-}
-
-void frmMaster::flexMaster_MouseUp(controls::MouseButton button, int) {
-  if (button == controls::kRightButton) PopupMenu(mnupopup);
+  long moved = row;
+  for (long line = 1; line < flexMaster_.Rows(); ++line) {
+    if (flexMaster_.TextMatrix(line, kRegisterId) != current) continue;
+    moved = line;
+    break;
+  }
+  SelectWholeRow(moved);
+  ApplySelectionColor();
 }
 
 }  // namespace goods

@@ -1,5 +1,9 @@
+#include "src/register/user_rights.h"
+
+#include <string>
+
 #include "base/vb/text.h"
-#include "src/register/frm_master.h"
+#include "src/records/query_rows.h"
 
 namespace goods {
 namespace {
@@ -10,40 +14,21 @@ std::string RightsQuery(const basGoodsRequest& session) {
          " and companyid = " + std::to_string(session.gIntCompanyID);
 }
 
-void TrimAndCapitalise(std::string& text) {
-  text = vb::UCase(vb::Trim(text));
-}
-
 }  // namespace
 
-// Without a trap of its own: an error here ends the load.
-void frmMaster::USerRights() {
-  ado::Recordset rows = ado::Recordset::Create(Session().services.factory);
-  rows.Open(RightsQuery(Session()), Session().gAdoCon, ado::kKeyset, ado::kOptimistic);
-  const bool hasRights = rows.RecordCount() > 0;
-  if (hasRights) Session().gStrUserRights = rows.Field("FunctionRights").TextOrEmpty();  // null rights are empty rights
-  rows.Close();
-  if (!hasRights) return EnableCommands(true);  // nothing restricts this user until the first judgement of a request
-  cmdnew.SetEnabled(HasRight("N"));
-  CmdEdit.SetEnabled(HasRight("E"));
-  CmdDelete.SetEnabled(HasRight("D"));
-  Cmdprev.SetEnabled(HasRight("P"));
+bool ReadUserRights(basGoodsRequest& session) {
+  const auto read = [&](ado::Recordset& rows) {
+    const bool found = rows.RecordCount() > 0;
+    if (found) session.gStrUserRights = rows.Field("FunctionRights").TextOrEmpty();  // null rights are empty rights
+    return found;
+  };
+  return ReadQuery(session, RightsQuery(session), read, ado::kKeyset, ado::kOptimistic);
 }
 
-void frmMaster::EnableCommands(bool enabled) {
-  for (controls::CommandButton* command : {&cmdnew, &CmdEdit, &CmdDelete, &Cmdprev}) command->SetEnabled(enabled);
-}
-
-bool frmMaster::fnUSerRights(std::string& letter) {
-  bool granted = false;
-  Trap("fnUSerRights", [&] {
-    std::string& rights = Session().gStrUserRights;
-    TrimAndCapitalise(letter);
-    TrimAndCapitalise(rights);
-    // "ADMIN" is a word, not five letters, and the word grants nothing here.
-    granted = rights != "ADMIN" && vb::InStrNoCase(rights, letter) > 0;
-  });
-  return granted;
+bool HasUserRight(basGoodsRequest& session, std::string_view letter) {
+  std::string& rights = session.gStrUserRights;
+  rights = vb::UCase(vb::Trim(rights));
+  return rights != "ADMIN" && vb::InStrNoCase(rights, letter) > 0;
 }
 
 }  // namespace goods
