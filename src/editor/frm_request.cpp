@@ -38,7 +38,8 @@ void frmRequest::WireEvents() {
   On(mnuAdd.Click, "mnuAdd_Click", &frmRequest::mnuAdd_Click);
   On(mnuEdit.Click, "mnuEdit_Click", &frmRequest::mnuEdit_Click);
   On(mnudel.Click, "mnudel_Click", &frmRequest::mnudel_Click);
-  for (controls::TextBox* box : {&txtRequestNo, &txtrequestDate, &txtRemarks}) {
+  On(txtRequestNo.KeyPress, "txtRequestNo_KeyPress", &frmRequest::txtRequestNo_KeyPress);
+  for (controls::TextBox* box : {&txtrequestDate, &txtRemarks}) {
     On(box->KeyPress, box->Name() + "_KeyPress", [this](int& character) { SendTabOnEnter(*this, character); });
   }
 }
@@ -47,6 +48,7 @@ void frmRequest::Form_Load() {
   keepOpen_ = true;
   firstActivation_ = true;
   const bool isNew = Session().gStrEntryMode == "N";
+  if (isNew) optgoodreq.SetValue(true);  // before anything can fail: without a type, it would be saved as a purchase order
   try {
     objCommonDB_ = CommonDb(Session().services.factory, Session().gAdoCon);
     Session().gObjFormColor.Applyformcolor(*this);
@@ -71,7 +73,6 @@ void frmRequest::LoadNewRequest() {
   if (Tell("Do you want to add stock out items?", controls::kYesNo + controls::kInformation) == controls::Answer::Yes) {
     Trap("ProposeStockOutItems", [this] { ProposeStockOutItems(Session(), objCommonDB_, lines_); });
   }
-  optgoodreq.SetValue(true);
 }
 
 void frmRequest::LoadExistingRequest() {
@@ -158,6 +159,11 @@ void frmRequest::GoTo(SaveField field) {
     case SaveField::Ok:
       return cmdOK.SetFocus();
   }
+}
+
+void frmRequest::txtRequestNo_KeyPress(int& character) {
+  SendTabOnEnter(*this, character);
+  if (character == controls::kCharApostrophe) character = 0;
 }
 
 void frmRequest::ShowOwnLinks(std::int32_t requestId) {

@@ -87,6 +87,7 @@ class frmRequest : public ModuleForm, private SavePort {
   void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
   bool IsChanged() const;
 
+  void txtRequestNo_KeyPress(int& character);
   void cmdOK_Click();
   void chkcutomerrequest_Click();
   void lvwCustomerReq_ItemCheck(controls::ListItem& document);

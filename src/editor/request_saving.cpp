@@ -46,7 +46,8 @@ bool RequestSaving::Save() {
   const controls::Hourglass hourglass(editor_.Window());
   ado::Transaction transaction = inUsersWords([&] { return ado::Transaction(session_.gAdoCon); });
   if (!inUsersWords([&] { return Write(transaction, step); })) return false;
-  UpdateEditedRow(session_, view_, " GRHrequestID=" + std::to_string(session_.gLngRequestID), session_.gLngRequestID);
+  const std::string done = savedAs_.empty() ? savedAs_ : "The request is saved under the number " + savedAs_ + ".";
+  UpdateEditedRow(session_, view_, " GRHrequestID=" + std::to_string(session_.gLngRequestID), session_.gLngRequestID, done);
   return true;
 }
 
@@ -114,6 +115,7 @@ void RequestSaving::WriteNewRequest() {
                                                  editor_.Window());
   store_.AddLines(request_);
   store_.SetOrdeRaisedStatus(1, request_.id);
+  savedAs_ = request_.number;
 }
 
 void RequestSaving::UpdateRequest() {
@@ -121,6 +123,7 @@ void RequestSaving::UpdateRequest() {
   store_.UpdateHeader(request_);
   store_.ReplaceLines(request_);
   store_.SetOrdeRaisedStatus(1, request_.id);
+  savedAs_ = request_.number;
 }
 
 void RequestSaving::WriteCustomerLinks() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "src/editor/save_errors.h"
@@ -41,6 +42,7 @@ class RequestSaving {
   SavePort& editor_;
   RequestStore store_;
   RegisterView& view_;
+  std::string savedAs_;  ///< the request's number once its rows are written
 };
 
 }  // namespace goods

@@ -56,6 +56,7 @@ void ProposeStockOutItems(basGoodsRequest& session, CommonDb& db, RequestLines l
 
   const NoTimeout asLongAsItTakes(session.gAdoCon);
   const late::ArrayPtr rows = ReadRows(session, StockOutItemsQuery(session.gStrStockView, session.gIntShopID));
+  UnitCodes unitCodes(session);
   for (std::size_t row = 0; row < rows->columns; ++row) {
     const std::int32_t itemId = rows->At(kItemId, row).ToInt32();
     lines.Append({.itemCode = rows->At(kItemCode, row).TextOrEmpty(),
@@ -63,7 +64,7 @@ void ProposeStockOutItems(basGoodsRequest& session, CommonDb& db, RequestLines l
                   .quantity = rows->At(kReorderQuantity, row).TextOrEmpty(),
                   .itemId = itemId,
                   .remarks = "",
-                  .unit = GetItemUnitCode(session, itemId),
+                  .unit = unitCodes.Of(itemId),
                   .partCode = ""});
   }
 }

@@ -59,8 +59,9 @@ void OverwriteEditedRequest(controls::FlexGrid& grid, std::int32_t requestId, co
 
 }  // namespace
 
-void UpdateEditedRow(basGoodsRequest& session, RegisterView& view, std::string_view condition, std::int32_t requestId) {
-  Trapped(session, kModuleName, "UpdateEditedRow", [&] {
+void UpdateEditedRow(basGoodsRequest& session, RegisterView& view, std::string_view condition, std::int32_t requestId,
+                     std::string_view done) {
+  try {
     std::vector<std::string> cells = ReadRow(session, RowQuery(view.gridQuery, condition));
     if (cells.empty()) return;
     if (session.gStrEntryMode == "E") {
@@ -68,7 +69,10 @@ void UpdateEditedRow(basGoodsRequest& session, RegisterView& view, std::string_v
     } else {
       AddNewRequest(view.flexMaster, std::move(cells));
     }
-  });
+  } catch (const vb::RunTimeError& error) {
+    const std::string before = done.empty() ? "" : std::string(done) + " Its row in the list could not be refreshed:\r\n\r\n";
+    ReportError(session, kModuleName, "UpdateEditedRow", {error.Number(), before + error.Description(), error.Source()});
+  }
 }
 
 }  // namespace goods

@@ -21,13 +21,19 @@ std::string SellingPriceQuery(std::int32_t itemId, std::string_view shopClause) 
 }  // namespace
 
 std::string GetItemUnitCode(basGoodsRequest& session, std::int32_t itemId) {
-  std::string unitCode;
-  Trapped(session, kModuleName, "GetItemUnitCode", [&] {
-    CommonDb db(session.services.factory, session.gAdoCon);
+  return UnitCodes(session).Of(itemId);
+}
+
+std::string UnitCodes::Of(std::int32_t itemId) {
+  try {
+    CommonDb db(session_.services.factory, session_.gAdoCon);
     db.strTableName("aItem i, aUnit u");
-    unitCode = db.fnReturnField("u.UnitCode", "i.UnitsId = u.UnitId AND i.ItemId = " + std::to_string(itemId)).TextOrEmpty();
-  });
-  return unitCode;
+    return db.fnReturnField("u.UnitCode", "i.UnitsId = u.UnitId AND i.ItemId = " + std::to_string(itemId)).TextOrEmpty();
+  } catch (const vb::RunTimeError& error) {
+    if (!reported_) ReportError(session_, kModuleName, "GetItemUnitCode", error);
+    reported_ = true;
+    return {};
+  }
 }
 
 double GetItemSellingPrice(basGoodsRequest& session, std::int32_t itemId, std::int16_t shopId) {

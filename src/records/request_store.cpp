@@ -209,6 +209,7 @@ std::vector<RequestLine> RequestStore::LinesOf(std::int32_t requestId) {
   const bool hasRowIdentifier = ExecuteForValue(session_, RowIdentifierQuery()).ToInt32() > 0;
   const late::ArrayPtr rows =
       ReadRows(session_, LinesToShowQuery(requestId, session_.gIntShopID, hasRowIdentifier ? " order by a.rowguid" : " "));
+  UnitCodes unitCodes(session_);
   std::vector<RequestLine> lines;
   for (std::size_t row = 0; row < rows->columns; ++row) {
     const std::int32_t itemId = rows->At(kItemId, row).ToInt32();
@@ -217,7 +218,7 @@ std::vector<RequestLine> RequestStore::LinesOf(std::int32_t requestId) {
                      .quantity = rows->At(kQuantity, row).TextOrEmpty(),
                      .itemId = itemId,
                      .remarks = rows->At(kComments, row).TextOrEmpty(),
-                     .unit = GetItemUnitCode(session_, itemId),
+                     .unit = unitCodes.Of(itemId),
                      .partCode = rows->At(kPartCode, row).TextOrEmpty()});
   }
   return lines;

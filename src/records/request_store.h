@@ -25,7 +25,7 @@ class RequestStore {
   /// The shop's next request number: the prefix of the current financial year and one more than the greatest number after it.
   /// Error 6 when the counter would pass 32,767.
   std::string fnGenerateRequestNo();
-  /// Whether it is a request number of the shop already.
+  /// Whether it is a request number of the shop already. Error 5 when it contains an apostrophe.
   bool fnRequestNoExists(const std::string& requestNo);
 
   // A request's rows.
@@ -41,7 +41,7 @@ class RequestStore {
   void SetOrdeRaisedStatus(std::int16_t flag, std::int32_t requestId);
 
   /// The stored lines with a quantity above 0, in the order in which they were entered where the database can tell. A unit that
-  /// cannot be read is reported and left empty.
+  /// cannot be read is left empty, and the first such error reported.
   std::vector<RequestLine> LinesOf(std::int32_t requestId);
   /// Every stored link: invoices that the shop still has, then the others. Where the shop no longer has the document, the id
   /// takes the place of its number.

@@ -215,8 +215,10 @@ void frmMaster::CmdDelete_Click() {
   if (vb::Trim(reason).empty()) return;  // the dialog was torn down, not answered
 
   MarkRequestCancelled(userName, reason);
-  session.gObjUserAuditing.SaveUserAuditingInfo(requests_.CurrentCell(kRegisterId), requestNo, "D");
-  ShowCancelled();
+  // The request is cancelled: the list says so, whatever becomes of the record.
+  Trap("CmdDelete_Click",
+       [&] { session.gObjUserAuditing.SaveUserAuditingInfo(requests_.CurrentCell(kRegisterId), requestNo, "D"); });
+  ShowCancelled(requestNo);
 }
 
 bool frmMaster::RefusesToDelete() {
@@ -250,10 +252,11 @@ void frmMaster::MarkRequestCancelled(std::string_view userName, std::string_view
   Trap("RemoveRequestRaisedFromShopItemDetail", [&] { RequestStore(Session(), objCommonDB_).RemoveRequestRaised(requestId); });
 }
 
-void frmMaster::ShowCancelled() {
+void frmMaster::ShowCancelled(const std::string& requestNo) {
   basGoodsRequest& session = Session();
   session.gStrEntryMode = "E";
-  UpdateEditedRow(session, view_, " GRHrequestID=" + std::to_string(session.gLngRequestID), session.gLngRequestID);
+  UpdateEditedRow(session, view_, " GRHrequestID=" + std::to_string(session.gLngRequestID), session.gLngRequestID,
+                  "The request " + requestNo + " is cancelled.");
   requests_.MarkCancelledRequests();
   requests_.SelectWholeRow(flexMaster.Row());
   requests_.ApplySelectionColor();

@@ -91,7 +91,7 @@ class frmMaster : public ModuleForm {
   /// What the user types as reason; empty when there is none.
   std::string AskReason();
   void MarkRequestCancelled(std::string_view userName, std::string_view reason);
-  void ShowCancelled();
+  void ShowCancelled(const std::string& requestNo);
 
   // Grid keys and mouse.
   void flexMaster_DblClick();

@@ -39,15 +39,6 @@ class Saving : public EditorShop {
     }
     return sent;
   }
-  /// The error that the server has for this statement is reported.
-  void ExpectServersWords(const std::string& statement) {
-    try {
-      shop.Rows(statement);
-      ADD_FAILURE() << "the server takes " << statement;
-    } catch (const vb::RunTimeError& error) {
-      ExpectError(error.Description(), "cmdOK_Click", error.Number());
-    }
-  }
   void CloseWithoutSaving() {
     desktop.ExpectMessage("Save Changes?", Answer::No);
     Click(editor->cmdCancel);
@@ -202,20 +193,42 @@ TEST_F(Saving, ANumberThatExistsAlreadyWritesTheLinksAndClosesAllTheSame) {
   EXPECT_EQ(1u, log.Starting("commit").size());
 }
 
-TEST_F(Saving, AnApostropheInTheNumberFailsTheSaveAndNothingElse) {
+TEST_F(Saving, AnApostropheInTheNumberReachesNoStatement) {
   const std::vector<std::string> before = Everything();
   New([&] {
     AddLine(1, "1.000");
-    Enter(editor->txtRequestNo, "O'Dowd");
-    log.Clear();
-    ExpectServersWords("select GRHrequestID from mosGoodsRequestHeader where grhrequestno='O'Dowd' and grhshopid=1");
-    Click(editor->cmdOK);
-    desktop.Verify();
-    EXPECT_EQ("O'Dowd", editor->txtRequestNo.Text());
-    EXPECT_EQ(1u, log.Starting("rollback").size());
-    EXPECT_EQ(before, Everything());
+    Enter(editor->txtRequestNo, "O'D");
+    editor->txtRequestNo.Paste("';delete mosGoodsRequestDetail--");
+    EXPECT_EQ("OD;delete mosGoodsRequestDetail--", editor->txtRequestNo.Text());
+    for (const char* number : {"O'Dowd", "' or '1'='1", "';delete mosGoodsRequestDetail--"}) {
+      editor->txtRequestNo.SetText(number);
+      ExpectError("A request number cannot contain an apostrophe.", "cmdOK_Click", vb::kInvalidCall);
+      Click(editor->cmdOK);
+      desktop.Verify();
+      EXPECT_EQ(number, editor->txtRequestNo.Text());
+      EXPECT_EQ(before, Everything());
+    }
+    EXPECT_TRUE(log.Sent("select GRHrequestID from mosGoodsRequestHeader where grhrequestno='O''Dowd' and grhshopid=1"));
     CloseWithoutSaving();
   });
+}
+
+TEST_F(Saving, ARowThatCannotBeRefreshedDoesNotLookLikeAFailedSave) {
+  const std::string refused = "select GRHrequestID,GRHrequestno,GRHrequestdate";
+  const auto expectSavedAs = [&](const std::string& number) {
+    log.Refuse(refused, 0);
+    desktop.ExpectMessage(
+        "The request is saved under the number " + number +
+        ". Its row in the list could not be refreshed:\r\n\r\nRefused by the test\n(basGoodsPurchase UpdateEditedRow, "
+        "-2147217900)");
+    Click(editor->cmdOK);
+    EXPECT_FALSE(editor->IsLoaded());
+  };
+  New([&] {
+    AddLine(1, "1.000");
+    expectSavedAs("GR/8");
+  });
+  Edit(7, [&] { expectSavedAs("GR/7"); });
 }
 
 /// A save that fails at any of its steps leaves the database as it was and the editor with all that was typed; the next OK works.

@@ -81,28 +81,31 @@ class SilentErrorLog : public late::TableObject<SilentErrorLog> {
   std::function<void()> note_;
 };
 
-TEST_F(EditorWindow, AProposedLineWhoseUnitCannotBeReadIsALineAllTheSame) {
-  New([] {}, Answer::Yes);
-  const auto isUnit = [](const std::string& line) { return line.starts_with("select u.UnitCode"); };
-  const auto firstUnit = std::find_if(log.lines.begin(), log.lines.end(), isUnit) - log.lines.begin() + 1;
-
-  std::vector<int> timeouts;  // at the moment of the error
+TEST_F(EditorWindow, UnitsThatCannotBeReadAreToldOnceAndTheLinesAreThereAllTheSame) {
+  std::vector<int> timeouts;  // at the moment of each report
   shop.registry.Unregister("ErrLog.ErrorDetails");
   shop.registry.Register("ErrLog.ErrorDetails", [&] {
     return std::make_shared<SilentErrorLog>([&] { timeouts.push_back(session.gAdoCon.CommandTimeout()); });
   });
   session.gAdoCon.SetCommandTimeout(45);
-  log.Clear();
-  log.FailAt(static_cast<int>(firstUnit));
-  New(
-      [&] {
-        EXPECT_EQ((Texts{"1|CUP|24.000|1", "2|TEA|0.000|3"}), Lines());
-        EXPECT_EQ("", editor->lvwrequest.Item(1).SubItem(goods::kLineUnit));
-        EXPECT_EQ("kg", editor->lvwrequest.Item(2).SubItem(goods::kLineUnit));
-      },
-      Answer::Yes);
+  log.Refuse("select u.UnitCode", 0);
+  New([&] { EXPECT_EQ((Texts{"1|CUP|24.000|1", "2|TEA|0.000|3"}), Lines()); }, Answer::Yes);
   EXPECT_EQ(std::vector<int>{0}, timeouts) << "a proposal may take as long as it takes";
   EXPECT_EQ(45, session.gAdoCon.CommandTimeout()) << "the host's own time-out again";
+  Edit(7, [&] {
+    EXPECT_EQ((Texts{"1|POT|2.500|2", "2|CUP|4.000|1"}), Lines());
+    EXPECT_TRUE(editor->cmdOK.Enabled()) << "a save needs no units";
+  });
+  EXPECT_EQ(2u, timeouts.size());
+}
+
+TEST_F(EditorWindow, ANewRequestWhoseOpeningFailsIsToTheGodownAllTheSame) {
+  session.gStrEntryMode = "N";
+  log.Refuse("select max(grhrequestid)", 0);
+  ExpectError("Refused by the test", "Form_Load", -2147217900);
+  editor->Load();
+  desktop.Verify();
+  EXPECT_TRUE(editor->optgoodreq.Value());
 }
 
 TEST_F(EditorWindow, AnExistingRequestShowsItsHeaderAndItsLinesWithAQuantity) {

@@ -166,6 +166,23 @@ TEST_F(RequestCancellation, AFailureBetweenHeaderAndMarksLeavesTheRequestCancell
   EXPECT_TRUE(errors->lines[0].starts_with("frmMaster |RemoveRequestRaisedFromShopItemDetail|")) << errors->lines[0];
 }
 
+TEST_F(RequestCancellation, ARecordThatCannotBeWrittenOrARowThatCannotBeReadLeavesItCancelled) {
+  Open([&] {
+    GoTo(18);
+    shop.log.Refuse("insert into smpUserAudit", 0);
+    CancelWith("GR24/10", "no longer wanted");
+    EXPECT_EQ("Yes", Grid().TextMatrix(RowOf(18), goods::kRegisterCancelled));
+    GoTo(19);
+    shop.log.Refuse("select GRHrequestID,", 0);
+    CancelWith("GR24/11", "ordered twice");
+  });
+  EXPECT_EQ("1|Nora Halvard:no longer wanted", Header(18));
+  EXPECT_EQ("1|Nora Halvard:ordered twice", Header(19));
+  ASSERT_EQ(2u, errors->lines.size());
+  EXPECT_TRUE(errors->lines[0].starts_with("frmMaster |CmdDelete_Click|")) << errors->lines[0];
+  EXPECT_TRUE(errors->lines[1].starts_with("basGoodsPurchase|UpdateEditedRow|")) << errors->lines[1];
+}
+
 class ReasonDialog : public RequestCancellation {
  protected:
   /// Opens the dialog over request 20 and lets the user work in it.
