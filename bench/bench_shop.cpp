@@ -44,6 +44,17 @@ std::unique_ptr<workstation::OutputFile> EmptyWorkstation::OpenForOutput(std::st
 std::unique_ptr<workstation::OutputFile> EmptyWorkstation::OpenForAppend(std::string_view) {
   vb::Raise(vb::kPermissionDenied);
 }
+std::unique_ptr<workstation::StateFile> EmptyWorkstation::TakeStateFile(std::string_view) {
+  /// Takes what it is given and keeps nothing.
+  class NoFile : public workstation::StateFile {
+   public:
+    std::optional<std::string> Read() override { return std::nullopt; }
+    void Replace(std::string_view) override {}
+    void Remove() override {}
+    std::string SetAside() override { return {}; }
+  };
+  return std::make_unique<NoFile>();
+}
 
 BenchShop::BenchShop(const std::string& file, const suite::Scale& scale)
     : path(file), database(Make(file, scale)), module({desktop, workstation, registry}), session(module.Session()) {

@@ -36,6 +36,8 @@ class EmptyWorkstation : public workstation::Workstation {
   std::unique_ptr<workstation::OutputFile> OpenForOutput(std::string_view path) override;
   std::unique_ptr<workstation::OutputFile> OpenForAppend(std::string_view path) override;
   void StartProgram(std::string_view, int) override {}
+  bool StateFileExists(std::string_view) override { return false; }
+  std::unique_ptr<workstation::StateFile> TakeStateFile(std::string_view name) override;
 };
 
 /// The sample shop, scaled, in a file of its own, with the component's session on it.

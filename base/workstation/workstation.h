@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/vb/date.h"
+#include "base/workstation/state_file.h"
 
 namespace workstation {
 
@@ -48,6 +49,12 @@ class Workstation {
   virtual std::unique_ptr<OutputFile> OpenForAppend(std::string_view path) = 0;
   /// Starts a program and does not wait. Style: 1 normal with focus, 3 maximised with focus. Error 53 when it cannot be found.
   virtual void StartProgram(std::string_view commandLine, int style) = 0;
+
+  /// Whether the user's state folder has a file of that name, taken by a process or not. Makes and raises nothing.
+  virtual bool StateFileExists(std::string_view name) = 0;
+  /// Takes the state file of that name, which need not exist yet; null when another process has it. A file error when the folder
+  /// cannot be made or written.
+  virtual std::unique_ptr<StateFile> TakeStateFile(std::string_view name) = 0;
 };
 
 }  // namespace workstation

@@ -12,6 +12,7 @@
 #include "base/vb/text.h"
 #include "base/workstation/printer_port.h"
 #include "platform/console/escape.h"
+#include "platform/console/text_state_file.h"
 
 namespace console {
 namespace {
@@ -148,6 +149,14 @@ std::unique_ptr<workstation::OutputFile> TextWorkstation::OpenForAppend(std::str
 
 void TextWorkstation::StartProgram(std::string_view commandLine, int style) {
   output_.Line("run", Quote(commandLine) + " style=" + std::to_string(style));
+}
+
+bool TextWorkstation::StateFileExists(std::string_view name) {
+  return console::StateFileExists(settings_.stateFolder, name);
+}
+
+std::unique_ptr<workstation::StateFile> TextWorkstation::TakeStateFile(std::string_view name) {
+  return console::TakeStateFile(settings_.stateFolder, name);
 }
 
 std::string TextWorkstation::ReadApplicationFile(std::string_view name) const {

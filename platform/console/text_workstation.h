@@ -17,6 +17,7 @@ class TextWorkstation : public workstation::Workstation {
     std::string applicationFolder;                 ///< as the component is told, and as this machine knows it
     std::string windowsDirectory = "C:\\WINDOWS";  ///< the editor edit.com counts as present in it
     std::optional<vb::Date> now;                   ///< the machine's own clock without it
+    std::filesystem::path stateFolder;             ///< of this machine; without it no state file can be taken
   };
   TextWorkstation(Settings settings, Output& output) : settings_(std::move(settings)), output_(output) {}
 
@@ -29,6 +30,8 @@ class TextWorkstation : public workstation::Workstation {
   std::unique_ptr<workstation::OutputFile> OpenForOutput(std::string_view path) override;
   std::unique_ptr<workstation::OutputFile> OpenForAppend(std::string_view path) override;
   void StartProgram(std::string_view commandLine, int style) override;
+  bool StateFileExists(std::string_view name) override;
+  std::unique_ptr<workstation::StateFile> TakeStateFile(std::string_view name) override;
 
   /// A whole file of the application folder; error 53 when there is none.
   std::string ReadApplicationFile(std::string_view name) const;

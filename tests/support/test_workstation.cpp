@@ -35,7 +35,39 @@ class Writer : public workstation::OutputFile {
   std::string& file_;
 };
 
+class TestStateFile : public workstation::StateFile {
+ public:
+  TestStateFile(TestWorkstation& workstation, std::string name) : workstation_(workstation), name_(std::move(name)) {
+    workstation_.takenStateFiles.insert(name_);
+  }
+  ~TestStateFile() override { workstation_.takenStateFiles.erase(name_); }
+  std::optional<std::string> Read() override {
+    const auto found = workstation_.stateFiles.find(name_);
+    return found == workstation_.stateFiles.end() ? std::nullopt : std::optional(found->second);
+  }
+  void Replace(std::string_view text) override {
+    if (!workstation_.hasStateFolder) vb::Raise(vb::kPathFileAccess);
+    workstation_.stateFiles[name_] = text;
+  }
+  void Remove() override { workstation_.stateFiles.erase(name_); }
+  std::string SetAside() override {
+    auto file = workstation_.stateFiles.extract(name_);
+    file.key() += ".unreadable";
+    return workstation_.stateFiles.insert(std::move(file)).position->first;
+  }
+
+ private:
+  TestWorkstation& workstation_;
+  std::string name_;
+};
+
 }  // namespace
+
+std::unique_ptr<workstation::StateFile> TestWorkstation::TakeStateFile(std::string_view name) {
+  if (!hasStateFolder) vb::Raise(vb::kPathFileAccess);
+  if (takenStateFiles.contains(std::string(name))) return nullptr;
+  return std::make_unique<TestStateFile>(*this, std::string(name));
+}
 
 std::set<std::string> TestWorkstation::ShippedSettings() {
   std::ifstream file(SOURCE_FOLDER "/suite/host/ShopSetting.txt");

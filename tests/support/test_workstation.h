@@ -19,6 +19,9 @@ class TestWorkstation : public workstation::Workstation {
   std::map<std::string, std::string> files;          ///< contents as bytes, by path
   std::set<std::string> refusedPaths;                ///< opening these for output is error 70
   std::vector<std::pair<std::string, int>> started;  ///< command lines with their window styles
+  std::map<std::string, std::string> stateFiles;     ///< contents by name
+  std::set<std::string> takenStateFiles;             ///< by this process or, put there by a test, by another one
+  bool hasStateFolder = true;                        ///< else taking and replacing a state file is error 75
   bool startsPrograms = true;                        ///< else starting one is error 53
 
   /// The keys of the shipped ShopSetting.txt.
@@ -35,6 +38,8 @@ class TestWorkstation : public workstation::Workstation {
   std::unique_ptr<workstation::InputFile> OpenForInput(std::string_view path) override;
   std::unique_ptr<workstation::OutputFile> OpenForOutput(std::string_view path) override;
   std::unique_ptr<workstation::OutputFile> OpenForAppend(std::string_view path) override;
+  bool StateFileExists(std::string_view name) override { return stateFiles.contains(std::string(name)); }
+  std::unique_ptr<workstation::StateFile> TakeStateFile(std::string_view name) override;
   void StartProgram(std::string_view commandLine, int style) override {
     if (!startsPrograms) vb::Raise(vb::kFileNotFound);
     started.emplace_back(commandLine, style);

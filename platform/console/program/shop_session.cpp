@@ -11,6 +11,7 @@
 #include "platform/console/looking_commands.h"
 #include "platform/console/program/database_watch.h"
 #include "platform/console/text_desktop.h"
+#include "platform/console/text_state_file.h"
 #include "platform/console/text_workstation.h"
 #include "platform/console/traced_object.h"
 #include "src/entry/cls_goods_request.h"
@@ -53,7 +54,7 @@ TextWorkstation::Settings WorkstationSettings(const Options& options) {
   std::string folder = options.applicationFolder.empty() ? std::filesystem::current_path().string() : options.applicationFolder;
   while (folder.size() > 1 && (folder.back() == '/' || folder.back() == '\\')) folder.pop_back();
   if (!std::filesystem::is_directory(folder)) throw OptionError("no folder " + folder);
-  return {folder, options.windowsDirectory, options.now};
+  return {folder, options.windowsDirectory, options.now, StateFolder()};
 }
 
 }  // namespace

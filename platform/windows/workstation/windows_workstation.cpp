@@ -2,39 +2,19 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
 
 #include "base/vb/error.h"
 #include "base/vb/file_error.h"
 #include "base/workstation/printer_port.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_gate.h"
+#include "platform/windows/workstation/file_handle.h"
+#include "platform/windows/workstation/windows_state_file.h"
 
 namespace windows {
 namespace {
 
-constexpr DWORD kReadBlock = 64 * 1024;
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
-/// The classic number for what the system says about a file.
-long FileErrorNumber(DWORD error) {
-  switch (error) {
-    case ERROR_FILE_NOT_FOUND:
-      return vb::kFileNotFound;
-    case ERROR_PATH_NOT_FOUND:
-    case ERROR_BAD_NETPATH:
-    case ERROR_INVALID_DRIVE:
-      return vb::kPathNotFound;
-    case ERROR_ACCESS_DENIED:
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION:
-      return vb::kPermissionDenied;
-    case ERROR_INVALID_NAME:
-      return vb::kBadFileName;
-    default:
-      return vb::kPathFileAccess;
-  }
-}
 
 std::wstring FromAnsi(std::string_view bytes) {
   if (bytes.empty()) return {};
@@ -53,40 +33,10 @@ std::string ToAnsi(std::wstring_view text) {
   return bytes;
 }
 
-/// A system file handle that closes itself.
-class FileHandle {
- public:
-  FileHandle(std::string_view path, DWORD access, DWORD disposition) : path_(path) {
-    if (path.empty()) vb::Raise(vb::kBadFileName);
-    handle_ = CreateFileW(Wide(path).c_str(), access, FILE_SHARE_READ, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle_ == INVALID_HANDLE_VALUE) RaiseLastError();
-  }
-  ~FileHandle() { Close(); }
-  FileHandle(const FileHandle&) = delete;
-  FileHandle& operator=(const FileHandle&) = delete;
-  HANDLE Get() const { return handle_; }
-  bool Close() {
-    const bool closed = handle_ == INVALID_HANDLE_VALUE || CloseHandle(handle_) != 0;
-    handle_ = INVALID_HANDLE_VALUE;
-    return closed;
-  }
-  /// What the system said last about this file.
-  [[noreturn]] void RaiseLastError() const { vb::RaiseFileError(FileErrorNumber(GetLastError()), path_); }
-
- private:
-  std::string path_;
-  HANDLE handle_ = INVALID_HANDLE_VALUE;
-};
-
 class Reader : public workstation::InputFile {
  public:
   explicit Reader(std::string_view path) {
-    const FileHandle file(path, GENERIC_READ, OPEN_EXISTING);
-    std::vector<char> block(kReadBlock);
-    for (DWORD read = kReadBlock; read > 0;) {
-      if (!ReadFile(file.Get(), block.data(), kReadBlock, &read, nullptr)) file.RaiseLastError();
-      text_.append(block.data(), read);
-    }
+    text_ = FileHandle(path, GENERIC_READ, OPEN_EXISTING).ReadAll();
     isUtf8_ = text_.starts_with(kUtf8Mark);
     if (isUtf8_) position_ = kUtf8Mark.size();
   }
@@ -109,16 +59,7 @@ class Writer : public workstation::OutputFile {
  public:
   Writer(std::string_view path, DWORD disposition)
       : file_(path, disposition == OPEN_ALWAYS ? FILE_APPEND_DATA : GENERIC_WRITE, disposition) {}
-  void Write(std::string_view text) override {
-    const std::string bytes = ToAnsi(Wide(text));
-    for (std::size_t sent = 0; sent < bytes.size();) {
-      DWORD written = 0;
-      const bool done =
-          WriteFile(file_.Get(), bytes.data() + sent, static_cast<DWORD>(bytes.size() - sent), &written, nullptr) != 0;
-      if (!done || written == 0) file_.RaiseLastError();
-      sent += written;
-    }
-  }
+  void Write(std::string_view text) override { file_.WriteAll(ToAnsi(Wide(text))); }
   void Close() override {
     if (!file_.Close()) file_.RaiseLastError();
   }
@@ -192,6 +133,14 @@ void WindowsWorkstation::StartProgram(std::string_view commandLine, int style) {
   }
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);
+}
+
+bool WindowsWorkstation::StateFileExists(std::string_view name) {
+  return windows::StateFileExists(name);
+}
+
+std::unique_ptr<workstation::StateFile> WindowsWorkstation::TakeStateFile(std::string_view name) {
+  return windows::TakeStateFile(name);
 }
 
 }  // namespace windows

@@ -21,6 +21,8 @@ class WindowsWorkstation : public workstation::Workstation {
   std::unique_ptr<workstation::OutputFile> OpenForOutput(std::string_view path) override;
   std::unique_ptr<workstation::OutputFile> OpenForAppend(std::string_view path) override;
   void StartProgram(std::string_view commandLine, int style) override;
+  bool StateFileExists(std::string_view name) override;
+  std::unique_ptr<workstation::StateFile> TakeStateFile(std::string_view name) override;
 
  private:
   std::string applicationFolder_;
