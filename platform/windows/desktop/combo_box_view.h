@@ -1,26 +1,24 @@
 #pragma once
 
 #include "base/controls/combo_box.h"
-#include "platform/windows/desktop/control_view.h"
 #include "platform/windows/desktop/messages.h"
+#include "platform/windows/desktop/text_entry_view.h"
 
 namespace windows {
 
-class ComboBoxView : public ControlView {
+class ComboBoxView : public TextEntryView {
  public:
-  ComboBoxView(FormWindow& window, controls::ComboBox& combo) : ControlView(window, combo), combo_(combo) {}
+  ComboBoxView(FormWindow& window, controls::ComboBox& combo) : TextEntryView(window, combo), combo_(combo) {}
 
   void Create(HWND parent, int id) override;
   void Update(controls::Aspect aspect) override;
   void OnCommand(int code) override;
   bool WantsNatively(const MSG& message) const override;
   void Pull() override;
-  bool Copy() override;
-  bool Cut() override;
-  bool Paste() override;
 
  protected:
-  bool OwnsRightButton() const override { return combo_.Style() == controls::ComboStyle::DropDownList; }
+  bool HasEdit() const override { return combo_.Style() == controls::ComboStyle::DropDown; }
+  bool OwnsRightButton() const override { return !HasEdit(); }
   std::optional<LRESULT> Intercept(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
@@ -31,7 +29,6 @@ class ComboBoxView : public ControlView {
 
   controls::ComboBox& combo_;
   bool updating_ = false;
-  bool pasting_ = false;
 };
 
 }  // namespace windows

@@ -1,22 +1,19 @@
 #pragma once
 
 #include "base/controls/text_box.h"
-#include "platform/windows/desktop/control_view.h"
+#include "platform/windows/desktop/text_entry_view.h"
 
 namespace windows {
 
-class TextBoxView : public ControlView {
+class TextBoxView : public TextEntryView {
  public:
-  TextBoxView(FormWindow& window, controls::TextBox& box) : ControlView(window, box), box_(box) {}
+  TextBoxView(FormWindow& window, controls::TextBox& box) : TextEntryView(window, box), box_(box) {}
 
   void Create(HWND parent, int id) override;
   void Update(controls::Aspect aspect) override;
   void OnCommand(int code) override;
   bool WantsNatively(const MSG& message) const override;
   void Pull() override;
-  bool Copy() override;
-  bool Cut() override;
-  bool Paste() override;
   bool SelectAll() override;
 
  protected:
@@ -26,7 +23,6 @@ class TextBoxView : public ControlView {
  private:
   controls::TextBox& box_;
   bool updating_ = false;
-  bool pasting_ = false;
 };
 
 }  // namespace windows

@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/controls/combo_box.h"
 #include "base/controls/form.h"
 #include "base/controls/menu.h"
-#include "base/controls/text_box.h"
+#include "base/controls/text_entry.h"
 #include "platform/windows/desktop/form_window.h"
 #include "platform/windows/desktop/list_window.h"
 #include "platform/windows/desktop/shown_objects.h"
@@ -237,8 +236,8 @@ void WindowsDesktop::FocusMoved(controls::Form& form, controls::Control* control
 
 // What is typed next takes the place of the text, as everywhere in the system.
 void WindowsDesktop::EnteredByKey(controls::Control& control) {
-  if (auto* box = dynamic_cast<controls::TextBox*>(&control); box != nullptr && !box->MultiLine()) box->SelectAll();
-  if (auto* combo = dynamic_cast<controls::ComboBox*>(&control)) combo->SelectAll();
+  auto* entry = dynamic_cast<controls::TextEntry*>(&control);
+  if (entry != nullptr && !entry->MultiLine()) entry->SelectAll();
 }
 
 void WindowsDesktop::PointerChanged(controls::Form&, bool hourglass) {
