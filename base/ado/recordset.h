@@ -56,7 +56,7 @@ class Recordset {
   void UpdateBatch();
   void CancelUpdate();
 
-  /// The next rows as (field, record), and moves behind them; `rows` -1 reads to the end. Error 3021 at the end.
+  /// The next rows as (field, record), and moves past them; `rows` -1 reads to the end. Error 3021 at the end.
   late::ArrayPtr GetRows(int rows);
   /// All rows from the current one as text.
   std::string GetString(std::string_view columnDelimiter, std::string_view rowDelimiter, std::string_view nullText);

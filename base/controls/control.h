@@ -138,7 +138,7 @@ class Control : public late::Object {
 
  protected:
   virtual bool TakesFocus() const { return true; }
-  /// What hides and disables this control with itself; null for the form.
+  /// The container that hides and disables this control; null for the form.
   virtual const Control* Holder() const { return container_; }
   /// Whether a control it holds on that page can be seen.
   virtual bool ShowsPage(int) const { return true; }

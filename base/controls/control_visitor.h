@@ -15,7 +15,7 @@ class PictureBox;
 class TabControl;
 class TextBox;
 
-/// Work that each kind of control gets its own share of; Control::Accept calls the one of its kind. A new kind is one more
+/// An operation with one function for each kind of control; Control::Accept calls the one of its kind. A new kind is one more
 /// function here, and every desktop that lacks it no longer compiles.
 class ControlVisitor {
  public:

@@ -13,7 +13,7 @@ namespace controls {
 class Form;
 class Menu;
 
-/// Puts forms in front of somebody: real windows, text, or a test's script. Holds no rules of the forms. The base class keeps the
+/// Shows forms to a user: real windows, text, or a test's script. Holds no rules of the forms. The base class keeps the
 /// stack of modal forms and the order of events; derived classes show and drive them.
 class Desktop {
  public:
@@ -34,7 +34,7 @@ class Desktop {
   /// Lets pending events run.
   virtual void DoEvents() {}
   /// Runs `open`, which has another component show a window with this title, and keeps that component's objects for as long as
-  /// the window is there. Where there are no windows they are let go of at once.
+  /// the window is there. Where there are no windows they are released at once.
   virtual void KeepWhileShown(std::string_view title, const std::vector<late::ObjectPtr>& objects,
                               const std::function<void()>& open) {
     (void)title, (void)objects;
@@ -42,7 +42,7 @@ class Desktop {
   }
   /// Whether the person has asked the system for colours of high contrast; nothing should be coloured over them then.
   virtual bool IsHighContrast() const { return false; }
-  /// The system's alarm, for what was typed and is not taken.
+  /// The system's alarm, for typed input that is refused.
   virtual void Beep() {}
   /// How many rows of a list or grid a person sees at once: so far a page key goes. Every desktop that draws them knows better.
   virtual long RowsShown(const Control&) const { return 10; }

@@ -48,7 +48,7 @@ void FlexGrid::SetFormatString(std::string_view format) {
       column.alignment = text[0] == '<' ? GridAlignment::Left : text[0] == '^' ? GridAlignment::Center : GridAlignment::Right;
       text.remove_prefix(1);
     }
-    // Blanks behind the mark and the text widen the column; the heading itself stands without them.
+    // Trailing blanks after the mark and the text widen the column; the heading itself is stored without them.
     if (!text.empty()) column.width = HeadingWidth(text);
     SetTextMatrix(0, static_cast<long>(col), vb::Trim(text));
   }

@@ -71,7 +71,7 @@ class Form : public late::Object {
   CommandButton* DefaultButton() const;
   CommandButton* CancelButton() const;
 
-  /// Moves the focus: validates and leaves the control that has it, enters `control` (null: nobody). False when validation kept
+  /// Moves the focus: validates and leaves the control that has it, enters `control` (null for none). False when validation kept
   /// it.
   bool MoveFocus(Control* control);
   /// The next (previous) control that can take the focus, wrapping around at the end; null when none can.

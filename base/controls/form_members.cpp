@@ -86,7 +86,7 @@ late::Value Form::Invoke(std::string_view member, late::Access access, std::span
   if (const auto* found = FormMembers().Find(member)) return FormMembers().Invoke(*this, name_, *found, access, arguments);
   const bool put = access == late::Access::Put || access == late::Access::PutRef;
   if (Control* control = FindControl(member)) {
-    // form.control stands for the control; with a value or an index for its default property.
+    // form.control is the control; with a value or an index it is the control's default property.
     if (put || !arguments.empty()) return control->Invoke("", access, arguments);
     return control->AsObject();
   }

@@ -143,7 +143,7 @@ void PressKey(Form& form, const KeyStroke& key) {
   {
     const ScopedFlag handling = form.HandleKey();
     if (!ActAsDialogKey(form, key)) HandleDownAndPress(form, key);
-    // The key comes up again whoever swallowed it, over the control that has the focus by then.
+    // The key-up follows even when the key-down was swallowed, and goes to the control that has the focus by then.
     if (IsActive(form)) {
       int code = key.keyCode;
       if (form.KeyPreview()) form.KeyUp.Fire(code, key.shift);
@@ -164,7 +164,7 @@ bool PressAccessKey(Form& form, char32_t upperCaseKey) {
     case ControlKind::CommandButton:
     case ControlKind::OptionButton:
     case ControlKind::CheckBox:
-      // A label in front of a button leads to it without clicking.
+      // A label before a button leads to it without clicking.
       if (control->AccessKey() == upperCaseKey) {
         ClickControl(*control);
         return true;

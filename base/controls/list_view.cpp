@@ -166,7 +166,7 @@ ListItem& ListView::Insert(int index, std::string_view text) {
 void ListView::Remove(int index) {
   CheckLine(index);
   items_.erase(items_.begin() + (index - 1));
-  // The next line becomes the selected one, the last when there is none behind.
+  // The next line becomes the selected one, the last when there is none after it.
   if (selected_ > index) --selected_;
   selected_ = std::min(selected_, static_cast<int>(items_.size()));
   visibleLine_ = std::clamp(visibleLine_, 1, std::max(1, static_cast<int>(items_.size())));

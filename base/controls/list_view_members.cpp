@@ -166,7 +166,7 @@ class LateHeaders : public late::TableObject<LateHeaders> {
         {"Count", [](H& self, Arguments&) { return members::Out(self.list_->ColumnCount()); }, {}},
         {"Item", item, {}, 1, 1},
         {"", item, {}, 1, 1},
-        // Index and key are taken and not kept: columns are added behind the last one.
+        // Index and key are taken and not kept: columns are added after the last one.
         {"Add",
          [](H& self, Arguments& a) -> late::Value {
            self.list_->AddColumn(a.Or(2, "").TextOrEmpty(), vb::CLng(a.Or(3, 1440.0).ToDouble()),

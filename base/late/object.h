@@ -50,7 +50,7 @@ class Object : public std::enable_shared_from_this<Object> {
   Value Call(std::string_view member, std::initializer_list<Value> arguments = {});
 };
 
-/// The arguments of one call, as the callee sees them: looked through references, missing ones told apart.
+/// The arguments of one call, as the callee sees them: references resolved, missing ones distinguished.
 class Arguments {
  public:
   explicit Arguments(std::span<Value> values) : values_(values) {}

@@ -24,7 +24,7 @@ Date MakeDate(int year, int month, int day, int hour = 0, int minute = 0, int se
 /// Rounded to the whole second; error 6 for a number of days far outside the calendar.
 DateParts PartsOf(Date date);
 
-/// dd/mm/yyyy, with " HH:MM:SS" behind it when the date has a time of day.
+/// dd/mm/yyyy, followed by " HH:MM:SS" when the date has a time of day.
 std::string DateText(Date date);
 
 /// Reads dd/mm/yyyy, yyyy/mm/dd and yyyy-mm-dd (one or two digits for day and month), each with an optional time HH:MM or

@@ -7,7 +7,7 @@
 namespace vb {
 
 /// A number as its significant decimal digits: 0.DIGITS times 10^exponent. Zero has no digits.
-/// Rounding happens here, on what a person reads, never on the binary fraction behind it.
+/// Rounding happens here, on what a person reads, never on the binary fraction itself.
 struct DecimalDigits {
   bool negative = false;
   std::string digits;  ///< no leading and no trailing zeros

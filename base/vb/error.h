@@ -30,7 +30,7 @@ enum ErrorNumber : long {
   kWrongArgumentCount = 450,
 };
 
-/// A run-time error: number, source and description are fields, so nobody parses a message.
+/// A run-time error: number, source and description are fields, so that no caller parses a message.
 class RunTimeError : public std::exception {
  public:
   RunTimeError(long number, std::string description, std::string source = {});

@@ -7,7 +7,7 @@
 namespace vb {
 namespace {
 
-/// A number picture taken apart. Characters in front of and behind the places stand for themselves.
+/// A number picture taken apart. Characters before and after the places are literal.
 struct Picture {
   std::string_view before, after;
   std::size_t leastWhole = 0;  ///< digits before the point that are always shown
@@ -38,7 +38,7 @@ Picture ReadPicture(std::string_view text) {
       ++picture.mostDecimals;
       if (c == '0') picture.leastDecimals = picture.mostDecimals;
     } else if (c == '0' || picture.leastWhole > 0) {
-      ++picture.leastWhole;  // a # behind a 0 is a place that is always shown, too
+      ++picture.leastWhole;  // a # after a 0 is also a place that is always shown
     }
   }
   return picture;

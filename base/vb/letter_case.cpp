@@ -6,7 +6,7 @@
 namespace vb {
 namespace {
 
-/// Upper-case letters first, first + step ... last; each one's lower-case letter stands `distance` further on.
+/// Upper-case letters first, first + step ... last; each one's lower-case letter is `distance` further on.
 struct CaseRange {
   std::int32_t first, last, distance, step;
 };

@@ -26,7 +26,7 @@ bool IsSign(char c) {
 struct ScannedNumber {
   std::string plain;
   std::size_t end = 0;   ///< bytes of `text` used
-  long wholeDigits = 0;  ///< significant digits before the point; below 0 for zeros behind it
+  long wholeDigits = 0;  ///< significant digits before the point; below 0 for zeros after it
   long exponent = 0;
   bool hasDigits = false;
 };
@@ -74,8 +74,8 @@ double ValueOf(const ScannedNumber& number) {
   return 0;
 }
 
-/// "&H1F" and "&O17" behind the ampersand. Up to four hexadecimal digits are a 16-bit integer, up to eight a 32-bit one, so that
-/// &HFFFF is -1 as in the classic runtime. Nothing when no digit follows; `end` is set behind the last one.
+/// "&H1F" and "&O17" after the ampersand. Up to four hexadecimal digits are a 16-bit integer, up to eight a 32-bit one, so that
+/// &HFFFF is -1 as in the classic runtime. Nothing when no digit follows; `end` is set past the last one.
 std::optional<double> ReadBased(std::string_view text, std::size_t& end) {
   if (text.size() < 2 || text[0] != '&') return std::nullopt;
   const char letter = text[1];
@@ -213,7 +213,7 @@ std::string NumberText(double value) {
   const int count = static_cast<int>(number.digits.size());
   std::string text = number.negative ? "-" : "";
   if (number.exponent > 15 || count - number.exponent > 15) {
-    // Neither in front of nor behind the point do more than 15 digits fit.
+    // No more than 15 digits fit before or after the point.
     const int exponent = number.exponent - 1;
     text.append(number.digits, 0, 1);
     if (count > 1) text.append(".").append(number.digits, 1);

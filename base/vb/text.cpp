@@ -30,7 +30,7 @@ bool IsAscii(std::string_view text) {
   return true;
 }
 
-/// The byte offset behind the first `count` characters, at most the size.
+/// The byte offset after the first `count` characters, at most the size.
 std::size_t OffsetOf(std::string_view text, std::size_t count) {
   if (text.size() <= count) return text.size();  // a character is at least one byte
   if (IsAscii(text.substr(0, count))) return count;

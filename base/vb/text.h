@@ -46,7 +46,7 @@ std::string DoubleApostrophes(std::string_view text);
 /// An empty text has no parts; an empty delimiter leaves the text as one part.
 std::vector<std::string> Split(std::string_view text, std::string_view delimiter);
 
-/// One character of UTF-8 at byte `offset`, which moves behind it. An invalid byte gives 0xDC00 + byte.
+/// One character of UTF-8 at byte `offset`, which moves past it. An invalid byte gives 0xDC00 + byte.
 char32_t NextCharacter(std::string_view text, std::size_t& offset);
 void AppendCharacter(std::string& text, char32_t character);
 

@@ -5,7 +5,7 @@
 
 namespace console {
 
-/// What hands on mouse and keyboard do to the active form, its messages and menus.
+/// The commands that act on the active form, its messages and menus as mouse and keyboard do.
 CommandGroup MouseCommands(TextDesktop& desktop);
 CommandGroup KeyboardCommands(TextDesktop& desktop);
 CommandGroup AnswerCommands(TextDesktop& desktop);

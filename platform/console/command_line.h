@@ -26,9 +26,9 @@ class Words {
   bool AtEnd() const;
   /// Whether anything, a blank at least, follows the last word.
   bool HasText() const { return !rest_.empty(); }
-  /// The rest of the line after one blank, as it stands, with its escapes resolved.
+  /// The rest of the line after one blank, with its escapes resolved.
   std::string Text() const;
-  /// The rest of the line after one blank, as it stands.
+  /// The rest of the line after one blank, unchanged.
   std::string_view Raw() const;
   /// An error when words are left.
   void End() const;

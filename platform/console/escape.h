@@ -9,7 +9,7 @@ namespace console {
 std::string Escape(std::string_view text);
 /// The same between double quotes.
 std::string Quote(std::string_view text);
-/// The way back; a backslash before any other character stands for itself.
+/// The way back; a backslash before any other character is literal.
 std::string Unescape(std::string_view text);
 
 }  // namespace console

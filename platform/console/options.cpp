@@ -13,7 +13,7 @@ long ParseNumber(const std::string& option, const std::string& text, long least)
   return number;
 }
 
-/// yyyy-mm-dd, with a time behind it where `withTime`.
+/// yyyy-mm-dd, followed by a time where `withTime`.
 vb::Date ParseMoment(const std::string& option, const std::string& text, bool withTime) {
   const bool shaped = text.size() >= 10 && text[4] == '-' && text[7] == '-' && (withTime || text.size() == 10);
   if (const auto date = vb::TryParseDate(text); date && shaped) return *date;

@@ -17,7 +17,7 @@ class Output {
   void Error(std::string_view what);
   /// An input line, as it came.
   void Echo(std::string_view line);
-  /// What a person at a terminal is asked with; no line end behind it.
+  /// The prompt shown to a person at a terminal; without a line end.
   void Prompt(std::string_view prompt);
 
   /// How many `error:` lines were written.

@@ -13,7 +13,7 @@ namespace console {
 class DatabaseTools {
  public:
   virtual ~DatabaseTools() = default;
-  /// Runs a statement on a second connection and hands on its rows; a run-time error when it fails.
+  /// Runs a statement on a second connection and returns its rows; a run-time error when it fails.
   virtual void Query(std::string_view statement, const std::function<void(std::span<const late::Value> row)>& row) = 0;
   /// Lets the n-th (from 1) statement, row change or commit of the session from now on fail once; replaces an earlier wish.
   virtual void FailAt(int n, std::string text) = 0;

@@ -28,7 +28,7 @@ class TextDesktop : public controls::Desktop {
 
   // The open message box.
   bool HasMessage() const { return message_ != nullptr; }
-  /// The box as it stands on the screen; nothing when none is open.
+  /// The box as shown on the screen; nothing when none is open.
   std::vector<std::string> MessagePicture() const;
   /// The answer must be one of the box's buttons; false when it is not.
   bool AnswerMessage(controls::Answer answer);

@@ -14,7 +14,7 @@ namespace console {
 class TextWorkstation : public workstation::Workstation {
  public:
   struct Settings {
-    std::string applicationFolder;                 ///< as the component is told, and as this machine knows it
+    std::string applicationFolder;                 ///< the path given to the component, and the one on this machine
     std::string windowsDirectory = "C:\\WINDOWS";  ///< the editor edit.com counts as present in it
     std::optional<vb::Date> now;                   ///< the machine's own clock without it
     std::filesystem::path stateFolder;             ///< of this machine; without it no state file can be taken
@@ -37,7 +37,7 @@ class TextWorkstation : public workstation::Workstation {
   std::string ReadApplicationFile(std::string_view name) const;
 
  private:
-  /// Where a path of the workstation lies on this machine; nothing for a path it does not have. Error 52 for an empty name.
+  /// The path on this machine of a path of the workstation; nothing for a path it does not have. Error 52 for an empty name.
   std::optional<std::filesystem::path> Locate(std::string_view path) const;
   std::filesystem::path LocateInFolder(std::string_view relative) const;
   std::unique_ptr<workstation::OutputFile> OpenToWrite(std::string_view path, bool append);

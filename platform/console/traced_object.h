@@ -7,8 +7,8 @@
 
 namespace console {
 
-/// Stands in front of a helper component's object: writes what is asked of it, then hands it on. What the error component is
-/// told is written whether or not calls are traced.
+/// Decorates a helper component's object: writes each call, then forwards it. Calls to the error component are written
+/// whether or not calls are traced.
 class TracedObject : public late::Object {
  public:
   TracedObject(late::ObjectPtr inner, std::string progId, Output& output)

@@ -20,7 +20,7 @@ double DocumentQuantity(const late::Array& documentLines, std::size_t record) {
   return quantity.IsNull() ? 0 : quantity.ToDouble();
 }
 
-/// Equal to the last decimal that is kept: two ways to the same figure may differ in the bits behind it.
+/// Equal to the last decimal that is kept: two ways to the same figure may differ in the lower bits.
 bool SameQuantity(double a, double b) {
   return QuantityText(a) == QuantityText(b);
 }
@@ -70,7 +70,7 @@ bool CustomerRequests::ShowOwn(std::int32_t requestId) {
 }
 
 void CustomerRequests::AppendOwn(Documents& documents, std::int32_t requestId) const {
-  // The next save writes the links anew from the list, so each of them must be in it: re-exports, too, and a document that the
+  // The next save rewrites the links from the list, so each of them must be in it: re-exports, too, and a document that the
   // shop no longer has.
   for (const CustomerLink& link : RequestStore(session_, db_).LinksOf(requestId)) {
     documents.push_back({link.number, link.kind == CustomerLink::Kind::Reexport ? link.number : "", link.id, true});

@@ -30,7 +30,7 @@ class CustomerRequests {
 
   /// Shows the documents on offer, unchecked. A database error leaves the list as it was.
   void ShowOnOffer();
-  /// Shows the documents of an existing request, checked, and behind them those on offer; the list is empty when the request has
+  /// Shows the documents of an existing request, checked, followed by those on offer; the list is empty when the request has
   /// none. Whether it has any. Everything is read before the list (and with it the form) is touched: a database error leaves
   /// both as they were.
   bool ShowOwn(std::int32_t requestId);

@@ -62,7 +62,7 @@ class frmRequest : public ModuleForm, private SavePort {
   /// The current line of lvwrequest, 1-based; item entry reads and moves it.
   std::int32_t lngCurrentLine = 0;
 
-  /// The documents that an existing request is linked to, checked, and behind them those on offer. The register's Edit calls it
+  /// The documents that an existing request is linked to, checked, followed by those on offer. The register's Edit calls it
   /// before it shows the editor, which it loads. A request without links gets an unticked box and a hidden page. Database errors
   /// are raised before the editor is loaded: shown without its links, the request would lose them at the next save.
   void ShowOwnLinks(std::int32_t requestId);

@@ -67,7 +67,7 @@ bool RequestSaving::Write(ado::Transaction& transaction, SaveStep& step) {
   if (!IsNew()) {
     UpdateRequest();
   } else if (store_.fnRequestNoExists(request_.number)) {
-    // No header and no lines then, but the links are written and the editor closes: the number is somebody's request already.
+    // No header and no lines then, but the links are written and the editor closes: the number is another request's already.
     Tell(std::to_string(request_.id) + " already exists");
   } else {
     WriteNewRequest();

@@ -19,7 +19,7 @@ class RequestSaving {
   RequestSaving(basGoodsRequest& session, Request entered, SavePort& editor, CommonDb& db, RegisterView& view)
       : session_(session), request_(std::move(entered)), editor_(editor), store_(session, db), view_(view) {}
 
-  /// Checks, writes and commits, and brings the register's row up to date. False is a refusal that the user has been told of,
+  /// Checks, writes and commits, and brings the register's row up to date. False is a refusal whose message has been shown,
   /// with the focus where it can be mended. Any error is raised. In both cases database and editor are as they were before.
   bool Save();
 

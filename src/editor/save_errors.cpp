@@ -28,7 +28,7 @@ bool IsOneOf(std::int32_t number, const std::array<std::int32_t, N>& numbers) {
 std::string Explanation(std::int32_t number, const ado::ErrorDetail& detail, SaveStep step) {
   const std::int32_t native = detail.nativeError;
   if (IsOneOf(native, kBroken) || detail.sqlState.starts_with("08")) {
-    // Whether the server still received the commit, nobody knows.
+    // Whether the server still received the commit is unknown.
     if (step == SaveStep::Committing) {
       return "The connection to the server broke while the request was being saved. Look in the register whether it is there "
              "before you press OK again.";

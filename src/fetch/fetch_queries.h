@@ -14,7 +14,7 @@ std::string AllItemsBaseQuery(std::string_view itemTypeFilter, std::int32_t shop
 /// The active, saleable items that are not in the shop's item list.
 std::string NotInShopBaseQuery(std::int32_t shopId);
 
-/// The column that a field of the filter list stands for; the description for any other text. A column stands for itself.
+/// The column of a field of the filter list; the description for any other text. A column name is returned unchanged.
 std::string FilterColumn(std::string_view field);
 
 /// The base query with the rows whose column holds the text, which comes with its apostrophes doubled. An "order by" stays last.

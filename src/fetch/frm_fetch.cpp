@@ -134,7 +134,7 @@ void FrmFetch::BuildBaseQuery() {
       strFetchQuery_ = NotInShopBaseQuery(session.gIntShopID);
       break;
     case ItemListMode::InGodownNotInShop:
-      break;  // the procedure brings its own query: it is handed the filter alone
+      break;  // the procedure brings its own query: it gets only the filter
   }
 }
 

@@ -39,7 +39,7 @@ class FrmFetch : public ModuleForm {
   controls::CommandButton CmdClose{*this, "CmdClose"};
   controls::FlexGrid flexMaster{*this, "flexMaster"};
 
-  /// Fills the grid with the query's rows; in the godown mode `query` is the condition handed to the stored procedure. A database
+  /// Fills the grid with the query's rows; in the godown mode `query` is the condition passed to the stored procedure. A database
   /// error is reported and leaves the grid as it was. Whether the grid was filled.
   bool GridPopulate(std::string_view query);
 

@@ -26,7 +26,7 @@ class ItemEntryPort {
   /// Looks the item's code up as if it had been typed. False when it names no item: then the user has been notified, except of an
   /// item of the stock-out list, which is taken as it is.
   virtual bool TakeItemCode(const PickedItem& item) = 0;
-  /// Puts an item of the stock-out list into the form as it stands, without a look-up.
+  /// Puts an item of the stock-out list into the form unchanged, without a look-up.
   virtual void TakeStockOutItem(const PickedItem& item) = 0;
   /// Shows the item's packing types. Errors are reported, not raised.
   virtual void FillPackTypeinList(std::int32_t itemId) = 0;

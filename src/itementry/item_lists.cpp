@@ -142,7 +142,7 @@ bool ShowItemList(basGoodsRequest& session, CommonDb& db, ItemFetch& fetch, Item
     CloseItemList(session);
   }
 
-  // The lookup may put a recordset of its own here, when it is handed over or while it shows.
+  // The lookup may put a recordset of its own here, when it gets it or while it shows.
   late::Value recordset(session.gRsFetchItems.Object());
   fetch.adocon(session.gAdoCon);
   fetch.strMsgboxTitle(session.gStrMsgboxCaption);

@@ -19,7 +19,7 @@ std::string_view FetchModeOf(ItemListMode list);
 ItemListMode ListOfFetchMode(std::string_view fetchMode);
 
 /// Shows the list in the suite's item lookup, by reference through the session's gRsFetchItems, and keeps the list's mode as the
-/// session's fetch mode. A mode other than the last one makes the lookup read its rows anew. True when the user chose a row: it
+/// session's fetch mode. A mode other than the last one makes the lookup read its rows again. True when the user chose a row: it
 /// is the current row of gRsFetchItems. Errors are raised.
 bool ShowItemList(basGoodsRequest& session, CommonDb& db, ItemFetch& fetch, ItemListMode list);
 

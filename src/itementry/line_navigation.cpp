@@ -13,7 +13,7 @@ void frmRequestDetail::cmdFirst_Click() {
 }
 
 void frmRequestDetail::Cmdprev_Click() {
-  // Never in front of the first line, where a person may be without having come by these buttons.
+  // Never before the first line; a person may be there without having used these buttons.
   const int line = std::max(std::min(lngCurrentLine_ - 1, lines_.Count()), 1);
   GoToLine(line);
   EnableNavigation(line > 1, true);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr long kNoRow = 0;  // the heading row is never found
 
-/// What is looked for, and how a cell stands to it.
+/// The text to find, and how a cell compares to it.
 class TypedText {
  public:
   explicit TypedText(std::string_view typed)
@@ -32,7 +32,7 @@ class TypedText {
     return vb::EqualNoCase(vb::Trim(start), text_);
   }
 
-  /// Whether the typed text stands further down than the cell.
+  /// Whether the typed text sorts after the cell.
   bool IsAfter(std::string_view cell) const { return vb::CompareNoCase(vb::Trim(vb::Left(vb::Trim(cell), length_)), text_) < 0; }
 
  private:
@@ -80,7 +80,7 @@ long Walk(const controls::FlexGrid& grid, long column, const TypedText& typed, l
 }
 
 long FirstMatch(const controls::FlexGrid& grid, long column, const TypedText& typed, long last) {
-  // Sorted by value, 2 stands before 10 and 25: numbers that begin alike do not stand together, and halving would step over the
+  // Sorted by value, 2 comes before 10 and 25: numbers that begin alike are not adjacent, and halving would step over the
   // first of them.
   if (typed.IsNumeric()) return Walk(grid, column, typed, last);
   const long row = Bisect(grid, column, typed, last);
@@ -100,7 +100,7 @@ bool HasCells(const controls::FlexGrid& grid, long row, const std::vector<std::s
   return true;
 }
 
-/// Sorts the grid ascending on the column; the line that was current stays current, wherever it now stands.
+/// Sorts the grid ascending on the column; the line that was current stays current at its new place.
 void SortKeepingCurrentLine(controls::FlexGrid& grid, long column) {
   if (grid.IsInOrder(column)) return;
   const long row = grid.Row();

@@ -7,7 +7,7 @@
 
 namespace goods {
 
-/// The value of a setting, as it stands in the file; empty when no line carries the key (with a message box) or the file cannot
+/// The value of a setting, as written in the file; empty when no line carries the key (with a message box) or the file cannot
 /// be opened (message box and error report).
 std::string FileCode(basGoodsRequest& session, std::string_view key, std::string_view path);
 

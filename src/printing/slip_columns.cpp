@@ -85,7 +85,7 @@ std::string SlipColumns::Line(long number, const SlipLine& item) const {
 }
 
 std::string SlipColumns::QuantityTotal(std::string_view quantity) const {
-  // The cost total has no place on this line: with both asked for, the quantity's stands alone.
+  // The cost total has no place on this line: with both asked for, only the quantity's is printed.
   const std::int16_t end = vb::Add16(vb::Add16(settings_.SlNo, itemCodeWidth_), descriptionWidth_);
   return RightAligned("Grand Total:  ", end) + RightCell(quantity, settings_.Qty);
 }

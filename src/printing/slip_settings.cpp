@@ -35,7 +35,7 @@ SlipSettings SlipSettings::Read(basGoodsRequest& session) {
   settings.Unit = reader.Number("Unit");
   settings.Rate = reader.Number("Rate");
   settings.Amount = reader.Number("Amount");
-  // Asked for and dropped: the suite's other slips use them, and a file that lacks them is told of here as it is there.
+  // Read and not used: the suite's other slips use them, and a file without them gets the same message here as there.
   for (const std::string_view unused : {"ExtraLine", "EndPage", "Seperator"}) reader.Number(unused);
   settings.printheadertopline = reader.IsOne("printheadertopline");
   settings.printheaderbottomline = reader.IsOne("printheaderbottomline");

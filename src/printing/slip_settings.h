@@ -29,7 +29,7 @@ struct SlipSettings {
   bool printinsavedorder = false;
   bool showtotalqty = false;
 
-  /// Reads the file anew. Error 6 when a number leaves the 16-bit range.
+  /// Reads the file again. Error 6 when a number leaves the 16-bit range.
   static SlipSettings Read(basGoodsRequest& session);
 };
 

@@ -7,8 +7,8 @@
 
 namespace goods {
 
-/// The program that shows a text slip, as the beginning of a command line: the Windows directory's edit.com with a blank behind
-/// it.
+/// The program that shows a text slip, as the beginning of a command line: the Windows directory's edit.com followed by a
+/// blank.
 std::string TextViewer(basGoodsRequest& session);
 
 /// Starts the viewer, maximised, on the slip; does not wait. Where the viewer does not exist, the Windows directory's

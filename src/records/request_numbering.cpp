@@ -10,7 +10,7 @@
 namespace goods {
 namespace {
 
-// No blank stands before the first AND: the server reads the number's end by itself.
+// No blank before the first AND: the server recognises the number's end.
 std::string PrefixQuery(std::int32_t interfaceId, std::int32_t shopId) {
   return "SELECT Prefix FROM aPrefix WHERE InterfaceID = " + std::to_string(interfaceId) +
          "AND FinancialId = (Select FinancialId from aFinancialYear where CurFinancialYear = 1)"

@@ -67,7 +67,7 @@ void frmMaster::Form_Load() {
   basGoodsRequest& session = Session();
   evaluatedRow_ = flexMaster.Row();
   searchAnswer_.Forget();
-  session.gStrUserRights.clear();  // of whoever used the component before
+  session.gStrUserRights.clear();  // those of the component's previous user
   EnableCommands(false);           // until the rights are read: after an error on the way nothing may be done
   objCommonDB_ = CommonDb(session.services.factory, session.gAdoCon, "ShopCommon.clscommonDB");
   session.gObjFormColor = FormColor(session.services.factory);

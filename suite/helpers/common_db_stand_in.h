@@ -11,7 +11,7 @@
 namespace suite {
 
 /// Stand-in of the suite's database helper: single values, next numbers, flag updates, filling of list views. Every member runs
-/// on the connection it was handed.
+/// on the connection it was given.
 class CommonDbStandIn : public late::TableObject<CommonDbStandIn> {
  public:
   explicit CommonDbStandIn(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}

@@ -10,7 +10,7 @@
 namespace suite {
 
 /// Stand-in of the suite's grid settings: column widths of a grid by user, company and interface, kept in smpGridSettings
-/// (created on first use). It is handed no connection, so it works on the one last handed to any of the stand-ins.
+/// (created on first use). It is given no connection, so it works on the one last given to any of the stand-ins.
 class GridSettingStandIn : public late::TableObject<GridSettingStandIn> {
  public:
   explicit GridSettingStandIn(std::shared_ptr<Surroundings> surroundings) : surroundings_(std::move(surroundings)) {}

@@ -124,7 +124,7 @@ void LookupStandIn::TakeHandedRows() {
     rows_.Read(recordset_, FieldNames());
     heldIdentifier_ = dataIdentifier_;
   } catch (const vb::RunTimeError&) {
-    // Rows that cannot be read once more are read from the database.
+    // Rows that cannot be read again are read from the database.
   }
 }
 

@@ -15,7 +15,7 @@
 namespace suite {
 
 /// Stand-in of the suite's item lookup: configured member by member, shown modally. The row taken is the current record of the
-/// recordset it was handed (or made, where it was handed none). Unless a refresh is forced, and only when PreserveData says so,
+/// recordset it was given (or made, where it was given none). Unless a refresh is forced, and only when PreserveData says so,
 /// rows are kept from one Show to the next for the same data identifier, and an open recordset of the same query is shown as it
 /// is handed over.
 class LookupStandIn : public late::TableObject<LookupStandIn> {
@@ -28,7 +28,7 @@ class LookupStandIn : public late::TableObject<LookupStandIn> {
  private:
   void setRecordSet(late::Arguments& arguments);
   void Show();
-  /// Whether the rows there are can be shown once more.
+  /// Whether the present rows can be shown again.
   bool HasRows();
   void TakeHandedRows();
   void LoadRows();

@@ -11,7 +11,7 @@
 namespace suite {
 
 /// What the stand-ins share: the desktop they show their windows on, the machine, what makes data objects, and the connection
-/// last handed to one of them (grid settings are asked for without one).
+/// last given to one of them (grid settings are asked for without one).
 struct Surroundings {
   controls::Desktop& desktop;
   workstation::Workstation& workstation;

@@ -16,7 +16,7 @@ struct Table {
     Align align = Align::Left;
   };
   struct Row {
-    std::string marks;  ///< in front of the cells; as wide in every row
+    std::string marks;  ///< before the cells; as wide in every row
     std::vector<std::string> cells;
   };
   std::string headingMarks;

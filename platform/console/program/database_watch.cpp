@@ -9,7 +9,7 @@
 namespace console {
 namespace {
 
-/// The server's number of errors that somebody raised on purpose.
+/// The server's number of errors raised by a statement (raiserror).
 constexpr int kRaisedError = 50000;
 /// A failure whose text begins so comes from a server that has undone the transaction already.
 constexpr std::string_view kRolledBack = "rolled back by the server";

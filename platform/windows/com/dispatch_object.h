@@ -34,8 +34,8 @@ class DispatchObject : public late::Object {
   mutable std::vector<Known> known_;
 };
 
-/// The late-bound object behind a COM object: Nothing for null, this module's own object as itself, else a DispatchObject, the
-/// same one as long as somebody holds it. Error 430 when it has no IDispatch.
+/// The late-bound object of a COM object: Nothing for null, this module's own object as itself, else a DispatchObject, the
+/// same one as long as it is in use. Error 430 when it has no IDispatch.
 late::ObjectPtr ObjectOf(IUnknown* unknown);
 
 }  // namespace windows

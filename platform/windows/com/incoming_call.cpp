@@ -73,7 +73,7 @@ void Call(late::Object& object, std::string_view member, WORD flags, const DISPP
 
 HRESULT FindMembers(const late::Object& object, OLECHAR** names, UINT count, DISPID* ids) noexcept {
   if (!names || !ids || count == 0) return E_INVALIDARG;
-  // Names behind the first are parameters'; late-bound members know none.
+  // Names after the first are those of parameters; late-bound members have none.
   for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
   try {
     const std::string name = Utf8(names[0]);

@@ -106,7 +106,7 @@ late::ObjectPtr OwnObjectOf(IUnknown* unknown) {
 }
 
 void DisconnectLateObjects() {
-  std::vector<late::ObjectPtr> taken;  // let go outside of the lock: their ends may reach other wrappers
+  std::vector<late::ObjectPtr> taken;  // released outside of the lock: destructors may reach other wrappers
   {
     Wrappers& wrappers = Wrappers::Of();
     const std::scoped_lock hold(wrappers.lock);

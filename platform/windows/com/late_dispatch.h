@@ -25,13 +25,13 @@ class LateDispatch final : public ComObject<LateDispatch, IDispatch, IProvideCla
   const void* STDMETHODCALLTYPE Module() override { return ModuleMark(); }
   const late::ObjectPtr* STDMETHODCALLTYPE Object() override { return object_ ? &object_ : nullptr; }
 
-  /// Gives the object back; calls find nobody from then on.
+  /// Returns the object; later calls fail with RPC_E_DISCONNECTED.
   late::ObjectPtr Disconnect() { return std::exchange(object_, nullptr); }
 
  private:
   ~LateDispatch() override;
 
-  /// Type information that knows the class's name and nothing more; who asks for the type's name is answered.
+  /// Type information that knows the class's name and nothing more; enough for a caller that asks for the type's name.
   HRESULT GiveName(ITypeInfo** info, TYPEKIND kind);
 
   late::ObjectPtr object_;
@@ -41,11 +41,11 @@ class LateDispatch final : public ComObject<LateDispatch, IDispatch, IProvideCla
 /// same one as long as it is in use.
 ComPtr<IDispatch> DispatchOf(const late::ObjectPtr& object);
 
-/// This module's late-bound object behind a COM object; null when the COM object is anybody else's.
+/// This module's late-bound object that a COM object wraps; null when another module made the COM object.
 late::ObjectPtr OwnObjectOf(IUnknown* unknown);
 
-/// Takes the late-bound objects out of all wrappers made on this thread: whoever still holds one finds it disconnected. For the
-/// end of what the objects live on.
+/// Detaches the late-bound objects from all wrappers made on this thread; a client that still holds a wrapper gets
+/// RPC_E_DISCONNECTED. Called before what the objects depend on is destroyed.
 void DisconnectLateObjects();
 
 }  // namespace windows

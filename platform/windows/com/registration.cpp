@@ -85,7 +85,7 @@ LSTATUS UnregisterClass(const ServerClass& entry, HKEY root, RegistryView view) 
 }  // namespace
 
 HRESULT RegisterServer(const ServerRegistration& server) {
-  // Asked first: half of it written before the refusal could not be told from what stood there.
+  // Checked before the first write: a half-written registration could not be distinguished from an earlier one.
   if (MachineIsRefused()) return RegisterServer(server, RegistrationScope::User);
   const HRESULT result = RegisterServer(server, RegistrationScope::Machine);
   if (IsRefused(result)) return RegisterServer(server, RegistrationScope::User);

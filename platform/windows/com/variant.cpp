@@ -78,7 +78,7 @@ late::Value FromError(SCODE code) {
   vb::Raise(vb::kTypeMismatch);
 }
 
-/// One scalar of type `type`, wherever it lies: in a VARIANT, behind a reference, in an array.
+/// One scalar of type `type`, from a VARIANT, a reference or an array.
 late::Value FromPlace(VARTYPE type, const void* place) {
   const auto at = [place]<class T>(std::type_identity<T>) { return *static_cast<const T*>(place); };
   switch (type) {
@@ -254,7 +254,7 @@ struct Filler {
   }
   void operator()(const vb::Decimal& number) const {
     variant.decVal = ToDecimal(number);
-    variant.vt = VT_DECIMAL;  // lies over the decimal's reserved word, so it comes last
+    variant.vt = VT_DECIMAL;  // shares the decimal's reserved word, so it is set last
   }
   void operator()(vb::Date date) const {
     variant.vt = VT_DATE;
@@ -303,7 +303,7 @@ late::Value FromVariant(const VARIANT& variant) {
   if (type == VT_EMPTY) return {};
   if (type == VT_NULL) return late::Null{};
   if (byReference) return variant.byref ? FromPlace(type, variant.byref) : late::Value();
-  // A decimal fills the whole VARIANT; every other type lies at the value's place.
+  // A decimal fills the whole VARIANT; every other type is at the value's offset.
   return FromPlace(type, type == VT_DECIMAL ? static_cast<const void*>(&variant.decVal) : &variant.byref);
 }
 

@@ -11,7 +11,7 @@ namespace windows {
 
 class FormWindow;
 
-/// The window of one control. Shows the model and hands on what a person does with the mouse; keys come to the model through
+/// The window of one control. Shows the model and forwards what a person does with the mouse; keys come to the model through
 /// FormWindow. Holds no rule of the forms.
 class ControlView {
  public:

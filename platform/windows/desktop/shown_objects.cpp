@@ -20,7 +20,7 @@ struct Kept {
   ModuleLifetime::Reference keepsLoaded;
 };
 
-/// Of a window that nobody sees. It is asked from time to time, for the other one may be of any thread or program.
+/// A hidden window. It is asked from time to time, for the other one may be of any thread or program.
 LRESULT CALLBACK KeeperProcedure(HWND keeper, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR data) {
   auto* kept = reinterpret_cast<Kept*>(data);
   if (message == WM_TIMER && !IsWindow(kept->window)) {

@@ -59,7 +59,7 @@ class WindowsDesktop : public controls::Desktop {
   /// What a window on top of this form belongs to: the form's window, the host's active one when it has none, the host's main
   /// window when none is active.
   HWND OwnerFor(const controls::Form* form) const;
-  /// Whether an open form's window was destroyed by somebody else. It is closed as soon as the forms above it are; until then
+  /// Whether an open form's window was destroyed by another party. It is closed as soon as the forms above it are; until then
   /// nothing more is shown and messages answer themselves by their default button.
   bool IsCutOff() const;
   void CloseUnasked(controls::Form& form);

@@ -18,7 +18,7 @@ struct Parameter {
 
 /// The type a literal has by itself. Text has no length limit.
 Type LiteralType(const Token& token);
-/// The literal's value as the parameter's type; the text is the tokenList statement's or `buffer`'s.
+/// The literal's value as the parameter's type; the text belongs to the token list or to `buffer`.
 Cell LiteralCell(const TokenList& tokenList, const Parameter& parameter, std::string& buffer, DateOrder order);
 /// The same as text of a stored definition, which cannot have parameters. A date's month comes before its day.
 std::string LiteralText(const TokenList& tokenList, const Parameter& parameter);

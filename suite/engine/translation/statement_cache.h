@@ -14,7 +14,7 @@ struct sqlite3_stmt;
 
 namespace suite {
 
-/// A translated statement with the store's statements prepared from it that nobody is using.
+/// A translated statement with the store's statements prepared from it that are not in use.
 struct CachedStatement {
   Translation translation;
   bool query = false;
@@ -24,7 +24,7 @@ struct CachedStatement {
   ~CachedStatement();
 };
 
-/// A prepared statement in somebody's hands; goes back to its cache entry when they let go.
+/// A prepared statement in use; its destructor returns it to its cache entry.
 class StatementHandle {
  public:
   StatementHandle() = default;
@@ -47,7 +47,7 @@ class StatementHandle {
 /// distinguished by that literal as well.
 class StatementCache {
  public:
-  /// The entry for the tokenList statement, or nothing. `updatable` statements are kept apart from the others of the same words.
+  /// The entry of the statement's token list; null when there is none. `updatable` statements have entries of their own.
   std::shared_ptr<CachedStatement> Find(const TokenList& tokenList, bool updatable);
   void Add(const TokenList& tokenList, bool updatable, const std::vector<int>& structural,
            std::shared_ptr<CachedStatement> statement);

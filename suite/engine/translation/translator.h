@@ -33,14 +33,14 @@ class Translator {
   Translator(const Catalog& catalog, const TokenList& tokenList, std::vector<int>& structural, bool inlineLiterals = false)
       : catalog_(catalog), tokenList_(tokenList), structural_(structural), inline_(inlineLiterals) {}
 
-  /// A select; with `rowIds` and a single base table the row's own id comes along.
+  /// A select; with `rowIds` and a single base table the row's own id is selected as well.
   Translation Query(const ast::Query& query, bool rowIds);
   Translation Insert(const ast::Insert& statement);
   Translation Update(const ast::Update& statement);
   Translation Delete(const ast::Delete& statement);
   /// A query of one row and column: 1 when the condition holds, else 0.
   Translation Condition(const ast::Expr& predicate);
-  /// The columns' defaultValue values and keys, as the store's "create table".
+  /// The columns with types, default values and keys, as the store's "create table".
   Translation Table(const std::string& name, const std::vector<ast::ColumnDefinition>& columns,
                     const std::vector<ast::Key>& keys);
   Translation View(const ast::CreateView& view);

@@ -45,7 +45,7 @@ extern "C" HRESULT STDAPICALLTYPE DllUnregisterServer() {
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* reserved) {
   if (reason == DLL_PROCESS_ATTACH) DisableThreadLibraryCalls(module);
-  // When the whole process ends there is nothing to tidy, and nobody left to do it with.
+  // When the whole process ends there is nothing to clean up, and no other thread left.
   if (reason == DLL_PROCESS_DETACH && !reserved) windows::ServerUnloading();
   return TRUE;
 }

@@ -6,8 +6,8 @@
 
 namespace windows {
 
-/// While it lives, who creates ADO's Connection or Recordset by ProgID in this apartment gets the embedded engine's: whoever
-/// works on an embedded connection makes his recordsets so, and ADO's own could not read from it.
+/// While it exists, ADO's Connection and Recordset created by ProgID in this apartment are the embedded engine's: a client of an
+/// embedded connection creates its recordsets that way, and ADO's own could not read from it.
 class EmbeddedAdo {
  public:
   EmbeddedAdo();

@@ -41,7 +41,7 @@ void* GoodsRequest::Find(REFIID id) {
 
 template <class Work>
 HRESULT GoodsRequest::Do(Work&& work) {
-  // The host may let go of the object while a call is under way.
+  // The host may release the object while a call is under way.
   const ComPtr<_clsGoodsRequest> held(this);
   return Guard(kSource, IID__clsGoodsRequest, std::forward<Work>(work));
 }
