@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include "suite/helpers/error_details_stand_in.h"
@@ -13,11 +12,7 @@ namespace {
 
 /// The server's errors for a missing right: on an object, to create a table, in the owner's schema.
 constexpr std::array<std::int32_t, 3> kPermissionDenied = {229, 262, 2760};
-
-bool IsPermissionDenied(const ado::Connection& connection, const vb::RunTimeError& error) {
-  const std::optional<ado::ErrorDetail> detail = connection.DetailOf(error);
-  return detail && std::find(kPermissionDenied.begin(), kPermissionDenied.end(), detail->nativeError) != kPermissionDenied.end();
-}
+constexpr std::int32_t kAlreadyThere = 2714;
 
 bool Exists(ado::Connection& connection, std::string_view name) {
   ado::Recordset id = connection.Execute("select object_id('" + std::string(name) + "')");
@@ -37,7 +32,9 @@ OwnTableState FindOrMake(const std::shared_ptr<Surroundings>& surroundings, ado:
     connection.ExecuteNoRecords("create table " + name + " (" + std::string(table.columns) + ")");
     return OwnTableState::Made;
   } catch (const vb::RunTimeError& error) {
-    if (!IsPermissionDenied(connection, error)) throw;
+    const std::int32_t number = connection.DetailOf(error).value_or(ado::ErrorDetail{}).nativeError;
+    if (number == kAlreadyThere) return OwnTableState::Found;  // another workstation was quicker
+    if (std::find(kPermissionDenied.begin(), kPermissionDenied.end(), number) == kPermissionDenied.end()) throw;
     refused.insert(name);
     ErrorDetailsStandIn(surroundings).Note("shopsuite", "create table " + name, error);
     return OwnTableState::Refused;

@@ -43,7 +43,7 @@ std::shared_ptr<Database> Database::Open(const std::string& path, Options option
   std::shared_ptr<Database> database(new Database(store));
   Definitions definitions(*store->keeper);
   definitions.Prepare();
-  definitions.Load();
+  store->keeper->Use();  // reads the catalog
   return database;
 }
 

@@ -122,9 +122,12 @@ void Definitions::AddToCatalog(const TokenList& tokenList, ast::Statement& state
 void Definitions::Run(const TokenList& tokenList, ast::Statement& statement) {
   const std::int64_t version = catalog_.Version();
   try {
-    session_.Atomically([&] { Change(tokenList, statement); });
+    session_.Atomically([&] {
+      Change(tokenList, statement);
+      session_.DefinitionsChanged();
+    });
   } catch (...) {
-    if (version != catalog_.Version()) Load();
+    if (version != catalog_.Version()) session_.store_->catalogOf = -1;
     throw;
   }
 }

@@ -9,7 +9,9 @@
 namespace suite {
 
 RowWriter::RowWriter(std::shared_ptr<Session> session, const std::string& table)
-    : session_(std::move(session)), table_(session_->Names().RelationNamed(table)) {}
+    : session_(std::move(session)),
+      table_(session_->Names().RelationNamed(table)),
+      catalogVersion_(session_->Names().Version()) {}
 
 RowWriter::ColumnSet& RowWriter::SetOf(const std::vector<int>& columns) {
   const auto found = std::find_if(sets_.begin(), sets_.end(), [&](const ColumnSet& set) { return set.columns == columns; });
@@ -18,15 +20,27 @@ RowWriter::ColumnSet& RowWriter::SetOf(const std::vector<int>& columns) {
   return sets_.back();
 }
 
+void RowWriter::RequireSameTable() {
+  session_->Use();
+  if (catalogVersion_ == session_->Names().Version()) return;
+  const Relation* now = session_->Names().FindRelation(table_.name);
+  const auto same = [](const ColumnDef& a, const ColumnDef& b) { return a.name == b.name && a.type.Pack() == b.type.Pack(); };
+  if (!now || !std::equal(now->columns.begin(), now->columns.end(), table_.columns.begin(), table_.columns.end(), same)) {
+    RaiseServer(kTableChanged,
+                "Could not complete cursor operation because the table schema changed after the cursor was declared.");
+  }
+  catalogVersion_ = session_->Names().Version();
+}
+
 void RowWriter::Announce(StatementObserver::Change change, const ColumnSet& set, const std::vector<late::Value>& values) {
   StatementObserver* observer = session_->Observer();
-  if (!observer) return session_->Use();
+  if (!observer) return RequireSameTable();
   std::vector<StatementObserver::ColumnValue> pairs;
   for (std::size_t i = 0; i < set.columns.size(); ++i) {
     pairs.emplace_back(table_.columns[static_cast<std::size_t>(set.columns[i])].name, values[i]);
   }
   observer->RowChange(change, table_.name, pairs);
-  session_->Use();
+  RequireSameTable();
 }
 
 void RowWriter::Bind(sqlite3_stmt* statement, const ColumnSet& set, const std::vector<late::Value>& values) {

@@ -29,6 +29,8 @@ class RowWriter {
   void Delete(std::int64_t rowId);
 
  private:
+  /// Error 16943 when the table is no longer what it was: the rows were read, and are set, in its old types.
+  void RequireSameTable();
   void Announce(StatementObserver::Change change, const ColumnSet& set, const std::vector<late::Value>& values);
   void Bind(sqlite3_stmt* statement, const ColumnSet& set, const std::vector<late::Value>& values);
   void Run(sqlite3_stmt* statement);
@@ -36,6 +38,7 @@ class RowWriter {
 
   std::shared_ptr<Session> session_;
   Relation table_;
+  std::int64_t catalogVersion_;
   std::list<ColumnSet> sets_;
   std::vector<std::string> buffers_;
   StatementHandle delete_;

@@ -29,7 +29,10 @@ Session::Session(std::shared_ptr<Store> store, StatementObserver* observer) : st
 }
 
 Session::~Session() {
-  if (inTransaction_) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+  if (inTransaction_) {
+    sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+    ForgetDefinitions();
+  }
   cache_.Clear();
   // Statements that a recordset still holds keep the handle alive until they go.
   sqlite3_close_v2(handle_);
@@ -46,6 +49,7 @@ void Session::Configure() {
     Execute("PRAGMA journal_mode = WAL");
     Execute("PRAGMA synchronous = NORMAL");
   }
+  version_.Watch(handle_, !store_->memory);
   Execute("PRAGMA case_sensitive_like = 0");
 }
 
@@ -107,6 +111,32 @@ void Session::Use() {
     if (observer_) observer_->SecondLogIn();
   }
   if (manual_ && !inTransaction_) OpenTransaction();
+  RefreshCatalog();
+}
+
+void Session::DefinitionsChanged() {
+  if (store_->memory) return;
+  version_.Raise();
+  store_->catalogOf = version_.Current();
+}
+
+void Session::RefreshCatalog() {
+  const std::int32_t current = store_->memory ? 0 : version_.Current();
+  if (current == store_->catalogOf) return;
+  store_->catalogOf = -1;
+  // Version and definitions are read from one state of the file.
+  const bool own = !HasStoreTransaction();
+  if (own) Execute("BEGIN");
+  try {
+    version_.Forget();
+    const std::int32_t version = store_->memory ? 0 : version_.Current();
+    Definitions(*this).Load();
+    store_->catalogOf = version;
+  } catch (...) {
+    if (own) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+    throw;
+  }
+  if (own) Execute("COMMIT"), version_.Forget();
 }
 
 RunResult Session::Run(std::string_view text, bool updatable) {
@@ -146,6 +176,7 @@ RunResult Session::RunBatch(const TokenList& tokenList, bool updatable) {
     if (parser.AtEnd()) break;
     const ast::StatementPtr statement = parser.Statement(first);
     try {
+      RefreshCatalog();
       RunResult next = RunStatement(tokenList, *statement, parser, updatable);
       if (!next.IsEmpty()) results.results.push_back(std::move(next));
     } catch (const ServerError& error) {

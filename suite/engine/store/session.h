@@ -10,6 +10,7 @@
 
 #include "suite/engine/functions/server_functions.h"
 #include "suite/engine/language/parser.h"
+#include "suite/engine/store/file_version.h"
 #include "suite/engine/store/observer.h"
 #include "suite/engine/store/store.h"
 #include "suite/engine/translation/statement_cache.h"
@@ -70,7 +71,8 @@ class Session : public std::enable_shared_from_this<Session> {
   void Rollback();
   bool InTransaction() const { return manual_; }
   /// What every statement and row goes through on its way to the server. Raises the provider's error when the connection still
-  /// has unread rows under way inside a transaction; outside, the provider logs on a second time.
+  /// has unread rows under way inside a transaction; outside, the provider logs on a second time. Afterwards the catalog is the
+  /// file's, whoever has changed it.
   void Use();
   /// Runs `body`; when its error has made the server roll back, the transaction is gone.
   template <class Body>
@@ -89,8 +91,6 @@ class Session : public std::enable_shared_from_this<Session> {
   StatementObserver* Observer() const { return observer_; }
   const Catalog& Names() const { return store_->catalog; }
   sqlite3* Handle() const { return handle_; }
-  /// Reads the stored definitions into the catalog.
-  void LoadCatalog();
   /// Runs a script (Database::RunScript).
   void RunScript(std::string_view text);
 
@@ -109,6 +109,12 @@ class Session : public std::enable_shared_from_this<Session> {
   bool ConditionHolds(const TokenList& tokenList, const ast::Expr& condition);
   void RunBatchText(std::string_view text);
   void Configure();
+  /// Reads the stored definitions into the catalog when it is not of the file's version.
+  void RefreshCatalog();
+  /// The catalog and the file's definitions have changed alike.
+  void DefinitionsChanged();
+  /// What the transaction that has ended defined is gone.
+  void ForgetDefinitions();
   void Execute(const char* sql);
   void BeginTransaction();
   void OpenTransaction();
@@ -123,6 +129,7 @@ class Session : public std::enable_shared_from_this<Session> {
   std::shared_ptr<Store> store_;
   StatementObserver* observer_;
   sqlite3* handle_ = nullptr;
+  FileVersion version_;
   FunctionContext functions_;
   StatementCache cache_;
   std::int64_t cacheVersion_ = -1;
@@ -141,17 +148,22 @@ class Session : public std::enable_shared_from_this<Session> {
 template <class Body>
 void Session::Atomically(const Body& body) {
   Use();
-  Execute("SAVEPOINT rows");
+  const bool own = !HasStoreTransaction();
+  // With the write lock taken first, what the catalog says is still true when the body writes.
+  Execute(own ? "BEGIN IMMEDIATE" : "SAVEPOINT rows");
   try {
+    if (own) version_.Forget(), RefreshCatalog();
     body();
+    Execute(own ? "COMMIT" : "RELEASE rows");
   } catch (...) {
     if (HasStoreTransaction()) {  // else the server has undone more than this already
-      Execute("ROLLBACK TO rows");
-      Execute("RELEASE rows");
+      Execute(own ? "ROLLBACK" : "ROLLBACK TO rows");
+      if (!own) Execute("RELEASE rows");
     }
+    if (own) version_.Forget();
     throw;
   }
-  Execute("RELEASE rows");
+  if (own) version_.Forget();
 }
 
 template <class Body>

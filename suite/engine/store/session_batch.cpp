@@ -40,6 +40,8 @@ void Session::OpenTransaction() {
   Execute("BEGIN IMMEDIATE");
   inTransaction_ = true;
   lost_ = false;
+  version_.Forget();
+  RefreshCatalog();
   versionAtBegin_ = store_->catalog.Version();
 }
 
@@ -61,12 +63,13 @@ void Session::RollbackTransaction() {
   if (!inTransaction_) return;
   // After a grave error (a full disk) the store has already rolled back by itself.
   EndTransaction(HasStoreTransaction() ? "ROLLBACK" : nullptr);
-  if (versionAtBegin_ != store_->catalog.Version()) LoadCatalog();
+  ForgetDefinitions();
 }
 
 void Session::EndTransaction(const char* sql) {
   if (sql) Execute(sql);
   inTransaction_ = false;
+  version_.Forget();
   for (OpenRows* rows : open_) rows->TransactionEnded();
 }
 
@@ -78,7 +81,7 @@ void Session::Lose(const ServerError& error) {
   if (!inTransaction_ || !error.EndsTransaction()) return;
   EndTransaction(HasStoreTransaction() ? "ROLLBACK" : nullptr);
   lost_ = true;
-  if (versionAtBegin_ != store_->catalog.Version()) LoadCatalog();
+  ForgetDefinitions();
 }
 
 void Session::CloseRows() {
@@ -86,9 +89,8 @@ void Session::CloseRows() {
   for (OpenRows* each : rows) each->ConnectionClosed();
 }
 
-void Session::LoadCatalog() {
-  Definitions definitions(*this);
-  definitions.Load();
+void Session::ForgetDefinitions() {
+  if (versionAtBegin_ != store_->catalog.Version()) store_->catalogOf = -1;
 }
 
 RunResult Session::RunProcedure(const TokenList& tokenList, const ast::Execute& execute, bool updatable) {

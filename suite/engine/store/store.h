@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -19,6 +20,8 @@ struct Store {
   bool memory = false;
   std::function<vb::Date()> clock;
   Catalog catalog;
+  /// The version of the file's definitions that the catalog was read at; -1: read it again.
+  std::int32_t catalogOf = -1;
   /// The first session: reads the catalog, runs scripts, and keeps a memory database alive.
   std::shared_ptr<Session> keeper;
 };

@@ -73,6 +73,7 @@ enum ServerErrorNumber : int {
   kViewColumnCount = 8158,
   kNotPrepared = 8180,
   kConnectionReset = 10054,
+  kTableChanged = 16943,
   kRowNotFound = 16947,
 };
 

@@ -2,12 +2,12 @@
 
 #include <csignal>
 #include <cstdio>
-#include <filesystem>
 #include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "base/ado/constants.h"
+#include "tests/suite/engine/database_file.h"
 #include "tests/suite/engine/request_tables.h"
 
 namespace {
@@ -219,16 +219,7 @@ TEST_F(Observed, ARefusedCommitLeavesTheTransactionToBeRolledBack) {
   EXPECT_EQ(Count(), 0);
 }
 
-/// A database file of the test's own, gone with it.
-class Files : public testing::Test {
- protected:
-  Files() : path_(std::filesystem::temp_directory_path() / ("shop_engine_" + std::to_string(::getpid()) + ".db")) { Remove(); }
-  ~Files() override { Remove(); }
-  void Remove() {
-    for (const char* tail : {"", "-wal", "-shm"}) std::filesystem::remove(path_.string() + tail);
-  }
-  std::filesystem::path path_;
-};
+class Files : public DatabaseFile {};
 
 TEST_F(Files, KeepDefinitionsAndRowsFromOneOpeningToTheNext) {
   {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "suite/engine/objects/database.h"
 #include "suite/helpers/register_helpers.h"
 #include "tests/suite/helpers/helper_form.h"
 
@@ -129,6 +130,24 @@ TEST(Auditing, OneRecordAnActionWithWhatChangedInTheForm) {
   EXPECT_EQ(shop.Rows("select companyid,shopid,userid,interfaceid,loggedtime,recordid,recordno,action,changes from smpUserAudit"),
             (std::vector<std::string>{"1|2|3|1503|2024-03-15 09:30:00|7|GR/7's|E|txtQuantity: 12 -> 15\n",
                                       "1|2|3|1503|2024-03-15 09:30:00|8|GR/8|D|"}));
+}
+
+/// Another workstation, which makes a table at the moment that somebody else is about to.
+struct QuickerWorkstation : suite::StatementObserver {
+  explicit QuickerWorkstation(suite::Database& shop) : database(shop) {}
+  void Statement(std::string_view text) override {
+    if (text.starts_with("create table")) database.RunScript(text);
+  }
+  suite::Database& database;
+};
+
+TEST(Auditing, ATableThatAnotherWorkstationMadeMeanwhileIsUsed) {
+  HelperShop shop;
+  QuickerWorkstation quicker(*shop.database);
+  const late::ObjectPtr audit = shop.registry.Create("Audit.clsUserAuditing");
+  audit->Call("OpenObject", {shop.database->Connect(&quicker), 1, 2, 3, 1503, vb::MakeDate(2024, 3, 15, 9)});
+  audit->Call("SaveUserAuditingInfo", {"8", "GR/8", true, "D"});
+  EXPECT_EQ(shop.Rows("select recordno from smpUserAudit"), std::vector<std::string>{"GR/8"});
 }
 
 TEST(GridSettings, WidthsComeBackForTheSameUserOnly) {

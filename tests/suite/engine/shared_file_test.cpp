@@ -1,0 +1,87 @@
+// One file, opened several times: each opening has a catalog of its own, as the programs of several workstations have.
+#include <functional>
+#include <memory>
+
+#include "base/ado/recordset.h"
+#include "suite/engine/objects/database.h"
+#include "suite/engine/values/errors.h"
+#include "tests/suite/engine/database_file.h"
+
+namespace {
+
+class SharedFile : public DatabaseFile {
+ protected:
+  /// A program at work on the file.
+  struct Workstation {
+    explicit Workstation(const std::string& path) : database(suite::Database::Open(path)), connection(database->Connect()) {}
+
+    late::ObjectPtr Execute(const std::string& statement) { return connection->Call("Execute", {statement}).ToObject(); }
+    std::string Ask(const std::string& query) { return Execute(query)->Get("Collect", {std::int32_t{0}}).TextOrEmpty(); }
+    late::ObjectPtr Open(const std::string& query, ado::CursorType cursor = ado::kKeyset) {
+      late::ClassRegistry registry;
+      suite::RegisterAdo(registry);
+      const late::ObjectPtr rows = registry.Create("ADODB.Recordset");
+      rows->Call("Open", {query, connection, std::int32_t{cursor}, std::int32_t{ado::kOptimistic}});
+      return rows;
+    }
+
+    std::shared_ptr<suite::Database> database;
+    late::ObjectPtr connection;
+  };
+
+  static int ServerErrorOf(const std::function<void()>& action) {
+    try {
+      action();
+    } catch (const suite::ServerError& error) {
+      return error.NativeError();
+    }
+    return 0;
+  }
+
+  Workstation first_{path_.string()}, second_{path_.string()};
+};
+
+TEST_F(SharedFile, WhatOneDefinesTheOtherKnowsAtItsNextStatement) {
+  first_.Execute("create table t (v decimal(9,2) null)");
+  second_.Execute("insert into t values (1.25)");
+  EXPECT_EQ(first_.Ask("select v from t"), "1.25");
+  second_.Execute("drop table t");
+  second_.Execute("create table t (v int null)");
+  second_.Execute("insert into t values (125)");
+  EXPECT_EQ(first_.Ask("select v from t"), "125") << "and not in the type that it had before";
+  first_.Execute("alter table t add w varchar(5) null");
+  EXPECT_EQ(second_.Ask("select count(*) from t where w is null"), "1");
+  first_.Execute("create procedure p @shop int as select 1");
+  EXPECT_EQ(ServerErrorOf([&] { second_.Execute("create procedure p @shop int as select 1"); }), 2714);
+  first_.Execute("drop table t");
+  EXPECT_EQ(ServerErrorOf([&] { second_.Execute("insert into t values (1)"); }), 208);
+}
+
+TEST_F(SharedFile, ADefinitionCountsFromItsCommitOn) {
+  first_.connection->Call("BeginTrans");
+  first_.Execute("create table t (v int null)");
+  first_.Execute("insert into t values (7)");
+  EXPECT_EQ(ServerErrorOf([&] { second_.Execute("select v from t"); }), 208);
+  const late::ObjectPtr beside = first_.database->Connect();
+  EXPECT_EQ(ServerErrorOf([&] { beside->Call("Execute", {"select v from t"}); }), 208) << "nor for another connection here";
+  EXPECT_EQ(first_.Ask("select v from t"), "7");
+  first_.connection->Call("RollbackTrans");
+  EXPECT_EQ(ServerErrorOf([&] { first_.Execute("select v from t"); }), 208);
+  second_.Execute("create table t (v decimal(9,2) null)");
+  second_.Execute("insert into t values (1.25)");
+  EXPECT_EQ(first_.Ask("select v from t"), "1.25");
+}
+
+TEST_F(SharedFile, RowsOfATableThatIsMadeAnewAreNotWrittenInItsOldTypes) {
+  first_.Execute("create table t (id int null, v decimal(9,2) null)");
+  first_.Execute("insert into t values (1, 1.25)");
+  const late::ObjectPtr rows = first_.Open("select * from t", ado::kStatic);
+  rows->Put("Collect", {"v"}, 2.5);
+  second_.Execute("drop table t");
+  second_.Execute("create table t (id int null, v int null)");
+  second_.Execute("insert into t values (1, 3)");
+  EXPECT_EQ(ServerErrorOf([&] { rows->Call("Update"); }), 16943);
+  EXPECT_EQ(second_.Ask("select v from t"), "3");
+}
+
+}  // namespace
