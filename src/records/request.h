@@ -19,6 +19,7 @@ struct RequestLine {
 
   /// The quantity in base units; 0 where the text begins with no number.
   double Quantity() const;
+  bool operator==(const RequestLine&) const = default;
 };
 
 /// The customer document that a request is raised for.
@@ -28,6 +29,7 @@ struct CustomerLink {
   std::int32_t id = 0;  ///< the invoice's, or the re-export's
   std::string number;
   std::size_t position = 0;  ///< in the list that it was checked in, from 1
+  bool operator==(const CustomerLink&) const = default;
 };
 
 enum class RequestType { ToGodown, PurchaseOrder };
@@ -45,6 +47,7 @@ struct Request {
 
   /// Whether a line asks for more than 0.
   bool HasLineWithQuantity() const;
+  bool operator==(const Request&) const = default;
 };
 
 }  // namespace goods
