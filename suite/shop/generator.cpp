@@ -125,17 +125,21 @@ void AddRequests(ado::Connection& connection, int count, int lines, int poolItem
 
 }  // namespace
 
-void GenerateShop(Database& database, const Scale& scale) {
+void GenerateShop(ado::Connection& connection, const Scale& scale) {
   const int requests = std::max(scale.requests, 0);
   const int items = std::max(scale.items, 0);
   const int lines = std::max(scale.linesPerRequest, 0);
-  ado::Connection connection(database.Connect());
-  ado::Transaction transaction(connection);
   MakeNumbers(connection, std::max({requests, items, lines}));
   MakeDays(connection);
   AddItems(connection, items);
   AddRequests(connection, requests, lines, MakeItemPool(connection));
   for (const auto* table : {"genNumber", "genDay", "genItem"}) connection.Execute(std::string("drop table ") + table);
+}
+
+void GenerateShop(Database& database, const Scale& scale) {
+  ado::Connection connection(database.Connect());
+  ado::Transaction transaction(connection);
+  GenerateShop(connection, scale);
   transaction.Commit();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/ado/connection.h"
+
 namespace suite {
 
 class Database;
@@ -15,6 +17,8 @@ struct Scale {
 /// their lines, every one inside the register's date range. All or nothing: one transaction. Needs the sample data. Numbers
 /// below 0 count as 0. Lines of a request have items of their own as long as the shop lists enough of them (5,000 at most).
 void GenerateShop(Database& database, const Scale& scale);
+/// The same inside the transaction that the caller has begun.
+void GenerateShop(ado::Connection& connection, const Scale& scale);
 void GenerateShop(Database& database, int requests, int items);
 
 }  // namespace suite

@@ -26,12 +26,13 @@ namespace {
 constexpr std::int32_t kDefaultId = 1;
 constexpr std::string_view kReportServer = "Crystal.CRPE.Application";
 
-void FillNewDatabase(suite::Database& database, const Options& options) {
+void FillNewDatabase(suite::Database& database, ado::Connection connection, const Options& options) {
   suite::LoadSchema(database, options.replication);
   if (options.empty) return;
   suite::LoadSample(database);
   if (options.requests || options.items) {
-    suite::GenerateShop(database, static_cast<int>(options.requests.value_or(0)), static_cast<int>(options.items.value_or(0)));
+    suite::GenerateShop(connection, suite::Scale{.requests = static_cast<int>(options.requests.value_or(0)),
+                                                 .items = static_cast<int>(options.items.value_or(0))});
   }
 }
 
@@ -39,7 +40,8 @@ std::shared_ptr<suite::Database> OpenDatabase(const Options& options) {
   suite::Database::Options settings;
   if (options.now) settings.clock = [now = *options.now] { return now; };
   auto database = suite::Database::Open(options.database, std::move(settings));
-  if (database->IsEmpty()) FillNewDatabase(*database, options);
+  database->FillWhenEmpty(
+      [&](const late::ObjectPtr& connection) { FillNewDatabase(*database, ado::Connection(connection), options); });
   if (!options.init.empty()) {
     std::ifstream stream(options.init, std::ios::binary);
     if (!stream) throw OptionError("cannot read " + options.init);

@@ -5,6 +5,7 @@
 #include <ctime>
 #include <sqlite3.h>
 
+#include "base/ado/connection.h"
 #include "suite/engine/objects/connection.h"
 #include "suite/engine/objects/recordset.h"
 #include "suite/engine/store/definitions.h"
@@ -60,6 +61,16 @@ bool Database::IsEmpty() const {
   translation.sql = "SELECT count(*) FROM sysobjects WHERE xtype = 'U'";
   const StatementHandle handle = store_->keeper->Prepare(std::move(translation));
   return store_->keeper->Step(handle.Get()) && sqlite3_column_int64(handle.Get(), 0) == 0;
+}
+
+void Database::FillWhenEmpty(const std::function<void(const late::ObjectPtr& connection)>& fill) {
+  if (!IsEmpty()) return;
+  ado::Connection connection(std::make_shared<Connection>(store_->keeper, store_, "embedded:"));
+  ado::Transaction transaction(connection);
+  store_->keeper->Use();  // takes the write lock
+  if (!IsEmpty()) return;
+  fill(connection.Object());
+  transaction.Commit();
 }
 
 void RegisterAdo(late::ClassRegistry& registry) {

@@ -37,6 +37,10 @@ class Database {
   void RunScript(std::string_view text);
   /// Whether there is no table in it yet.
   bool IsEmpty() const;
+  /// When it is empty, runs `fill` in one transaction, with a connection that is part of it, as RunScript is: whoever else wants
+  /// to fill the file waits and finds it filled, and a process that dies or fails amid it leaves it empty. What `fill` raises is
+  /// raised.
+  void FillWhenEmpty(const std::function<void(const late::ObjectPtr& connection)>& fill);
 
  private:
   explicit Database(std::shared_ptr<Store> store);

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <sqlite3.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include "base/ado/constants.h"
@@ -219,7 +220,14 @@ TEST_F(Observed, ARefusedCommitLeavesTheTransactionToBeRolledBack) {
   EXPECT_EQ(Count(), 0);
 }
 
-class Files : public DatabaseFile {};
+class Files : public DatabaseFile {
+ protected:
+  /// The rows of table t.
+  int Count() {
+    const late::ObjectPtr connection = suite::Database::Open(path_.string())->Connect();
+    return connection->Call("Execute", {"select count(*) from t"}).ToObject()->Get("Collect", {std::int32_t{0}}).ToInt32();
+  }
+};
 
 TEST_F(Files, KeepDefinitionsAndRowsFromOneOpeningToTheNext) {
   {
@@ -270,21 +278,45 @@ void RunAndDie(const std::string& path, const std::function<void(late::Object&)>
 
 TEST_F(Files, AProcessThatDiesLeavesTheStateBeforeOrAfterItsSave) {
   suite::Database::Open(path_.string())->RunScript("create table t (id int null)");
-  const auto count = [&] {
-    const late::ObjectPtr connection = suite::Database::Open(path_.string())->Connect();
-    return connection->Call("Execute", {"select count(*) from t"}).ToObject()->Get("Collect", {std::int32_t{0}}).ToInt32();
-  };
   const auto save = [](late::Object& connection) {
     connection.Call("BeginTrans");
     for (int i = 0; i < 5000; ++i) connection.Call("Execute", {"insert into t values (" + std::to_string(i) + ")"});
   };
   RunAndDie(path_.string(), save);
-  EXPECT_EQ(count(), 0);
+  EXPECT_EQ(Count(), 0);
   RunAndDie(path_.string(), [&](late::Object& connection) {
     save(connection);
     connection.Call("CommitTrans");
   });
-  EXPECT_EQ(count(), 5000);
+  EXPECT_EQ(Count(), 5000);
+}
+
+/// A new shop of two statements, with time for somebody else between them.
+void FillSlowly(suite::Database& database) {
+  database.FillWhenEmpty([&](const late::ObjectPtr&) {
+    database.RunScript("create table t (v int null)");
+    ::usleep(50000);
+    database.RunScript("insert into t values (1)");
+  });
+}
+
+TEST_F(Files, TwoProgramsThatFillOneAtOnceFillItOnce) {
+  const auto fill = [&] { FillSlowly(*suite::Database::Open(path_.string())); };
+  std::thread other(fill);
+  fill();
+  other.join();
+  EXPECT_EQ(Count(), 1);
+}
+
+TEST_F(Files, AFillingThatDiesLeavesAFileToBeFilled) {
+  const pid_t child = ::fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) FillSlowly(*suite::Database::Open(path_.string())), ::_exit(0);
+  ::usleep(30000);
+  ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+  FillSlowly(*suite::Database::Open(path_.string()));
+  EXPECT_EQ(Count(), 1);
 }
 
 TEST_F(Files, AnotherKindOfFileIsRefused) {

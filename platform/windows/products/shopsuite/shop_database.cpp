@@ -16,10 +16,10 @@ const late::MemberTable<ShopDatabase>& ShopDatabase::Members() {
 
 late::Value ShopDatabase::Open(const std::string& path) {
   const auto database = suite::Database::Open(path);
-  if (database->IsEmpty()) {
+  database->FillWhenEmpty([&](const late::ObjectPtr&) {
     suite::LoadSchema(*database, false);
     suite::LoadSample(*database);
-  }
+  });
   return database->Connect();
 }
 
