@@ -23,7 +23,7 @@ RawDatabase::RawDatabase(const std::string& path) {
   // The files' text columns name the server's collation.
   Check(database_, sqlite3_create_collation(database_, "server", SQLITE_UTF8, nullptr, &Compare));
   Run("PRAGMA journal_mode = WAL");
-  Run("PRAGMA synchronous = NORMAL");
+  Run("PRAGMA synchronous = FULL");
 }
 
 RawDatabase::~RawDatabase() {

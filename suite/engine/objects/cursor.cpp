@@ -16,6 +16,12 @@ constexpr std::string_view kSource = "ADODB.Recordset";
 
 bool Cursor::Fetch() {
   if (state_ == State::Done) return false;
+  if (!ahead_.empty()) {
+    ahead_.pop_front();
+    if (ahead_.empty()) return state_ = State::Done, false;
+    ++read_;
+    return true;
+  }
   state_ = State::Reading;
   do {
     if ((maxRows_ > 0 && read_ >= maxRows_) || !session_->Step(rows_.Get())) {
@@ -50,6 +56,20 @@ Cursor::Row Cursor::ReadRow() {
 
 void Cursor::Start() {
   if (state_ == State::NotStarted) Fetch();
+}
+
+void Cursor::ReadAhead() {
+  if (state_ != State::Reading || !ahead_.empty()) return;
+  if (keeps_) return ReadAll();
+  do {
+    ahead_.push_back(ReadRow());
+  } while ((maxRows_ <= 0 || read_ + static_cast<std::int64_t>(ahead_.size()) <= maxRows_) && session_->Step(rows_.Get()));
+  sqlite3_reset(rows_.Get());
+}
+
+late::Value Cursor::Streamed(std::size_t column) const {
+  if (!ahead_.empty()) return ahead_.front().values[column];
+  return ToValue(rows_.Get(), static_cast<int>(column), Columns()[column].type);
 }
 
 void Cursor::FetchTo(std::size_t index) {
@@ -119,6 +139,7 @@ void Cursor::MoveFirst() {
   onAdded_ = false;
   if (state_ == State::NotStarted || (state_ == State::Reading && read_ <= 1)) return Start();
   // Going back to the first row of a forward-only cursor runs the query again.
+  ahead_.clear();
   sqlite3_reset(rows_.Get());
   state_ = State::NotStarted;
   read_ = 0;
@@ -162,12 +183,13 @@ Cursor::Row& Cursor::CurrentRow() {
 late::Value Cursor::Value(std::size_t column) {
   if (!OnRow()) RaiseAdo(ado::kNoCurrentRecord, kSource);
   if (keeps_ || onAdded_) return CurrentRow().values[column];
-  return ToValue(rows_.Get(), static_cast<int>(column), Columns()[column].type);
+  return Streamed(column);
 }
 
 std::int64_t Cursor::RowId() {
   if (!OnRow()) RaiseAdo(ado::kNoCurrentRecord, kSource);
   if (keeps_ || onAdded_) return CurrentRow().id;
+  if (!ahead_.empty()) return ahead_.front().id;
   return sqlite3_column_int64(rows_.Get(), static_cast<int>(Columns().size()));
 }
 
@@ -230,10 +252,8 @@ late::ArrayPtr Cursor::Take(std::int64_t count, const std::vector<int>& columns)
 
 void Cursor::TakeStreaming(std::int64_t count, const std::vector<int>& columns, std::vector<late::Value>& items) {
   onAdded_ = false;
-  const auto& definitions = Columns();
   for (std::int64_t taken = 0; (count < 0 || taken < count) && state_ != State::Done; ++taken) {
-    for (const int column : columns)
-      items.push_back(ToValue(rows_.Get(), column, definitions[static_cast<std::size_t>(column)].type));
+    for (const int column : columns) items.push_back(Streamed(static_cast<std::size_t>(column)));
     Fetch();
   }
 }

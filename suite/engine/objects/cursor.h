@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <set>
 #include <vector>
 
@@ -44,6 +45,8 @@ class Cursor {
   /// Reads to the end.
   std::int64_t Count();
   void ReadAll();
+  /// Reads the rest into memory, so that the store has no open rows; nobody notices.
+  void ReadAhead();
 
   /// A value of the current row, which must be there.
   late::Value Value(std::size_t column);
@@ -62,6 +65,8 @@ class Cursor {
   enum class State { NotStarted, Reading, Done };
 
   bool Fetch();
+  /// A value of the row that was fetched last, of a cursor that keeps none.
+  late::Value Streamed(std::size_t column) const;
   void FetchTo(std::size_t index);
   void Finish();
   Row ReadRow();
@@ -76,6 +81,7 @@ class Cursor {
   std::int64_t read_ = 0;
   std::int64_t position_ = 0;
   std::vector<Row> kept_;
+  std::deque<Row> ahead_;            ///< of a cursor that keeps no row: the current one and all after it
   std::vector<Row> added_;           ///< new rows, after all that the query returns
   std::set<std::int64_t> addedIds_;  ///< not to be met a second time when the query reaches them
   bool onAdded_ = false;             ///< the current row is the last one added

@@ -53,6 +53,7 @@ class Recordset : public late::TableObject<Recordset>, private OpenRows {
   void Close();
   void Requery();
   void ConnectionClosed() override;
+  void ReadAhead() override;
   void TransactionEnded() override;
   bool IsUnread() const override;
   void TakeResult(RunResult result, bool updatable);

@@ -120,6 +120,10 @@ bool Recordset::IsUnread() const {
   return cursor_ && onServer_ && cursorType_ == ado::kForwardOnly && lockType_ == ado::kReadOnly && !cursor_->IsAtEnd();
 }
 
+void Recordset::ReadAhead() {
+  if (cursor_) cursor_->ReadAhead();
+}
+
 void Recordset::TransactionEnded() {
   if (!onServer_ || !cursor_) return;
   edit_ = Edit::None;

@@ -21,6 +21,7 @@ RowWriter::ColumnSet& RowWriter::SetOf(const std::vector<int>& columns) {
 }
 
 void RowWriter::RequireSameTable() {
+  session_->PrepareToWrite();
   session_->Use();
   if (catalogVersion_ == session_->Names().Version()) return;
   const Relation* now = session_->Names().FindRelation(table_.name);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <sqlite3.h>
+#include <thread>
 
 #include "suite/engine/store/definitions.h"
 #include "suite/engine/values/conversion.h"
@@ -46,11 +47,37 @@ void Session::Configure() {
     // Readers of the shared store see what others have not committed, instead of waiting for it.
     Execute("PRAGMA read_uncommitted = 1");
   } else {
-    Execute("PRAGMA journal_mode = WAL");
-    Execute("PRAGMA synchronous = NORMAL");
+    RefuseForeignFile();
+    UseWriteAheadLog();
+    Execute("PRAGMA synchronous = FULL");  // what a commit has answered is on the disk
   }
   version_.Watch(handle_, !store_->memory);
   Execute("PRAGMA case_sensitive_like = 0");
+}
+
+/// A database of another program has tables, but not the engine's.
+void Session::RefuseForeignFile() {
+  Translation translation;
+  translation.sql =
+      "SELECT count(*), total(name = 'sysobjects' AND sql LIKE '%definition%') FROM sqlite_master WHERE type IN ('table', "
+      "'view')";
+  const StatementHandle tables = Prepare(std::move(translation));
+  if (!Step(tables.Get()) || sqlite3_column_int(tables.Get(), 0) == 0 || sqlite3_column_int(tables.Get(), 1) > 0) return;
+  RaiseServer(kStoreFailure, "The file '" + store_->location +
+                                 "' is a database of another program. Nothing in it was changed. Choose the shop's own file, or "
+                                 "a new name for a new shop.");
+}
+
+/// A file in the old journal mode must be had alone for the change, and the store itself does not wait for that.
+void Session::UseWriteAheadLog() {
+  constexpr std::chrono::milliseconds kBetweenTries{10};
+  const auto deadline = std::chrono::steady_clock::now() + timeout_;
+  for (;;) {
+    const int code = sqlite3_exec(handle_, "PRAGMA journal_mode = WAL", nullptr, nullptr, nullptr);
+    if (code == SQLITE_OK) return;
+    if ((code & 0xff) != SQLITE_BUSY || std::chrono::steady_clock::now() > deadline) RaiseFromStore(handle_, code);
+    std::this_thread::sleep_for(kBetweenTries);
+  }
 }
 
 void Session::Execute(const char* sql) {
@@ -112,6 +139,11 @@ void Session::Use() {
   }
   if (manual_ && !inTransaction_) OpenTransaction();
   RefreshCatalog();
+}
+
+void Session::PrepareToWrite() {
+  if (HasStoreTransaction()) return;
+  for (OpenRows* rows : open_) rows->ReadAhead();
 }
 
 void Session::DefinitionsChanged() {
@@ -283,6 +315,7 @@ RunResult Session::Start(const TokenList& tokenList, std::shared_ptr<CachedState
     result.rows = std::move(handle);
     return result;
   }
+  PrepareToWrite();
   while (Step(handle.Get())) {
   }
   if (countsRows_) result.affected = sqlite3_changes64(handle_);

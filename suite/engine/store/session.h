@@ -42,6 +42,8 @@ class OpenRows {
  public:
   virtual ~OpenRows() = default;
   virtual void ConnectionClosed() = 0;
+  /// Reads what the store still has of the rows: while they are open there, the connection cannot write once another one has.
+  virtual void ReadAhead() = 0;
   /// The transaction was committed or rolled back: rows on the server end with it.
   virtual void TransactionEnded() = 0;
   /// Whether the connection still has rows of this under way and can carry nothing else.
@@ -74,6 +76,8 @@ class Session : public std::enable_shared_from_this<Session> {
   /// has unread rows under way inside a transaction; outside, the provider logs on a second time. Afterwards the catalog is the
   /// file's, whoever has changed it.
   void Use();
+  /// To be called before something is written: outside a transaction the open rows are read ahead.
+  void PrepareToWrite();
   /// Runs `body`; when its error has made the server roll back, the transaction is gone.
   template <class Body>
   auto Guarded(const Body& body);
@@ -109,6 +113,8 @@ class Session : public std::enable_shared_from_this<Session> {
   bool ConditionHolds(const TokenList& tokenList, const ast::Expr& condition);
   void RunBatchText(std::string_view text);
   void Configure();
+  void RefuseForeignFile();
+  void UseWriteAheadLog();
   /// Reads the stored definitions into the catalog when it is not of the file's version.
   void RefreshCatalog();
   /// The catalog and the file's definitions have changed alike.
@@ -148,6 +154,7 @@ class Session : public std::enable_shared_from_this<Session> {
 template <class Body>
 void Session::Atomically(const Body& body) {
   Use();
+  PrepareToWrite();
   const bool own = !HasStoreTransaction();
   // With the write lock taken first, what the catalog says is still true when the body writes.
   Execute(own ? "BEGIN IMMEDIATE" : "SAVEPOINT rows");

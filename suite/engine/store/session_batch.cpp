@@ -37,6 +37,7 @@ void Session::BeginTransaction() {
 
 void Session::OpenTransaction() {
   // The write lock is taken at once: what a save reads to number its request is then still true when it writes.
+  PrepareToWrite();
   Execute("BEGIN IMMEDIATE");
   inTransaction_ = true;
   lost_ = false;

@@ -1,6 +1,8 @@
 // One file, opened several times: each opening has a catalog of its own, as the programs of several workstations have.
 #include <functional>
 #include <memory>
+#include <sqlite3.h>
+#include <thread>
 
 #include "base/ado/recordset.h"
 #include "suite/engine/objects/database.h"
@@ -8,6 +10,15 @@
 #include "tests/suite/engine/database_file.h"
 
 namespace {
+
+int ServerErrorOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const suite::ServerError& error) {
+    return error.NativeError();
+  }
+  return 0;
+}
 
 class SharedFile : public DatabaseFile {
  protected:
@@ -28,15 +39,6 @@ class SharedFile : public DatabaseFile {
     std::shared_ptr<suite::Database> database;
     late::ObjectPtr connection;
   };
-
-  static int ServerErrorOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const suite::ServerError& error) {
-      return error.NativeError();
-    }
-    return 0;
-  }
 
   Workstation first_{path_.string()}, second_{path_.string()};
 };
@@ -82,6 +84,56 @@ TEST_F(SharedFile, RowsOfATableThatIsMadeAnewAreNotWrittenInItsOldTypes) {
   second_.Execute("insert into t values (1, 3)");
   EXPECT_EQ(ServerErrorOf([&] { rows->Call("Update"); }), 16943);
   EXPECT_EQ(second_.Ask("select v from t"), "3");
+}
+
+TEST_F(SharedFile, ARowIsWrittenThroughOpenRowsThatAnotherHasOvertaken) {
+  first_.Execute("create table t (id int null, v int null)");
+  for (int id = 1; id <= 4; ++id) first_.Execute("insert into t values (" + std::to_string(id) + ", 0)");
+  for (const ado::CursorType cursor : {ado::kKeyset, ado::kForwardOnly}) {
+    const late::ObjectPtr rows = first_.Open("select * from t order by id", cursor);
+    EXPECT_FALSE(rows->Get("EOF").ToBool());
+    second_.Execute("update t set v = v + 10 where id = 3");
+    rows->Put("Collect", {"v"}, std::int32_t{1});
+    rows->Call("Update");
+    std::string left;
+    for (; !rows->Get("EOF").ToBool(); rows->Call("MoveNext")) left += rows->Get("Collect", {"id"}).ToText();
+    EXPECT_EQ(left, "1234") << "and the rows that were left are still read";
+    rows->Call("Close");
+  }
+  EXPECT_EQ(second_.Ask("select sum(v) from t"), "21");
+}
+
+/// A file as another program left it, and that program still at work on it.
+struct ForeignFile {
+  explicit ForeignFile(const std::string& path) { sqlite3_open(path.c_str(), &handle); }
+  ~ForeignFile() { sqlite3_close(handle); }
+  void Run(const char* sql) const { EXPECT_EQ(sqlite3_exec(handle, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sql; }
+  sqlite3* handle = nullptr;
+};
+
+class FilesOfOthers : public DatabaseFile {};
+
+TEST_F(FilesOfOthers, AreRefusedAsTheyAre) {
+  ForeignFile foreign(path_.string());
+  foreign.Run("create table notes (text)");
+  EXPECT_EQ(ServerErrorOf([&] { suite::Database::Open(path_.string()); }), 823);
+  foreign.Run("pragma journal_mode = delete");
+  foreign.Run("create table sysobjects (id)");
+  EXPECT_EQ(ServerErrorOf([&] { suite::Database::Open(path_.string()); }), 823);
+  foreign.Run("drop table notes");
+}
+
+TEST_F(FilesOfOthers, AnOldJournalIsChangedWhenItsWriterIsDone) {
+  suite::Database::Open(path_.string())->RunScript("create table t (v int null)");
+  ForeignFile writer(path_.string());
+  writer.Run("pragma journal_mode = delete");
+  writer.Run("begin immediate");
+  std::thread done([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    writer.Run("commit");
+  });
+  EXPECT_EQ(ServerErrorOf([&] { suite::Database::Open(path_.string()); }), 0);
+  done.join();
 }
 
 }  // namespace
