@@ -7,130 +7,19 @@
 #include <memory>
 
 #include "base/vb/error.h"
-#include "platform/windows/com/com_factory.h"
 #include "platform/windows/com/dispatch_object.h"
-#include "platform/windows/window_queries.h"
 #include "tests/windows/desktop/windows_refused.h"
 #include "tests/windows/hosts/bad_helper.h"
-#include "tests/windows/hosts/hands.h"
+#include "tests/windows/hosts/trial_host.h"
 #include "tests/windows/hosts/watchdog.h"
 
 namespace hosts {
 namespace {
 
-constexpr const char* kRegister = "Goods Request to HQ";
-constexpr const char* kEditor = "Goods Request";
-constexpr UINT kWork = WM_APP + 1;
 constexpr long kAlreadyShown = 400;
 constexpr long kNoWindow = 7;
 constexpr DWORD kLook = 100;  // milliseconds
 constexpr int kMostLooks = 300;
-
-bool failed = false;
-
-void Expect(bool holds, const std::string& what) {
-  if (!holds) std::fprintf(stderr, "not so: %s\n", what.c_str());
-  failed = failed || !holds;
-}
-
-std::function<void()> sentWork;
-
-LRESULT CALLBACK HostProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == kWork && sentWork) sentWork();
-  return DefWindowProcW(window, message, wParam, lParam);
-}
-
-DWORD CALLBACK SendWork(void* window) {
-  Sleep(300);  // the register waits for its messages by then
-  SendMessageW(static_cast<HWND>(window), kWork, 0, 0);
-  return 0;
-}
-
-HWND MakeWindow(const wchar_t* title, int show) {
-  WNDCLASSEXW description{};
-  description.cbSize = sizeof(description);
-  description.lpfnWndProc = HostProcedure;
-  description.hInstance = GetModuleHandleW(nullptr);
-  description.lpszClassName = L"BadHost";
-  RegisterClassExW(&description);
-  const HWND window = CreateWindowExW(0, description.lpszClassName, title, WS_OVERLAPPEDWINDOW, 20, 20, 500, 300, nullptr,
-                                      nullptr, description.hInstance, nullptr);
-  ShowWindow(window, show);
-  if (show == SW_SHOW) SetActiveWindow(window);
-  return window;
-}
-
-/// A host with its main window, a shop, and a splash in front that the register will belong to.
-struct Host {
-  explicit Host(int show = SW_SHOW) : main(MakeWindow(L"Host", show)) {
-    if (show == SW_SHOW) splash = MakeWindow(L"Splash", show);
-  }
-
-  late::ObjectPtr Request(const char* title = "Shop") {
-    const late::ObjectPtr request = factory.Create("tq8v4461.clsGoodsRequest");
-    request->PutRef("adocon", connection);
-    request->Put("strMsgboxCaption", title);
-    for (const char* id : {"intCompanyID", "intUserID", "intShopID"}) request->Put(id, std::int32_t{1});
-    request->Put("dtProcessDate", vb::MakeDate(2024, 3, 15));
-    return request;
-  }
-  /// The number of the error that Show ended with, 0 for none. The host must be its own again.
-  long Show(const late::ObjectPtr& request) {
-    long number = 0;
-    try {
-      request->Call("Show");
-    } catch (const vb::RunTimeError& error) {
-      number = error.Number();
-      std::fprintf(stderr, "Show: %ld %s\n", number, error.Description().c_str());
-    }
-    Expect(IsWindowEnabled(main), "the host's window is enabled");
-    Expect(OpenForms().empty(), "no form is left on the screen");
-    return number;
-  }
-  long Show() { return Show(Request()); }
-  std::string Answer(const std::string& query) {
-    return connection->Call("Execute", {query}).ToObject()->Call("GetString").ToText();
-  }
-
-  HWND main;
-  HWND splash = nullptr;
-  windows::ComFactory factory;
-  late::ObjectPtr database = factory.Create("ShopSuite.Database");
-  late::ObjectPtr connection = database->Call("Open").ToObject();
-  Hands hands;
-};
-
-HWND ChildOfKind(HWND form, const wchar_t* kind) {
-  HWND widest = nullptr;
-  RECT most{};
-  for (HWND child = GetWindow(form, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-    RECT place{};
-    GetWindowRect(child, &place);
-    if (!windows::IsOfClass(child, kind) || !IsWindowVisible(child) || place.right - place.left <= most.right - most.left)
-      continue;
-    most = place;
-    widest = child;
-  }
-  return widest;
-}
-
-Hands::Deed PressKeys(const wchar_t* kind, WPARAM key, int times) {
-  return [=](HWND form) {
-    const HWND child = ChildOfKind(form, kind);
-    SetFocus(child);
-    for (int time = 0; time < times; ++time) PostMessageW(child, WM_KEYDOWN, key, 1);
-  };
-}
-
-/// Brings the editor up with a live request and something typed into its remarks.
-void EditRemarks(Host& host) {
-  host.hands.plan[kRegister] = {PressKeys(L"SysListView32", VK_DOWN, 5), Hands::Press("Edit")};
-  host.hands.plan[kEditor] = {[](HWND form) {
-    const HWND remarks = ChildOfKind(form, L"Edit");
-    SetFocus(remarks);
-    PostMessageW(remarks, WM_CHAR, L'!', 1);
-  }};
-}
 
 void OwnerDestroyed() {
   Host host;
@@ -148,11 +37,11 @@ void OwnerDestroyed() {
 
 void OwnerDestroyedByAnotherThread() {
   Host host;
-  sentWork = [&] { DestroyWindow(host.splash); };
+  host.sentWork = [&] { DestroyWindow(host.splash); };
   host.hands.plan[kRegister] = {[&](HWND) {
     // The timer that works these hands must not be what wakes the loop.
     host.hands.Rest();
-    CloseHandle(CreateThread(nullptr, 0, SendWork, host.main, 0, nullptr));
+    host.SendWorkFromAnotherThread();
   }};
   Expect(host.Show() == 0, "Show returns");
 }
@@ -186,7 +75,7 @@ void OwnerDestroyedBelowAMessage() {
 
 void OwnerDestroyedBelowAMenu() {
   Host host;
-  sentWork = [&] { DestroyWindow(host.splash); };
+  host.sentWork = [&] { DestroyWindow(host.splash); };
   host.hands.plan[kRegister] = {[&](HWND form) {
     const HWND list = ChildOfKind(form, L"SysListView32");
     PostMessageW(list, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(20, 40));
@@ -194,7 +83,7 @@ void OwnerDestroyedBelowAMenu() {
     host.hands.plan[kRegister] = {[&](HWND) {
       Expect(FindWindowW(L"#32768", nullptr) != nullptr, "the menu is open");
       host.hands.Rest();
-      PostMessageW(host.main, kWork, 0, 0);
+      host.PostWork();
     }};
   }};
   Expect(host.Show() == 0, "Show returns");
@@ -404,7 +293,7 @@ int Play(const std::string& name) {
   } catch (const std::exception& error) {
     Expect(false, error.what());
   }
-  return failed ? 1 : 0;
+  return AnyFailed() ? 1 : 0;
 }
 
 }  // namespace hosts

@@ -6,28 +6,52 @@
 namespace person {
 namespace {
 
-TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
-  const ShopFolder folder;
-  Program host(Host(folder, kLoggedOn));
-  Person nora(host);
+/// A day at one counter: the host opens the register, and closes it in the evening.
+class ShopDay : public ::testing::Test {
+ protected:
+  void Evening() {
+    requests.Click("Close");
+    EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+  }
+  FormOnScreen EditRow(int row) {
+    requests.ClickRow(row);
+    requests.Click("Edit");
+    return nora.Meets("Goods Request");
+  }
+  FormOnScreen AddItems(FormOnScreen& editor) {
+    editor.RightClickList();
+    nora.Picks('A');
+    return nora.Meets("Goods Request Details");
+  }
+  static void Leave(FormOnScreen& form) {
+    form.Press("Esc");
+    form.Goes();
+  }
 
-  // The register of the year.
+  void ReadTheRegisterOfTheYear();
+  void EnterTwoLinesByTheirCodes(FormOnScreen& editor);
+  void MeetTheRefusals(FormOnScreen& entry);
+  void ChangeAQuantityAndNearlyLoseIt();
+  void ReadTheSavedLines();
+  void CancelWithAReason();
+
+  const ShopFolder folder;
+  Program host{Host(folder, kLoggedOn)};
+  Person nora{host};
   FormOnScreen requests = nora.Meets("Goods Request to HQ");
+  const Texts fryingPans{"1", "KT1003", "Frying pan 28 cm", "12.500", "blue ones", "PCS", ""};
+};
+
+void ShopDay::ReadTheRegisterOfTheYear() {
   EXPECT_EQ(requests.Headings(), (Texts{"Request ID", "Request No", "Request Date", "Remarks", "Cancelled", "Finished"}));
   requests.HasRows(16);
   requests.HasRow(0, {"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"});
   requests.HasRow(15, {"28", "GR24/20", "15/03/2024", "Opened by mistake", "Yes", "No"});
+}
 
-  // A new request, without the stock-out items.
-  FormOnScreen editor = NewRequest(nora, requests);
-  editor.HasRows(0);
-  editor.Shows("Request Date:", "15/03/2024");
-  editor.Write("Remarks:", "For the new shelf");
-
-  // Two lines by their codes: Enter goes from box to box, and the button takes the line.
-  editor.RightClickList();
-  nora.Picks('A');
-  FormOnScreen entry = nora.Meets("Goods Request Details");
+// Enter goes from box to box, and the button takes the line.
+void ShopDay::EnterTwoLinesByTheirCodes(FormOnScreen& editor) {
+  FormOnScreen entry = AddItems(editor);
   entry.HasFocusBehind("Barcode:");
   entry.Write("Barcode:", "KT1003");
   entry.Press("Enter");
@@ -41,7 +65,19 @@ TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
   entry.HasFocusOn("Ok");
   entry.Click("Ok");
   entry.HasFocusBehind("Barcode:");
-  // No item twice; what is scanned after the refusal does not run into the item's name, and nobody is held there.
+  MeetTheRefusals(entry);
+  entry.Write("Barcode:", "KT1001");
+  entry.Press("Enter");
+  entry.Shows("Item:", "Frying pan 20 cm");
+  entry.HasFocusBehind("Quantity:");
+  entry.Write("Quantity:", "3");
+  entry.Click("Ok");
+  entry.HasFocusBehind("Barcode:");
+  Leave(entry);
+}
+
+// No item twice; what is scanned after the refusal does not run into the item's name, and nobody is held there.
+void ShopDay::MeetTheRefusals(FormOnScreen& entry) {
   entry.Write("Barcode:", "KT1003");
   entry.Press("Enter");
   entry.HasFocusBehind("Quantity:");
@@ -56,53 +92,37 @@ TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
   entry.Write("Barcode:", "none such");
   entry.Press("Enter");
   EXPECT_EQ(nora.Answers("OK"), "Scan valid barcode ");
-  entry.Write("Barcode:", "KT1001");
-  entry.Press("Enter");
-  entry.Shows("Item:", "Frying pan 20 cm");
-  entry.HasFocusBehind("Quantity:");
-  entry.Write("Quantity:", "3");
-  entry.Click("Ok");
-  entry.HasFocusBehind("Barcode:");
-  entry.Press("Esc");
-  entry.Goes();
+}
 
-  // What the editor holds becomes the year's next request.
-  editor.HasRows(2);
-  editor.HasRow(0, {"1", "KT1003", "Frying pan 28 cm", "12.500", "blue ones", "PCS", ""});
-  editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "3.000", "", "PCS", ""});
-  editor.Shows("Remarks:", "For the new shelf");
-  editor.Click("OK");
-  editor.Goes();
-  requests.HasRows(17);
-  requests.HasRow(16, {"29", "GR24/21", "15/03/2024", "For the new shelf", "No", "No"});
-
-  // Later a quantity changes; nearly closed without saving, the editor asks.
-  requests.ClickRow(16);
-  requests.Click("Edit");
-  editor = nora.Meets("Goods Request");
+void ShopDay::ChangeAQuantityAndNearlyLoseIt() {
+  const Texts changed{"2", "KT1001", "Frying pan 20 cm", "8.000", "", "PCS", ""};
+  FormOnScreen editor = EditRow(16);
   editor.Shows("Request No:", "GR24/21");
   editor.HasRows(2);
   editor.DoubleClickRow(1);
-  entry = nora.Meets("Goods Request Details");
+  FormOnScreen entry = nora.Meets("Goods Request Details");
   entry.Shows("Quantity:", "3.000");
   entry.Write("Quantity:", "8");
   entry.Click("Ok");
   entry.Goes();
-  editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "8.000", "", "PCS", ""});
+  editor.HasRow(1, changed);
   editor.CloseByTitleBar();
   EXPECT_EQ(nora.Answers("Cancel"), "Save Changes?");
-  editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "8.000", "", "PCS", ""});
+  editor.HasRow(1, changed);
   editor.Click("OK");
   editor.Goes();
+}
 
-  // Saved is saved: it is read again from the database. Then it goes, with a reason.
+void ShopDay::ReadTheSavedLines() {
   requests.ClickRow(16);
   requests.Press("Enter");
-  editor = nora.Meets("Goods Request");
-  editor.HasRow(0, {"1", "KT1003", "Frying pan 28 cm", "12.500", "blue ones", "PCS", ""});
+  FormOnScreen editor = nora.Meets("Goods Request");
+  editor.HasRow(0, fryingPans);
   editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "8.000", "", "PCS", ""});
-  editor.Press("Esc");
-  editor.Goes();
+  Leave(editor);
+}
+
+void ShopDay::CancelWithAReason() {
   requests.Click("Delete");
   EXPECT_EQ(nora.Answers("No"), "Are you sure you want to Delete GR24/21 ?");
   requests.Click("Delete");
@@ -111,31 +131,46 @@ TEST(ShopDay, ARequestIsRaisedChangedAndCancelled) {
   reason.Write("Reason :", "Ordered twice");
   reason.Click("OK");
   reason.Goes();
-  requests.HasRow(16, {"29", "GR24/21", "15/03/2024", "For the new shelf", "Yes", "No"});
+}
 
-  requests.Click("Close");
-  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+TEST_F(ShopDay, ARequestIsRaisedChangedAndCancelled) {
+  ReadTheRegisterOfTheYear();
+  FormOnScreen editor = NewRequest(nora, requests);
+  editor.HasRows(0);
+  editor.Shows("Request Date:", "15/03/2024");
+  editor.Write("Remarks:", "For the new shelf");
+  EnterTwoLinesByTheirCodes(editor);
+  editor.HasRows(2);
+  editor.HasRow(0, fryingPans);
+  editor.HasRow(1, {"2", "KT1001", "Frying pan 20 cm", "3.000", "", "PCS", ""});
+  editor.Shows("Remarks:", "For the new shelf");
+  editor.Click("OK");
+  editor.Goes();
+  // It is the year's next request.
+  requests.HasRows(17);
+  requests.HasRow(16, {"29", "GR24/21", "15/03/2024", "For the new shelf", "No", "No"});
+
+  ChangeAQuantityAndNearlyLoseIt();
+  ReadTheSavedLines();
+  CancelWithAReason();
+  const Texts cancelled{"29", "GR24/21", "15/03/2024", "For the new shelf", "Yes", "No"};
+  requests.HasRow(16, cancelled);
+  Evening();
 
   // The next morning it is still there.
   Program nextDay(Host(folder, kLoggedOn));
   FormOnScreen again = Person(nextDay).Meets("Goods Request to HQ");
   again.HasRows(17);
-  again.HasRow(16, {"29", "GR24/21", "15/03/2024", "For the new shelf", "Yes", "No"});
+  again.HasRow(16, cancelled);
   again.CloseByTitleBar();
   EXPECT_EQ(nextDay.ExitCode(), 0u) << nextDay.Complaint();
 }
 
-TEST(ShopDay, ARequestIsFilledWithoutTypingACode) {
-  const ShopFolder folder;
-  Program host(Host(folder, kLoggedOn));
-  Person nora(host);
-  FormOnScreen requests = nora.Meets("Goods Request to HQ");
-
+TEST_F(ShopDay, ARequestIsFilledWithoutTypingACode) {
   // What is out of stock would make a request of its own; not today.
   FormOnScreen editor = NewRequest(nora, requests, "Yes");
   editor.HasRows(27);
-  editor.Press("Esc");
-  editor.Goes();
+  Leave(editor);
 
   // Two customers are waiting; the first has come and gone.
   editor = NewRequest(nora, requests);
@@ -151,9 +186,7 @@ TEST(ShopDay, ARequestIsFilledWithoutTypingACode) {
   editor.HasRow(1, {"2", "TX1009", "Bed linen set single white", "10.000", "white only", "SET", ""});
 
   // One item from the list of all, found by a part of its name.
-  editor.RightClickList();
-  nora.Picks('A');
-  FormOnScreen entry = nora.Meets("Goods Request Details");
+  FormOnScreen entry = AddItems(editor);
   entry.Press("F3");
   FormOnScreen lookup = nora.Meets("Item Fetch");
   lookup.HasFocusBehind("Search:");
@@ -178,8 +211,7 @@ TEST(ShopDay, ARequestIsFilledWithoutTypingACode) {
   entry.Shows("Item:", "Paring knife 8 cm");
   entry.Write("Quantity:", "4");
   entry.Click("Ok");
-  entry.Press("Esc");
-  entry.Goes();
+  Leave(entry);
   editor.HasRows(4);
   editor.HasRow(3, {"4", "KT1013", "Paring knife 8 cm", "4.000", "", "PCS", ""});
   editor.Click("OK");
@@ -187,26 +219,18 @@ TEST(ShopDay, ARequestIsFilledWithoutTypingACode) {
 
   // The request keeps its customer.
   requests.HasRows(17);
-  requests.ClickRow(16);
-  requests.Click("Edit");
-  editor = nora.Meets("Goods Request");
+  editor = EditRow(16);
   editor.HasRows(4);
   editor.TurnTo("Customer Requests");
   editor.HasRow(0, {"1", "CR24/102", ""});
   editor.HasTicked(0, true);
   editor.HasTicked(1, false);
-  editor.Press("Esc");
-  editor.Goes();
-  requests.Click("Close");
-  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+  Leave(editor);
+  Evening();
 }
 
-TEST(ShopDay, ARequestIsFoundByTyping) {
-  const ShopFolder folder;
-  Program host(Host(folder, kLoggedOn));
-  FormOnScreen requests = Person(host).Meets("Goods Request to HQ");
-  requests.HasRow(0, {"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"});
-
+TEST_F(ShopDay, ARequestIsFoundByTyping) {
+  const Texts toys{"20", "GR24/12", "20/02/2024", "Toys for the fair", "No", "No"};
   // The search sorts the list by the column it looks in.
   requests.Choose("Search On:", "Remarks");
   requests.Press("Tab");
@@ -214,42 +238,36 @@ TEST(ShopDay, ARequestIsFoundByTyping) {
   requests.HasRow(0, {"25", "GR24/17", "12/03/2024", "", "No", "No"});
   requests.HasSelectedRow({"15", "GR24/7", "29/01/2024", "Towels for the hotel", "No", "No"});
   requests.Type("y");
-  requests.HasSelectedRow({"20", "GR24/12", "20/02/2024", "Toys for the fair", "No", "No"});
+  requests.HasSelectedRow(toys);
 
   // Nothing begins so, and nothing moves.
   requests.Type("zzz");
-  requests.HasSelectedRow({"20", "GR24/12", "20/02/2024", "Toys for the fair", "No", "No"});
+  requests.HasSelectedRow(toys);
   requests.Press("Alt+C");
   requests.Goes();
   EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
 }
 
-TEST(ShopDay, HeadingsSortAndTheRequestThatWasSelectedIsTheOneEdited) {
-  const ShopFolder folder;
-  Program host(Host(folder, kLoggedOn));
-  Person nora(host);
-  FormOnScreen requests = nora.Meets("Goods Request to HQ");
+TEST_F(ShopDay, HeadingsSortAndTheRequestThatWasSelectedIsTheOneEdited) {
   const Texts toys{"20", "GR24/12", "20/02/2024", "Toys for the fair", "No", "No"};
+  const Texts workshop{"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"};
   requests.ClickRow(7);
   requests.HasSelectedRow(toys);
   requests.ClickHeading("Remarks");
-  requests.HasRow(15, {"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"});
+  requests.HasRow(15, workshop);
   requests.HasSelectedRow(toys);
   requests.ClickHeading("Remarks");
-  requests.HasRow(0, {"13", "GR24/5", "16/01/2024", "Workshop fitting, project", "No", "Yes"});
+  requests.HasRow(0, workshop);
   requests.HasSelectedRow(toys);
   requests.HasRow(1, toys);
   requests.Click("Edit");
   FormOnScreen editor = nora.Meets("Goods Request");
   editor.Shows("Request No:", "GR24/12");
-  editor.Press("Esc");
-  editor.Goes();
+  Leave(editor);
 
   // In the fetch dialog, too, OK takes the item that was selected before a heading was clicked.
   editor = NewRequest(nora, requests);
-  editor.RightClickList();
-  nora.Picks('A');
-  FormOnScreen entry = nora.Meets("Goods Request Details");
+  FormOnScreen entry = AddItems(editor);
   entry.Press("Shift+F3");
   FormOnScreen fetch = nora.Meets("Fetch Item");
   EXPECT_EQ(fetch.Headings(), (Texts{"Item Code", "Item Description", "Brand", "Model No", "Part_Code"}));
@@ -262,18 +280,12 @@ TEST(ShopDay, HeadingsSortAndTheRequestThatWasSelectedIsTheOneEdited) {
   fetch.Click("Ok");
   fetch.Goes();
   entry.Shows("Item:", "Paring knife 8 cm");
-  entry.Press("Esc");
-  entry.Goes();
-  editor.Press("Esc");
-  editor.Goes();
-  requests.Click("Close");
-  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+  Leave(entry);
+  Leave(editor);
+  Evening();
 }
 
-TEST(ShopDay, TheListsGrowWithTheirWindows) {
-  const ShopFolder folder;
-  Program host(Host(folder, kLoggedOn));
-  Person nora(host);
+TEST_F(ShopDay, TheListsGrowWithTheirWindows) {
   const auto grows = [](FormOnScreen& form) {
     const SIZE before = form.ListSize();
     form.Pull(70, 50);
@@ -281,14 +293,11 @@ TEST(ShopDay, TheListsGrowWithTheirWindows) {
     form.Pull(-70, -50);
     form.HasListOf(before);
   };
-  FormOnScreen requests = nora.Meets("Goods Request to HQ");
   grows(requests);
   FormOnScreen editor = NewRequest(nora, requests);
   grows(editor);
-  editor.Press("Esc");
-  editor.Goes();
-  requests.Click("Close");
-  EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();
+  Leave(editor);
+  Evening();
 }
 
 /// What the host remembers for its user, kept out of the test's way and put back.
