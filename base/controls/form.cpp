@@ -186,6 +186,9 @@ bool Form::Trap(std::string_view routine, const std::function<void()>& work) {
   } catch (const vb::RunTimeError& error) {
     ReportError(routine, error);
     return false;
+  } catch (const std::exception& error) {
+    ReportError(routine, vb::RunTimeError(vb::kInternalError, error.what()));
+    return false;
   }
 }
 

@@ -13,6 +13,8 @@ void Interpreter::Execute(const std::string& line) {
     output_.Error(error.what());
   } catch (const vb::RunTimeError& error) {
     output_.Error(std::to_string(error.Number()) + " " + error.Description());
+  } catch (const std::exception& error) {
+    output_.Error(std::to_string(vb::kInternalError) + " " + error.what());
   }
 }
 
