@@ -79,7 +79,8 @@ bool Session::HasStoreTransaction() const {
 }
 
 void Session::Lose(const ServerError& error) {
-  if (!inTransaction_ || !error.EndsTransaction()) return;
+  // A full disk makes the store roll back by itself, too: what follows must not be written alone.
+  if (!inTransaction_ || (HasStoreTransaction() && !error.EndsTransaction())) return;
   EndTransaction(HasStoreTransaction() ? "ROLLBACK" : nullptr);
   lost_ = true;
   ForgetDefinitions();

@@ -163,12 +163,36 @@ void RaiseFromStore(sqlite3* store, int code) {
       RaiseConstraint(extended, message);
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-      RaiseServer(kLockTimeout, "Lock request time out period exceeded: " + message);
+      RaiseServer(kLockTimeout,
+                  "Lock request time out period exceeded: another program is writing to the database. Try again in a "
+                  "moment. (" +
+                      message + ")");
     case SQLITE_INTERRUPT:
       RaiseServer(kLockTimeout, "Timeout expired");
     case SQLITE_ERROR:
       if (message == "integer overflow") RaiseOverflow("numeric");
       RaiseServer(kNotPrepared, "The statement could not be prepared: " + message);
+    case SQLITE_FULL:
+      RaiseServer(kStoreFailure,
+                  "The disk of the database file is full, and this step was not stored. Free some space on it, then "
+                  "try again. (" +
+                      message + ")");
+    case SQLITE_READONLY:
+      RaiseServer(kStoreFailure,
+                  "The database file may only be read here, and this step was not stored. Ask for the right to "
+                  "write to the file and its folder, then try again. (" +
+                      message + ")");
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      RaiseServer(kStoreFailure,
+                  "The database file is damaged, or no database. Stop working with it and have its last backup "
+                  "restored. (" +
+                      message + ")");
+    case SQLITE_CANTOPEN:
+      RaiseServer(kStoreFailure,
+                  "The database file cannot be opened. See that its folder is there and may be written, then try "
+                  "again. (" +
+                      message + ")");
     default:
       RaiseServer(kStoreFailure, "The database file cannot be read or written: " + message);
   }

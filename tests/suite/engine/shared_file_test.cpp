@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "base/ado/recordset.h"
+#include "suite/engine/objects/connection.h"
 #include "suite/engine/objects/database.h"
 #include "suite/engine/values/errors.h"
 #include "tests/suite/engine/database_file.h"
@@ -101,6 +102,21 @@ TEST_F(SharedFile, ARowIsWrittenThroughOpenRowsThatAnotherHasOvertaken) {
     rows->Call("Close");
   }
   EXPECT_EQ(second_.Ask("select sum(v) from t"), "21");
+}
+
+TEST_F(SharedFile, AfterAFullDiskNothingOfTheTransactionIsWrittenAlone) {
+  first_.Execute("create table t (v varchar(8000) null)");
+  sqlite3* store = std::static_pointer_cast<suite::Connection>(first_.connection)->OpenSession()->Handle();
+  first_.connection->Call("BeginTrans");
+  first_.Execute("insert into t values ('a')");
+  sqlite3_exec(store, "PRAGMA max_page_count = 1", nullptr, nullptr, nullptr);  // as many as there are
+  const auto fill = [&] {
+    for (int i = 0; i < 20; ++i) first_.Execute("insert into t values (replicate('x', 4000))");
+  };
+  EXPECT_EQ(ServerErrorOf(fill), 823);
+  EXPECT_EQ(second_.Ask("select count(*) from t"), "0");
+  EXPECT_NO_THROW(first_.Execute("insert into t values ('b')"));
+  EXPECT_EQ(second_.Ask("select count(*) from t"), "0") << "what follows waits for its commit";
 }
 
 /// A file as another program left it, and that program still at work on it.
