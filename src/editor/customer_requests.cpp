@@ -189,6 +189,19 @@ void CustomerRequests::RemoveLine(int line) {
   if (selected != line) list.Select(selected > line ? selected - 1 : selected);
 }
 
+std::vector<CustomerLink> CustomerRequests::CheckOnly(const std::vector<CustomerLink>& links) {
+  std::vector<CustomerLink> missing = links;
+  for (int entry = 1; entry <= documents_.Count(); ++entry) {
+    controls::ListItem& document = documents_.Item(entry);
+    const CustomerLink here = LinkTo(document, entry);
+    const auto wanted = std::find_if(missing.begin(), missing.end(),
+                                     [&](const CustomerLink& link) { return link.kind == here.kind && link.id == here.id; });
+    document.SetChecked(wanted != missing.end());
+    if (wanted != missing.end()) missing.erase(wanted);
+  }
+  return missing;
+}
+
 std::vector<CustomerLink> CustomerRequests::Checked() const {
   std::vector<CustomerLink> links;
   for (int entry = 1; entry <= documents_.Count(); ++entry) {

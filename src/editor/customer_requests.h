@@ -41,6 +41,8 @@ class CustomerRequests {
   /// After a person has checked or unchecked the document: adds its quantities to the lines, or takes them out. A database error
   /// puts the mark back and is raised.
   void TakeChecked(controls::ListItem& document);
+  /// Checks these documents of the list and unchecks the others; the request's lines stay. Returns those that the list lacks.
+  std::vector<CustomerLink> CheckOnly(const std::vector<CustomerLink>& links);
   /// The checked documents.
   std::vector<CustomerLink> Checked() const;
 

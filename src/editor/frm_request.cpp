@@ -1,5 +1,8 @@
 #include "src/editor/frm_request.h"
 
+#include <set>
+#include <utility>
+
 #include "base/vb/format.h"
 #include "base/vb/text.h"
 #include "src/editor/request_saving.h"
@@ -26,6 +29,7 @@ void frmRequest::WireEvents() {
   On(Loading, "Form_Load", &frmRequest::Form_Load);
   On(Activated, "Form_Activate", &frmRequest::Form_Activate);
   On(QueryUnload, "Form_QueryUnload", &frmRequest::Form_QueryUnload);
+  On(Unloading, "Form_Unload", &frmRequest::Form_Unload);
   On(cmdOK.Click, "cmdOK_Click", &frmRequest::cmdOK_Click);
   On(cmdCancel.Click, "cmdCancel_Click", [this] { Unload(); });
   On(chkcutomerrequest.Click, "chkcutomerrequest_Click", &frmRequest::chkcutomerrequest_Click);
@@ -42,12 +46,25 @@ void frmRequest::WireEvents() {
   for (controls::TextBox* box : {&txtrequestDate, &txtRemarks}) {
     On(box->KeyPress, box->Name() + "_KeyPress", [this](int& character) { SendTabOnEnter(*this, character); });
   }
+  WireDraft();
+}
+
+void frmRequest::WireDraft() {
+  for (controls::TextBox* box : {&txtRequestNo, &txtrequestDate, &txtRemarks}) {
+    On(box->LostFocus, box->Name() + "_LostFocus", &frmRequest::KeepDraft);
+  }
+  On(optgoodreq.Click, "optgoodreq_Click", &frmRequest::KeepDraft);
+  On(optporeq.Click, "optporeq_Click", &frmRequest::KeepDraft);
+  On(chkTransFinished.Click, "chkTransFinished_Click", &frmRequest::KeepDraft);
 }
 
 void frmRequest::Form_Load() {
   keepOpen_ = true;
   firstActivation_ = true;
-  const bool isNew = Session().gStrEntryMode == "N";
+  loaded_.reset();
+  takenUp_.reset();
+  draft_.LeaveBehind();  // of a window that was torn down
+  const bool isNew = IsNew();
   if (isNew) optgoodreq.SetValue(true);  // before anything can fail: without a type, it would be saved as a purchase order
   try {
     objCommonDB_ = CommonDb(Session().services.factory, Session().gAdoCon);
@@ -70,7 +87,9 @@ void frmRequest::LoadNewRequest() {
   Session().gLngRequestID = 0;
   objCommonDB_.strTableName("mosGoodsRequestHeader");
   Session().gLngRequestID = objCommonDB_.fnGetNextMaxNo("grhrequestid");
-  if (Tell("Do you want to add stock out items?", controls::kYesNo + controls::kInformation) == controls::Answer::Yes) {
+  OfferDraft();
+  if (!takenUp_ &&
+      Tell("Do you want to add stock out items?", controls::kYesNo + controls::kInformation) == controls::Answer::Yes) {
     Trap("ProposeStockOutItems", [this] { ProposeStockOutItems(Session(), objCommonDB_, lines_); });
   }
 }
@@ -104,14 +123,23 @@ void frmRequest::LoadExistingRequest() {
 void frmRequest::Form_Activate() {
   const bool isFirst = firstActivation_;
   firstActivation_ = false;
-  if (isFirst) txtRemarks.SetTag(txtRemarks.Text());
+  if (isFirst) {
+    txtRemarks.SetTag(txtRemarks.Text());
+    loaded_ = Entered();
+    if (IsNew()) loaded_->lines.clear();  // an accepted proposal is the user's
+  }
   objCommonDB_.strTableName("apackagesettings");
   Session().gBlnAliasEnabled = objCommonDB_.fnReturnField("alias").TrueOrFalse();
   if (Session().gBlnAliasEnabled) {
     objCommonDB_.strTableName("aalias");
     optgoodreq.SetCaption("To " + objCommonDB_.fnReturnField("Alias", "aliasid =2").TextOrEmpty());
   }
-  if (isFirst) Session().gObjUserAuditing.SaveInToTag(*this);
+  if (!isFirst) return;
+  Session().gObjUserAuditing.SaveInToTag(*this);
+  if (!IsNew() && cmdOK.Enabled()) OfferDraft();
+  if (takenUp_) TakeUpDraft(takenUp_->request);
+  takenUp_.reset();
+  KeepDraft();
 }
 
 void frmRequest::Form_QueryUnload(bool& cancel, controls::UnloadMode) {
@@ -126,7 +154,76 @@ void frmRequest::Form_QueryUnload(bool& cancel, controls::UnloadMode) {
 }
 
 bool frmRequest::IsChanged() const {
-  return lines_.IsChanged() || vb::Trim(txtRemarks.Text()) != vb::Trim(txtRemarks.Tag());
+  if (lines_.IsChanged() || vb::Trim(txtRemarks.Text()) != vb::Trim(txtRemarks.Tag())) return true;
+  if (!loaded_) return false;
+  const Request entered = Entered();
+  if (entered.lines != loaded_->lines || entered.links != loaded_->links || entered.finished != loaded_->finished) return true;
+  // The date and the type of a stored request never change.
+  return IsNew() && (entered.date != loaded_->date || entered.type != loaded_->type);
+}
+
+void frmRequest::Form_Unload() {
+  if (loaded_ && !takenUp_) {
+    draft_.Discard();  // saved, unchanged, or answered with No
+  } else {
+    draft_.LeaveBehind();  // an opening that failed on its way never showed it
+  }
+}
+
+void frmRequest::OfferDraft() {
+  Trap("OfferDraft",
+       [this] { takenUp_ = draft_.OfferLeftBehind(IsNew() ? std::nullopt : std::optional(Session().gLngRequestID)); });
+}
+
+void frmRequest::TakeUpDraft(const Request& request) {
+  if (IsNew()) {
+    txtRequestNo.SetText(request.number);
+    txtrequestDate.SetText(request.date);
+    (request.type == RequestType::ToGodown ? optgoodreq : optporeq).SetValue(true);
+  }
+  txtRemarks.SetText(request.remarks);
+  chkTransFinished.SetValue(request.finished ? 1 : 0);
+  std::string missing = TakeUpLines(request.lines);
+  Trap("TakeUpDraft", [&] { missing += TakeUpLinks(request.links); });
+  lines_.MarkChanged();
+  if (!missing.empty()) Tell("These are no longer there and were left out:" + missing);
+}
+
+std::string frmRequest::TakeUpLines(const std::vector<RequestLine>& lines) {
+  // Where the database cannot tell, every line is taken: an item that is no longer there is less than work that is lost.
+  std::optional<std::set<std::int32_t>> known;
+  Trap("TakeUpDraft", [&] { known = RequestStore(Session(), objCommonDB_).KnownItems(lines); });
+  std::string missing;
+  lvwrequest.Clear();
+  for (const RequestLine& line : lines) {
+    if (!known || known->contains(line.itemId)) {
+      lines_.Append(line);
+    } else {
+      missing += "\r\n" + line.itemCode + " " + line.itemName + ", " + line.quantity;
+    }
+  }
+  return missing;
+}
+
+std::string frmRequest::TakeUpLinks(const std::vector<CustomerLink>& links) {
+  const bool hasList = lvwCustomerReq.Count() > 0;
+  if (!hasList && links.empty()) return {};
+  if (!hasList) customerRequests_.ShowOnOffer();
+  SetBoxQuietly(true);
+  std::string missing;
+  for (const CustomerLink& link : customerRequests_.CheckOnly(links)) missing += "\r\n" + link.number;
+  return missing;
+}
+
+void frmRequest::KeepDraft() {
+  if (!loaded_ || takenUp_ || !cmdOK.Enabled()) return;
+  Trap("KeepDraft", [this] {
+    if (IsChanged()) {
+      draft_.Keep({Entered(), IsNew(), {}, {}});
+    } else {
+      draft_.Discard();
+    }
+  });
 }
 
 void frmRequest::cmdOK_Click() {
@@ -179,7 +276,7 @@ void frmRequest::chkcutomerrequest_Click() {
     if (ticked) {
       customerRequests_.ShowOnOffer();
     } else {
-      if (Session().gStrEntryMode == "N") customerRequests_.UncheckAll();
+      customerRequests_.UncheckAll();
       customerRequests_.Clear();
     }
   } catch (const vb::RunTimeError&) {
@@ -187,6 +284,7 @@ void frmRequest::chkcutomerrequest_Click() {
     throw;
   }
   sstabGoodsReq.SetTabVisible(kCustomerPage, ticked);
+  KeepDraft();
 }
 
 void frmRequest::SetBoxQuietly(bool ticked) {
@@ -202,6 +300,7 @@ void frmRequest::lvwCustomerReq_ItemCheck(controls::ListItem& document) {
     return;
   }
   customerRequests_.TakeChecked(document);
+  KeepDraft();
 }
 
 void frmRequest::lvwrequest_DblClick() {
@@ -259,10 +358,14 @@ void frmRequest::mnudel_Click() {
   lines_.Remove(line);
   lines_.Renumber();
   lines_.MarkChanged();
+  KeepDraft();
 }
 
 void frmRequest::EnterItems() {
-  if (!itemEntry_) itemEntry_ = std::make_shared<frmRequestDetail>(Session(), lines_, lngCurrentLine);
+  if (!itemEntry_) {
+    itemEntry_ = std::make_shared<frmRequestDetail>(Session(), lines_, lngCurrentLine);
+    On(itemEntry_->LineEntered, "LineEntered", &frmRequest::KeepDraft);
+  }
   itemEntry_->Show(this);
   if (IsShown() && lvwrequest.CanFocus()) lvwrequest.SetFocus();
 }

@@ -2,6 +2,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "base/controls/buttons.h"
 #include "base/controls/list_view.h"
@@ -9,6 +12,7 @@
 #include "base/controls/tab_control.h"
 #include "base/controls/text_box.h"
 #include "src/editor/customer_requests.h"
+#include "src/editor/draft_keeping.h"
 #include "src/editor/save_port.h"
 #include "src/faces/common_db.h"
 #include "src/lists/register_view.h"
@@ -79,13 +83,25 @@ class frmRequest : public ModuleForm, private SavePort {
   void DesignFooter();
   void DesignMenu();
   void WireEvents();
+  void WireDraft();
 
   void Form_Load();
   void LoadNewRequest();
   void LoadExistingRequest();
   void Form_Activate();
   void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
+  void Form_Unload();
+  bool IsNew() const { return Session().gStrEntryMode == "N"; }
+  /// Whether OK would store something that differs from what was loaded.
   bool IsChanged() const;
+
+  void OfferDraft();
+  void TakeUpDraft(const Request& request);
+  /// Both return what is no longer there and was left out, a line each.
+  std::string TakeUpLines(const std::vector<RequestLine>& lines);
+  std::string TakeUpLinks(const std::vector<CustomerLink>& links);
+  /// Brings the draft file up to date with what is shown. An error is reported once an editing.
+  void KeepDraft();
 
   void txtRequestNo_KeyPress(int& character);
   void cmdOK_Click();
@@ -113,9 +129,12 @@ class frmRequest : public ModuleForm, private SavePort {
   CommonDb objCommonDB_;
   CustomerRequests customerRequests_;
   std::shared_ptr<frmRequestDetail> itemEntry_;
-  bool keepOpen_ = true;         ///< the answer to a cancelled closing; only a save clears it
-  bool firstActivation_ = true;  ///< since the last load
-  bool settingBox_ = false;      ///< the box's Click comes from this form's own code
+  DraftKeeping draft_{Session(), *this};
+  std::optional<RequestDraft> takenUp_;  ///< from the load to the first activation
+  std::optional<Request> loaded_;        ///< from the first activation on: what is stored; a new request has no lines
+  bool keepOpen_ = true;                 ///< the answer to a cancelled closing; only a save clears it
+  bool firstActivation_ = true;          ///< since the last load
+  bool settingBox_ = false;              ///< the box's Click comes from this form's own code
 };
 
 }  // namespace goods

@@ -56,6 +56,9 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   controls::Label Label1{*this, "Label1"};
   controls::CommandButton cmdNext{*this, "cmdNext"};
 
+  /// After a line was appended to the request or changed.
+  controls::Event<> LineEntered;
+
  private:
   void Design() override;
   void DesignOptions();

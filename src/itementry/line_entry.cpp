@@ -23,10 +23,12 @@ void frmRequestDetail::cmdOk_Click() {
   if (IsAdding()) {
     if (!AddLine(limit)) return;
     if (DiffersFromLoaded()) lines_.MarkChanged();
+    LineEntered.Fire();
     ClearForNextLine();
   } else {
     RewriteLine();
     if (DiffersFromLoaded()) lines_.MarkChanged();
+    LineEntered.Fire();
     ShowNextLineOrClose();
   }
 }

@@ -51,6 +51,13 @@ std::string RowIdentifierQuery() {
   return "select count(*) from syscolumns where colstat=2 and id=object_id('mosgoodsrequestdetail')";
 }
 
+std::string KnownItemsQuery(const std::vector<RequestLine>& lines) {
+  std::string query = "select ItemId from aItem where ItemId in (";
+  for (const RequestLine& line : lines) query += std::to_string(line.itemId) + ",";
+  query.back() = ')';
+  return query;
+}
+
 std::string LinesToShowQuery(std::int32_t requestId, std::int32_t shopId, std::string_view orderClause) {
   return "select itemcode,a.grditemid,cast(cast(a.grdgoodqty as decimal(18,3)) as varchar(20)) as grdgoodqty, "
          " z.ItemDescription,a.grdshopid, grdreqcomments,isnull(b.part_code,'') part_code "
@@ -222,6 +229,14 @@ std::vector<RequestLine> RequestStore::LinesOf(std::int32_t requestId) {
                      .partCode = rows->At(kPartCode, row).TextOrEmpty()});
   }
   return lines;
+}
+
+std::set<std::int32_t> RequestStore::KnownItems(const std::vector<RequestLine>& lines) {
+  std::set<std::int32_t> known;
+  if (lines.empty()) return known;
+  const late::ArrayPtr rows = ReadRows(session_, KnownItemsQuery(lines));
+  for (std::size_t row = 0; row < rows->columns; ++row) known.insert(rows->At(0, row).ToInt32());
+  return known;
 }
 
 std::vector<CustomerLink> RequestStore::LinksOf(std::int32_t requestId) {

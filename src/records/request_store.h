@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,8 @@ class RequestStore {
   /// The stored lines with a quantity above 0, in the order in which they were entered where the database can tell. A unit that
   /// cannot be read is left empty, and the first such error reported.
   std::vector<RequestLine> LinesOf(std::int32_t requestId);
+  /// The ids among those of the lines that are items of the suite.
+  std::set<std::int32_t> KnownItems(const std::vector<RequestLine>& lines);
   /// Every stored link: invoices that the shop still has, then the others. Where the shop no longer has the document, the id
   /// takes the place of its number.
   std::vector<CustomerLink> LinksOf(std::int32_t requestId);

@@ -11,6 +11,7 @@ mkdir "$folder/shop"
 cp "$here"/*.sql "$folder" 2>/dev/null || true
 cp "$here/../../platform/console/tour/ShopSetting.txt" "$folder/shop"
 options=$(sed -n '1s/^# options: //p' "$script")
+export XDG_STATE_HOME=$folder/state
 cd "$folder"
 status=0
 # shellcheck disable=SC2086  # the options are words

@@ -53,7 +53,10 @@ TEST_F(CustomerDocuments, OnOfferAreFinishedOnesThatNoLiveRequestHolds) {
 }
 
 TEST_F(CustomerDocuments, AreAskedForInTheSuitesOwnWords) {
-  New([&] { CheckDocuments({"I-102", "X-102"}); });
+  New([&] {
+    CheckDocuments({"I-102", "X-102"});
+    ExpectNoSaving();
+  });
   EXPECT_TRUE(log.Sent(
       "select a.ihInvoiceNo,null ReExportNo,a.ihInvoiceID from losinvoiceheader a left outer join losinvoiceheader b on "
       "a.ihShopID "
@@ -106,6 +109,7 @@ TEST_F(CustomerDocuments, AQuantityChangedByHandInBetweenMayGoBelowNothing) {
     editor->lvwrequest.Item(2).SetSubItem(goods::kLineQty, "0.4");
     CheckDocument("I-101", false);
     EXPECT_EQ((Texts{"1|CUP|-3.000|1", "2|TEA|0.100|3"}), Lines());
+    ExpectNoSaving();
   });
 }
 
@@ -132,6 +136,7 @@ TEST_F(CustomerDocuments, FindTheFirstLineOfAnItemThatHasSeveral) {
     CheckDocument("X-101", false);
     CheckDocument("I-103", false);
     EXPECT_EQ((Texts{"1|CUP|4.000|1"}), Lines()) << "both of its lines";
+    ExpectNoSaving();
   });
 }
 
@@ -142,6 +147,7 @@ TEST_F(CustomerDocuments, ALineTakenOutOfTheMiddleLeavesTheOthersNumberedAndTheS
     CheckDocument("I-102", false);
     EXPECT_EQ((Texts{"1|JAR|1.000|6", "2|POT|5.000|2"}), Lines());
     EXPECT_EQ(2, editor->lvwrequest.SelectedItem());
+    ExpectNoSaving();
   });
 }
 
@@ -160,11 +166,11 @@ TEST_F(CustomerDocuments, ClearingTheBoxOnANewRequestUnchecksAll) {
   });
 }
 
-TEST_F(CustomerDocuments, ClearingTheBoxOnAnExistingRequestLeavesItsLines) {
+TEST_F(CustomerDocuments, ClearingTheBoxOnAnExistingRequestTakesOutWhatWasTicked) {
   Edit(7, [&] {
     CheckDocuments({"X-101"});
     Click(editor->chkcutomerrequest);
-    EXPECT_EQ((Texts{"1|POT|7.500|2", "2|CUP|4.000|1"}), Lines());
+    EXPECT_EQ((Texts{"1|POT|2.500|2", "2|CUP|4.000|1"}), Lines());
     EXPECT_EQ(Texts{}, Documents());
     EXPECT_FALSE(editor->sstabGoodsReq.TabVisible(1));
     Click(editor->cmdOK);
@@ -198,6 +204,7 @@ TEST_F(CustomerDocuments, ADatabaseErrorLeavesBoxMarkAndLinesAsTheyWere) {
     EXPECT_EQ(documents, Documents());
     EXPECT_TRUE(editor->chkcutomerrequest.IsChecked());
     EXPECT_TRUE(editor->sstabGoodsReq.TabVisible(1));
+    ExpectNoSaving();
   });
 }
 

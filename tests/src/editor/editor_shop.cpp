@@ -76,6 +76,10 @@ void EditorShop::Edit(std::int32_t requestId, Work work) {
   desktop.Verify();
 }
 
+void EditorShop::ExpectNoSaving() {
+  desktop.ExpectMessage("Save Changes?", controls::Answer::No, controls::kYesNoCancel + controls::kQuestion);
+}
+
 void EditorShop::AddLine(std::int32_t itemId, std::string_view quantity, std::string_view remarks) {
   controls::ListView& list = editor->lvwrequest;
   const std::string item = std::to_string(itemId);

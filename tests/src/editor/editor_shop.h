@@ -38,6 +38,9 @@ class EditorShop : public ::testing::Test {
   /// Opens it as the register's Edit does.
   void Edit(std::int32_t requestId, Work work);
 
+  /// The closing of a changed request asks, and the user does not want it.
+  void ExpectNoSaving();
+
   /// Appends a line as item entry does.
   void AddLine(std::int32_t itemId, std::string_view quantity, std::string_view remarks = "");
   /// The lines as "Sl No.|Item Code|Qty.|Item ID".

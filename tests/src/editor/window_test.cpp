@@ -34,6 +34,7 @@ TEST_F(EditorWindow, StockOutItemsAreProposedWhateverTheShopsLimitSays) {
         EXPECT_EQ("kg", editor->lvwrequest.Item(2).SubItem(goods::kLineUnit));
         EXPECT_EQ("", editor->lvwrequest.Item(1).SubItem(goods::kLinePartCode));
         EXPECT_TRUE(editor->optgoodreq.Value());
+        ExpectNoSaving();
       },
       Answer::Yes);
   EXPECT_TRUE(log.Sent(
@@ -89,7 +90,12 @@ TEST_F(EditorWindow, UnitsThatCannotBeReadAreToldOnceAndTheLinesAreThereAllTheSa
   });
   session.gAdoCon.SetCommandTimeout(45);
   log.Refuse("select u.UnitCode", 0);
-  New([&] { EXPECT_EQ((Texts{"1|CUP|24.000|1", "2|TEA|0.000|3"}), Lines()); }, Answer::Yes);
+  New(
+      [&] {
+        EXPECT_EQ((Texts{"1|CUP|24.000|1", "2|TEA|0.000|3"}), Lines());
+        ExpectNoSaving();
+      },
+      Answer::Yes);
   EXPECT_EQ(std::vector<int>{0}, timeouts) << "a proposal may take as long as it takes";
   EXPECT_EQ(45, session.gAdoCon.CommandTimeout()) << "the host's own time-out again";
   Edit(7, [&] {
@@ -262,6 +268,7 @@ TEST_F(EditorWindow, TheListOpensItemEntryTheWayItsUserMeans) {
     expectItemEntry();
     Press(editor->lvwrequest, "Ctrl+Enter");
     EXPECT_EQ((Texts{"E 2", "E 2", "N 3"}), opened);
+    ExpectNoSaving();
   });
 }
 

@@ -46,14 +46,18 @@ void Expect(bool holds, const std::string& what) {
   failed = failed || !holds;
 }
 
-bool AnyFailed() { return failed; }
+bool AnyFailed() {
+  return failed;
+}
 
 Host::Host(int show) : main(MakeWindow(L"Host", show)) {
   SetWindowLongPtrW(main, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   if (show == SW_SHOW) splash = MakeWindow(L"Splash", show);
 }
 
-Host::~Host() { SetWindowLongPtrW(main, GWLP_USERDATA, 0); }
+Host::~Host() {
+  SetWindowLongPtrW(main, GWLP_USERDATA, 0);
+}
 
 late::ObjectPtr Host::Request(const char* title) {
   const late::ObjectPtr request = factory.Create("tq8v4461.clsGoodsRequest");
@@ -81,9 +85,13 @@ std::string Host::Answer(const std::string& query) {
   return connection->Call("Execute", {query}).ToObject()->Call("GetString").ToText();
 }
 
-void Host::PostWork() const { PostMessageW(main, kWork, 0, 0); }
+void Host::PostWork() const {
+  PostMessageW(main, kWork, 0, 0);
+}
 
-void Host::SendWorkFromAnotherThread() const { CloseHandle(CreateThread(nullptr, 0, SendWork, main, 0, nullptr)); }
+void Host::SendWorkFromAnotherThread() const {
+  CloseHandle(CreateThread(nullptr, 0, SendWork, main, 0, nullptr));
+}
 
 HWND ChildOfKind(HWND form, const wchar_t* kind) {
   HWND widest = nullptr;
