@@ -8,7 +8,9 @@
 #include "src/editor/request_saving.h"
 #include "src/editor/stock_out_proposal.h"
 #include "src/itementry/frm_request_detail.h"
+#include "src/lists/cell_text.h"
 #include "src/lists/list_views.h"
+#include "src/lists/register_row.h"
 
 namespace goods {
 namespace {
@@ -64,6 +66,7 @@ void frmRequest::Form_Load() {
   loaded_.reset();
   takenUp_.reset();
   draft_.LeaveBehind();  // of a window that was torn down
+  updateTime_ = late::Null{};
   const bool isNew = IsNew();
   if (isNew) optgoodreq.SetValue(true);  // before anything can fail: without a type, it would be saved as a purchase order
   try {
@@ -114,6 +117,11 @@ void frmRequest::LoadExistingRequest() {
   }
   const std::string type = objCommonDB_.fnReturnField("grhrequesttype", condition).TextOrEmpty();
   (vb::UCase(type) == "G" ? optgoodreq : optporeq).SetValue(true);
+  // Before the lines: whoever saves while they are read is noticed at OK.
+  updateTime_ = objCommonDB_.fnReturnField("updatetime", condition);
+  txtRemarks.SetText(CellText(objCommonDB_.fnReturnField("grhremarks", condition)));
+  txtRemarks.SetTag(txtRemarks.Text());
+  ShowRemarksInRow(view_, Session().gLngRequestID, txtRemarks.Text());
   const bool isComplete = Trap("LoadRequestLines", [this] {
     for (const RequestLine& line : RequestStore(Session(), objCommonDB_).LinesOf(Session().gLngRequestID)) lines_.Append(line);
   });
@@ -149,7 +157,7 @@ void frmRequest::Form_QueryUnload(bool& cancel, controls::UnloadMode) {
     cancel = keepOpen_;
   } else if (answer == controls::Answer::Yes) {
     cmdOK.Click.Fire();
-    if (cmdOK.Enabled()) cancel = keepOpen_;
+    cancel = keepOpen_;
   }
 }
 
@@ -241,7 +249,8 @@ Request frmRequest::Entered() const {
           .remarks = txtRemarks.Text(),
           .finished = chkTransFinished.IsChecked(),
           .lines = lines_.All(),
-          .links = customerRequests_.Checked()};
+          .links = customerRequests_.Checked(),
+          .updateTime = updateTime_};
 }
 
 void frmRequest::GoTo(SaveField field) {

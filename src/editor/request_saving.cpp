@@ -8,6 +8,8 @@
 namespace goods {
 namespace {
 
+constexpr int kNoUnlessMeant = controls::kYesNo + controls::kQuestion + controls::kDefaultButton2;
+
 /// A new request takes its id and its number inside the transaction. When the save fails they go back to what they were: the next
 /// OK must not look for a number that this one has only tried.
 class ProvisionalIdentity {
@@ -31,6 +33,18 @@ class ProvisionalIdentity {
   bool kept_ = false;
 };
 
+/// Whether both are the same time, or no time at all. Times that a helper hands on as text are compared as text.
+bool SameTime(const late::Value& a, const late::Value& b) {
+  return a.IsDate() && b.IsDate() ? a.ToDate() == b.ToDate() : a.TextOrEmpty() == b.TextOrEmpty();
+}
+
+/// Why nobody may change the request any more; empty when it may be changed.
+std::string_view ClosedBecause(const StoredHeader& stored) {
+  if (stored.issued) return "Issue Note Generated,Cannot Modify";
+  if (stored.finished) return "Transaction is confirmed as finished,Cannot modify";
+  return stored.cancelled ? "This record is already Deleted " : "";
+}
+
 }  // namespace
 
 bool RequestSaving::Save() {
@@ -42,30 +56,36 @@ bool RequestSaving::Save() {
       throw InUsersWords(session_.gAdoCon, error, step);
     }
   };
-  if (!inUsersWords([&] { return IsDateReadable() && IsProjectRuleKept(); })) return false;
+  if (!inUsersWords([&] { return IsDateReadable() && IsProjectRuleKept() && AreDocumentsFree(); })) return false;
   const controls::Hourglass hourglass(editor_.Window());
-  ado::Transaction transaction = inUsersWords([&] { return ado::Transaction(session_.gAdoCon); });
-  if (!inUsersWords([&] { return Write(transaction, step); })) return false;
+  for (Outcome outcome = Outcome::Overtaken; outcome != Outcome::Saved;) {
+    ado::Transaction transaction = inUsersWords([&] { return ado::Transaction(session_.gAdoCon); });
+    outcome = inUsersWords([&] { return Write(transaction, step); });
+    if (outcome == Outcome::Refused || (outcome == Outcome::Overtaken && !MaySaveOver())) return false;
+  }
   const std::string done = savedAs_.empty() ? savedAs_ : "The request is saved under the number " + savedAs_ + ".";
   UpdateEditedRow(session_, view_, " GRHrequestID=" + std::to_string(session_.gLngRequestID), session_.gLngRequestID, done);
   return true;
 }
 
-bool RequestSaving::Write(ado::Transaction& transaction, SaveStep& step) {
+RequestSaving::Outcome RequestSaving::Write(ado::Transaction& transaction, SaveStep& step) {
   if (!request_.HasLineWithQuantity()) {
     Tell("Atleast one detail needed");
     transaction.Rollback();
     editor_.GoTo(SaveField::Ok);
-    return false;
+    return Outcome::Refused;
   }
   if (!IsFinishConfirmed()) {
     transaction.Rollback();
     editor_.GoTo(SaveField::Finished);
-    return false;
+    return Outcome::Refused;
   }
   ProvisionalIdentity identity(session_.gLngRequestID, editor_, request_.number);
   if (!IsNew()) {
-    UpdateRequest();
+    if (!UpdateRequest()) {
+      transaction.Rollback();
+      return Outcome::Overtaken;
+    }
   } else if (store_.fnRequestNoExists(request_.number)) {
     // No header and no lines then, but the links are written and the editor closes: the number is another request's already.
     Tell(std::to_string(request_.id) + " already exists");
@@ -76,7 +96,7 @@ bool RequestSaving::Write(ado::Transaction& transaction, SaveStep& step) {
   step = SaveStep::Committing;
   transaction.Commit();
   identity.Keep();
-  return true;
+  return Outcome::Saved;
 }
 
 controls::Answer RequestSaving::Tell(std::string_view text, int style) {
@@ -100,10 +120,41 @@ bool RequestSaving::IsProjectRuleKept() {
   return false;
 }
 
+bool RequestSaving::AreDocumentsFree() {
+  std::string taken;
+  for (const TakenDocument& document : store_.TakenByOthers(request_.links, IsNew() ? 0 : request_.id)) {
+    taken += document.number + " (" + document.requestNo + ")\r\n";
+  }
+  if (taken.empty()) return true;
+  editor_.GoTo(SaveField::CustomerRequests);
+  Tell("These documents are in another request already:\r\n\r\n" + taken + "\r\nTake their ticks off and press OK again.");
+  return false;
+}
+
 bool RequestSaving::IsFinishConfirmed() {
-  if (!request_.finished) return true;
-  return Tell("You have confirmed the transaction as finished.\r\nCannot modify later; Do you want to continue?",
-              controls::kYesNo + controls::kQuestion + controls::kDefaultButton2) == controls::Answer::Yes;
+  if (!request_.finished || finishConfirmed_) return true;
+  finishConfirmed_ = Tell("You have confirmed the transaction as finished.\r\nCannot modify later; Do you want to continue?",
+                          kNoUnlessMeant) == controls::Answer::Yes;
+  return finishConfirmed_;
+}
+
+bool RequestSaving::MaySaveOver() {
+  if (const std::string_view reason = ClosedBecause(stored_); !reason.empty()) {
+    Tell(reason);
+    editor_.ForbidSaving();
+    return false;
+  }
+  const std::string by = stored_.changedBy.empty() ? "" : " by " + stored_.changedBy;
+  const std::string when = stored_.updateTime.TextOrEmpty();
+  const std::string question = "Another workstation has changed this request since you opened it" + by +
+                               (when.empty() ? "" : ", " + when) + ".\r\nDo you want to save over that change?";
+  if (Tell(question, kNoUnlessMeant) != controls::Answer::Yes) {
+    editor_.GoTo(SaveField::Ok);
+    return false;
+  }
+  request_.updateTime = stored_.updateTime;
+  editor_.TakeAsSeen(stored_.updateTime);
+  return true;
 }
 
 void RequestSaving::WriteNewRequest() {
@@ -118,12 +169,17 @@ void RequestSaving::WriteNewRequest() {
   savedAs_ = request_.number;
 }
 
-void RequestSaving::UpdateRequest() {
+bool RequestSaving::UpdateRequest() {
   store_.SetOrdeRaisedStatus(0, request_.id);
-  store_.UpdateHeader(request_);
+  const bool isUpdated = store_.UpdateHeader(request_, [this](const StoredHeader& stored) {
+    stored_ = stored;
+    return ClosedBecause(stored).empty() && SameTime(stored.updateTime, request_.updateTime);
+  });
+  if (!isUpdated) return false;
   store_.ReplaceLines(request_);
   store_.SetOrdeRaisedStatus(1, request_.id);
-  savedAs_ = request_.number;
+  savedAs_ = stored_.number;
+  return true;
 }
 
 void RequestSaving::WriteCustomerLinks() {

@@ -20,21 +20,28 @@ class RequestSaving {
       : session_(session), request_(std::move(entered)), editor_(editor), store_(session, db), view_(view) {}
 
   /// Checks, writes and commits, and brings the register's row up to date. False is a refusal whose message has been shown,
-  /// with the focus where it can be mended. Any error is raised. In both cases database and editor are as they were before.
+  /// with the focus where it can be mended; where nothing can, the editor saves no more. Any error is raised. In both cases
+  /// database and editor are as they were before.
   bool Save();
 
  private:
   bool IsNew() const { return session_.gStrEntryMode == "N"; }
-  /// What happens between begin and commit, in its order. False is a refusal; the transaction is then rolled back.
-  bool Write(ado::Transaction& transaction, SaveStep& step);
+  enum class Outcome { Saved, Refused, Overtaken };
+  /// What happens between begin and commit, in its order. The transaction is rolled back unless the request is saved.
+  Outcome Write(ado::Transaction& transaction, SaveStep& step);
   controls::Answer Tell(std::string_view text, int style = controls::kInformation);
 
   bool IsDateReadable();
   bool IsProjectRuleKept();
+  bool AreDocumentsFree();
   bool IsFinishConfirmed();
+  /// After another workstation wrote the request while it was edited: tells why it can be saved no more, or asks whether to save
+  /// over that work. Outside the transaction, so that nobody waits for this user.
+  bool MaySaveOver();
 
   void WriteNewRequest();
-  void UpdateRequest();
+  /// False, with nothing but flags written, when the stored request is not the one that was edited.
+  bool UpdateRequest();
   void WriteCustomerLinks();
 
   basGoodsRequest& session_;
@@ -42,6 +49,8 @@ class RequestSaving {
   SavePort& editor_;
   RequestStore store_;
   RegisterView& view_;
+  StoredHeader stored_;  ///< of an edited request, as it was before this save
+  bool finishConfirmed_ = false;
   std::string savedAs_;  ///< the request's number once its rows are written
 };
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/controls/form.h"
+#include "base/late/value.h"
 
 namespace goods {
 
@@ -17,6 +18,10 @@ class SavePort {
   virtual void GoTo(SaveField field) = 0;
   /// Shows the number that a new request has got.
   virtual void ShowRequestNo(const std::string& number) = 0;
+  /// The request can be saved no more; what was entered is still shown.
+  virtual void ForbidSaving() = 0;
+  /// The user has decided to save over the change of this time.
+  virtual void TakeAsSeen(const late::Value& updateTime) = 0;
 
  protected:
   ~SavePort() = default;

@@ -48,13 +48,13 @@ void AddNewRequest(controls::FlexGrid& grid, std::vector<std::string> cells) {
   grid.SetTopRow(added);
 }
 
-void OverwriteEditedRequest(controls::FlexGrid& grid, std::int32_t requestId, const std::vector<std::string>& cells) {
+/// The grid's row of the request; 0, a heading, when it is not listed.
+long RowOf(const controls::FlexGrid& grid, std::int32_t requestId) {
   const std::string id = std::to_string(requestId);
   for (long row = 1; row < grid.Rows(); ++row) {
-    if (grid.TextMatrix(row, kRegisterId) != id) continue;
-    WriteCells(grid, row, cells);
-    return;
+    if (grid.TextMatrix(row, kRegisterId) == id) return row;
   }
+  return 0;
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ void UpdateEditedRow(basGoodsRequest& session, RegisterView& view, std::string_v
     std::vector<std::string> cells = ReadRow(session, RowQuery(view.gridQuery, condition));
     if (cells.empty()) return;
     if (session.gStrEntryMode == "E") {
-      OverwriteEditedRequest(view.flexMaster, requestId, cells);
+      if (const long row = RowOf(view.flexMaster, requestId)) WriteCells(view.flexMaster, row, cells);
     } else {
       AddNewRequest(view.flexMaster, std::move(cells));
     }
@@ -73,6 +73,10 @@ void UpdateEditedRow(basGoodsRequest& session, RegisterView& view, std::string_v
     const std::string before = done.empty() ? "" : std::string(done) + " Its row in the list could not be refreshed:\r\n\r\n";
     ReportError(session, kModuleName, "UpdateEditedRow", {error.Number(), before + error.Description(), error.Source()});
   }
+}
+
+void ShowRemarksInRow(RegisterView& view, std::int32_t requestId, std::string_view remarks) {
+  if (const long row = RowOf(view.flexMaster, requestId)) view.flexMaster.SetTextMatrix(row, kRegisterRemarks, remarks);
 }
 
 }  // namespace goods

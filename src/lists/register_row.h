@@ -14,4 +14,7 @@ namespace goods {
 void UpdateEditedRow(basGoodsRequest& session, RegisterView& view, std::string_view condition, std::int32_t requestId,
                      std::string_view done = {});
 
+/// Shows the remarks in the register's row of the request; changes nothing when it is not listed.
+void ShowRemarksInRow(RegisterView& view, std::int32_t requestId, std::string_view remarks);
+
 }  // namespace goods

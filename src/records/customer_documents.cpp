@@ -7,6 +7,15 @@ std::string Number(std::int32_t value) {
   return std::to_string(value);
 }
 
+/// The ids of the documents of a kind, as " in" has them; what no id equals when there are none.
+std::string Ids(const std::vector<CustomerLink>& documents, CustomerLink::Kind kind) {
+  std::string ids;
+  for (const CustomerLink& document : documents) {
+    if (document.kind == kind) ids += (ids.empty() ? "" : ",") + Number(document.id);
+  }
+  return ids.empty() ? "null" : ids;
+}
+
 }  // namespace
 
 std::string LinkedInvoicesQuery(std::int32_t requestId, std::int32_t shopId, std::int32_t companyId) {
@@ -22,6 +31,15 @@ std::string LinksQuery(std::int32_t requestId, std::int32_t shopId, std::int32_t
          " where d.reqcompanyid=" +
          Number(companyId) + " and d.reqinvdshopid=" + Number(shopId) + " and d.reqdid=" + Number(requestId) +
          " order by d.reqddetailid";
+}
+
+std::string LinksOfOthersQuery(const std::vector<CustomerLink>& documents, std::int32_t ownId, std::int32_t shopId,
+                               std::int32_t companyId) {
+  return "select gh.GRHrequestno,gd.reqinvdinvoiceid,gd.reqReexportID from mosRequestInvDetail gd, mosgoodsrequestheader gh"
+         " where gh.GRHrequestID=gd.reqdid and gh.GRHshopID=gd.reqinvdshopid and gh.GRHcancel=0 and gd.reqcompanyid=" +
+         Number(companyId) + " and gd.reqinvdshopid=" + Number(shopId) + " and gd.reqdid<>" + Number(ownId) +
+         " and (gd.reqinvdinvoiceid in (" + Ids(documents, CustomerLink::Kind::Invoice) + ") or gd.reqReexportID in (" +
+         Ids(documents, CustomerLink::Kind::Reexport) + ")) order by gd.reqdid,gd.reqddetailid";
 }
 
 std::string DocumentsOnOfferQuery(std::int32_t shopId, std::int32_t companyId) {

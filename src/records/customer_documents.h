@@ -2,6 +2,9 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "src/records/request.h"
 
 namespace goods {
 
@@ -16,6 +19,12 @@ enum LinkedInvoiceField : std::size_t { kLinkedInvoiceNo, kLinkedInvoiceId };
 std::string LinksQuery(std::int32_t requestId, std::int32_t shopId, std::int32_t companyId);
 /// Fields of LinksQuery; of the first two one is null.
 enum LinkField : std::size_t { kLinkInvoiceId, kLinkReexportId, kLinkReexportNo };
+
+/// The links of requests other than `ownId`, and not cancelled, to any of these documents, of which there is at least one.
+std::string LinksOfOthersQuery(const std::vector<CustomerLink>& documents, std::int32_t ownId, std::int32_t shopId,
+                               std::int32_t companyId);
+/// Fields of LinksOfOthersQuery; of the two ids one is null.
+enum TakenField : std::size_t { kTakenBy, kTakenInvoiceId, kTakenReexportId };
 
 /// Finished invoices and re-exports of type R that no live request holds.
 std::string DocumentsOnOfferQuery(std::int32_t shopId, std::int32_t companyId);

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "base/late/value.h"
+
 namespace goods {
 
 /// One line of a request. Its place in the request is its number.
@@ -32,6 +34,22 @@ struct CustomerLink {
   bool operator==(const CustomerLink&) const = default;
 };
 
+/// A customer document that another request, not cancelled, is linked to.
+struct TakenDocument {
+  std::string number;
+  std::string requestNo;
+};
+
+/// What the stored header says about whether, and over whose work, a request may be written.
+struct StoredHeader {
+  std::string number;
+  bool issued = false;
+  bool finished = false;
+  bool cancelled = false;
+  late::Value updateTime;
+  std::string changedBy;  ///< the name of the user who changed it last; empty when nobody did
+};
+
 enum class RequestType { ToGodown, PurchaseOrder };
 
 /// A goods request as it was entered: texts are what was typed, with their blanks.
@@ -44,6 +62,7 @@ struct Request {
   bool finished = false;  ///< confirmed: it can be changed no more
   std::vector<RequestLine> lines;
   std::vector<CustomerLink> links;
+  late::Value updateTime = late::Null{};  ///< of the stored request, as it was last seen; Null for one that was never changed
 
   /// Whether a line asks for more than 0.
   bool HasLineWithQuantity() const;

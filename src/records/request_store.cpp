@@ -104,6 +104,15 @@ void AddRow(ado::Recordset& rows, std::initializer_list<Column> columns) {
   rows.AddNew(late::Array::List(std::move(names)), std::move(values));
 }
 
+StoredHeader ReadHeader(ado::Recordset& header) {
+  return {.number = header.Field("grhrequestno").TextOrEmpty(),
+          .issued = header.Field("grhIssuenotegenerated").TrueOrFalse(),
+          .finished = header.Field("grhTransFinished").TrueOrFalse(),
+          .cancelled = header.Field("grhcancel").TrueOrFalse(),
+          .updateTime = header.Field("updatetime"),
+          .changedBy = header.Field("grhrecmoduser").TextOrEmpty()};
+}
+
 /// A place in a list: they are numbered in 16 bits. Error 6 beyond.
 std::int16_t Place(std::size_t number) {
   return vb::CInt(static_cast<double>(number));
@@ -134,10 +143,14 @@ void RequestStore::AddHeader(const Request& request) {
   header.Close();
 }
 
-void RequestStore::UpdateHeader(const Request& request) {
+bool RequestStore::UpdateHeader(const Request& request, const MayWrite& mayWrite) {
   const std::string userName =
       UserName("ShopID=" + std::to_string(session_.gIntShopID) + " and Userid=" + std::to_string(session_.gIntUserID));
   ado::Recordset header = OpenHeader(HeaderQuery(request.id, session_.gIntShopID));
+  if (!mayWrite(ReadHeader(header))) {
+    header.Close();
+    return false;
+  }
   header.SetField("grhremarks", vb::Trim(request.remarks));
   header.SetField("grhrecmoduser", userName);
   header.SetField("grhTransFinished", request.finished ? 1 : 0);
@@ -145,6 +158,7 @@ void RequestStore::UpdateHeader(const Request& request) {
   header.Update();
   header.Close();
   session_.gAdoCon.ExecuteNoRecords(UpdateTimeStatement(request.id, session_.gIntShopID));
+  return true;
 }
 
 void RequestStore::AddLines(const Request& request) {
@@ -264,6 +278,21 @@ std::vector<CustomerLink> RequestStore::LinksOf(std::int32_t requestId) {
   return links;
 }
 
+std::vector<TakenDocument> RequestStore::TakenByOthers(const std::vector<CustomerLink>& links, std::int32_t ownId) {
+  std::vector<TakenDocument> taken;
+  if (links.empty()) return taken;
+  const late::ArrayPtr rows = ReadRows(session_, LinksOfOthersQuery(links, ownId, session_.gIntShopID, session_.gIntCompanyID));
+  for (std::size_t row = 0; row < rows->columns; ++row) {
+    const late::Value& invoice = rows->At(kTakenInvoiceId, row);
+    const auto kind = invoice.IsNull() ? CustomerLink::Kind::Reexport : CustomerLink::Kind::Invoice;
+    const std::int32_t id = (invoice.IsNull() ? rows->At(kTakenReexportId, row) : invoice).ToInt32();
+    for (const CustomerLink& link : links) {
+      if (link.kind == kind && link.id == id) taken.push_back({link.number, rows->At(kTakenBy, row).TextOrEmpty()});
+    }
+  }
+  return taken;
+}
+
 bool RequestStore::HasProjectRequest(const std::vector<CustomerLink>& links) {
   for (const CustomerLink& link : links) {
     if (link.kind != CustomerLink::Kind::Invoice) continue;
@@ -273,16 +302,16 @@ bool RequestStore::HasProjectRequest(const std::vector<CustomerLink>& links) {
   return false;
 }
 
-bool RequestStore::Cancel(std::int32_t requestId, std::string_view remark) {
+bool RequestStore::Cancel(std::int32_t requestId, std::string_view remark, const MayWrite& mayWrite) {
   ado::Recordset header = OpenHeader(CancelledHeaderQuery(requestId, session_.gIntShopID));
-  const bool found = !header.Eof();
-  if (found) {
+  const bool cancels = !header.Eof() && mayWrite(ReadHeader(header));
+  if (cancels) {
     header.SetField("grhcancel", std::int32_t{1});
     header.SetField("grhcancelRemarks", remark);
     header.Update();
   }
   header.Close();
-  return found;
+  return cancels;
 }
 
 void RequestStore::RemoveRequestRaised(std::int32_t requestId) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -32,8 +33,10 @@ class RequestStore {
   // A request's rows.
 
   void AddHeader(const Request& request);
-  /// Remarks, confirmation, number of lines, user and time; the rest of a header never changes.
-  void UpdateHeader(const Request& request);
+  /// Is asked with the stored header before anything is written to it.
+  using MayWrite = std::function<bool(const StoredHeader& stored)>;
+  /// Remarks, confirmation, number of lines, user and time; the rest of a header never changes. Whether it was written.
+  bool UpdateHeader(const Request& request, const MayWrite& mayWrite);
   void AddLines(const Request& request);
   void ReplaceLines(const Request& request);
   void AddLinks(const Request& request);
@@ -49,13 +52,17 @@ class RequestStore {
   /// Every stored link: invoices that the shop still has, then the others. Where the shop no longer has the document, the id
   /// takes the place of its number.
   std::vector<CustomerLink> LinksOf(std::int32_t requestId);
+  /// Which of the documents are linked to another request that is not cancelled. `ownId` is the id of the stored request that the
+  /// links belong to, 0 for a new one.
+  std::vector<TakenDocument> TakenByOthers(const std::vector<CustomerLink>& links, std::int32_t ownId);
   /// Whether an invoice among the links is a project request.
   bool HasProjectRequest(const std::vector<CustomerLink>& links);
 
   // Cancellation.
 
-  /// Marks the header as cancelled, with the remark. False when there is no such request.
-  bool Cancel(std::int32_t requestId, std::string_view remark);
+  /// Marks the header as cancelled, with the remark. Whether it was written; `mayWrite` is not asked when there is no such
+  /// request.
+  bool Cancel(std::int32_t requestId, std::string_view remark, const MayWrite& mayWrite);
   /// Clears the request-raised mark of the cancelled request's items, in every shop.
   void RemoveRequestRaised(std::int32_t requestId);
   /// Rewrites header and lines with their own values, so that whatever the database does on an update runs again.

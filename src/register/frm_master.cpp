@@ -187,7 +187,6 @@ void frmMaster::CmdEdit_Click() {
   if (requests_.CurrentCell(kRegisterCancelled) == "Yes") editor.cmdOK.SetEnabled(false);
   editor.txtRequestNo.SetText(requests_.CurrentCell(kRegisterNo));
   editor.txtrequestDate.SetText(requests_.CurrentCell(kRegisterDate));
-  editor.txtRemarks.SetText(requests_.CurrentCell(kRegisterRemarks));
   ShowEditor();
 }
 
@@ -214,11 +213,11 @@ void frmMaster::CmdDelete_Click() {
   const std::string reason = AskReason();
   if (vb::Trim(reason).empty()) return;  // the dialog was torn down, not answered
 
-  MarkRequestCancelled(userName, reason);
+  if (!MarkRequestCancelled(userName, reason)) return ShowCancelled("");
   // The request is cancelled: the list says so, whatever becomes of the record.
   Trap("CmdDelete_Click",
        [&] { session.gObjUserAuditing.SaveUserAuditingInfo(requests_.CurrentCell(kRegisterId), requestNo, "D"); });
-  ShowCancelled(requestNo);
+  ShowCancelled("The request " + requestNo + " is cancelled.");
 }
 
 bool frmMaster::RefusesToDelete() {
@@ -227,7 +226,7 @@ bool frmMaster::RefusesToDelete() {
     refusal = RequestCancellation(Session(), objCommonDB_).Refusal(requests_.CurrentCell(kRegisterId), EditorAllowsSaving());
   }
   if (refusal.empty() && !requests_.IsOnRow()) refusal = "No Request No Selected ";
-  if (refusal.empty() && requests_.CurrentCell(kRegisterCancelled) == "Yes") refusal = "This record is already Deleted ";
+  if (refusal.empty() && requests_.CurrentCell(kRegisterCancelled) == "Yes") refusal = kAlreadyDeleted;
   if (!refusal.empty()) Tell(refusal);
   return !refusal.empty();
 }
@@ -246,17 +245,20 @@ std::string frmMaster::AskReason() {
 }
 
 // Header and item marks are two steps without a transaction: once the header says cancelled, the request is.
-void frmMaster::MarkRequestCancelled(std::string_view userName, std::string_view reason) {
+bool frmMaster::MarkRequestCancelled(std::string_view userName, std::string_view reason) {
   const std::int32_t requestId = Session().gLngRequestID;
-  if (!RequestCancellation(Session(), objCommonDB_).MarkHeader(requestId, userName, reason)) return;
-  Trap("RemoveRequestRaisedFromShopItemDetail", [&] { RequestStore(Session(), objCommonDB_).RemoveRequestRaised(requestId); });
+  RequestCancellation cancellation(Session(), objCommonDB_);
+  if (cancellation.MarkHeader(requestId, userName, reason, EditorAllowsSaving())) {
+    Trap("RemoveRequestRaisedFromShopItemDetail", [&] { RequestStore(Session(), objCommonDB_).RemoveRequestRaised(requestId); });
+  }
+  if (!cancellation.LateRefusal().empty()) Tell(cancellation.LateRefusal());
+  return cancellation.LateRefusal().empty();
 }
 
-void frmMaster::ShowCancelled(const std::string& requestNo) {
+void frmMaster::ShowCancelled(std::string_view done) {
   basGoodsRequest& session = Session();
   session.gStrEntryMode = "E";
-  UpdateEditedRow(session, view_, " GRHrequestID=" + std::to_string(session.gLngRequestID), session.gLngRequestID,
-                  "The request " + requestNo + " is cancelled.");
+  UpdateEditedRow(session, view_, " GRHrequestID=" + std::to_string(session.gLngRequestID), session.gLngRequestID, done);
   requests_.MarkCancelledRequests();
   requests_.SelectWholeRow(flexMaster.Row());
   requests_.ApplySelectionColor();

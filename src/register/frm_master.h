@@ -90,8 +90,10 @@ class frmMaster : public ModuleForm {
   bool EditorAllowsSaving() const;
   /// What the user types as reason; empty when there is none.
   std::string AskReason();
-  void MarkRequestCancelled(std::string_view userName, std::string_view reason);
-  void ShowCancelled(const std::string& requestNo);
+  /// False, after telling why, when another workstation has closed the request since the user was asked.
+  bool MarkRequestCancelled(std::string_view userName, std::string_view reason);
+  /// Brings the request's row up to date; `done` is what UpdateEditedRow says before an error.
+  void ShowCancelled(std::string_view done);
 
   // Grid keys and mouse.
   void flexMaster_DblClick();

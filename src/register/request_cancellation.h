@@ -9,6 +9,8 @@ namespace goods {
 class CommonDb;
 struct basGoodsRequest;
 
+inline constexpr std::string_view kAlreadyDeleted = "This record is already Deleted ";
+
 /// The rules of cancelling a request. Database errors are raised.
 class RequestCancellation {
  public:
@@ -20,12 +22,15 @@ class RequestCancellation {
   /// Why the stored request must not be cancelled; empty when it may be. An issue note does not prevent it where the editor could
   /// not save the request either.
   std::string_view Refusal(std::string_view requestId, bool editorAllowsSaving);
-  /// Marks the request's header as cancelled, with the user's name and the reason. False when the shop has no such request.
-  bool MarkHeader(std::int32_t requestId, std::string_view userName, std::string_view reason);
+  /// Marks the request's header as cancelled, with the user's name and the reason. False when the shop has no such request, and
+  /// when another workstation has closed it since Refusal: LateRefusal() then says why.
+  bool MarkHeader(std::int32_t requestId, std::string_view userName, std::string_view reason, bool editorAllowsSaving);
+  std::string_view LateRefusal() const { return lateRefusal_; }
 
  private:
   basGoodsRequest& session_;
   CommonDb& db_;
+  std::string_view lateRefusal_;
 };
 
 }  // namespace goods

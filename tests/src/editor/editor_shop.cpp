@@ -70,7 +70,6 @@ void EditorShop::Edit(std::int32_t requestId, Work work) {
   editor->txtRequestNo.SetText(shop.Row("select GRHrequestno" + condition));
   editor->txtrequestDate.SetText(
       vb::DateText(vb::ParseDate(shop.Row("select convert(varchar(10),GRHrequestdate,111)" + condition))));
-  editor->txtRemarks.SetText(shop.Row("select GRHremarks" + condition));
   desktop.ExpectForm("frmRequest", [&](controls::Form&) { work(); });
   editor->Show();
   desktop.Verify();

@@ -108,6 +108,10 @@ TEST_F(Saving, AnEditedRequestKeepsWhatItWasCreatedWithAndGetsItsLinesAnew) {
   });
   const std::vector<std::string> expected = {
       "SELECT * FROM losInvoiceProjectRequestDetails WHERE idrInvoiceId = 101 AND idrShopId = 1 AND idrCompanyId = 1",
+      "select gh.GRHrequestno,gd.reqinvdinvoiceid,gd.reqReexportID from mosRequestInvDetail gd, mosgoodsrequestheader gh where "
+      "gh.GRHrequestID=gd.reqdid and gh.GRHshopID=gd.reqinvdshopid and gh.GRHcancel=0 and gd.reqcompanyid=1 and "
+      "gd.reqinvdshopid=1 "
+      "and gd.reqdid<>7 and (gd.reqinvdinvoiceid in (101) or gd.reqReexportID in (null)) order by gd.reqdid,gd.reqddetailid",
       "begin",
       "select * from mosGoodsRequestDetail where GRDrequestID = 7",
       "update aShopItemDetail set RequestRaised=0 where Itemid = 2",

@@ -102,6 +102,35 @@ INSTANTIATE_TEST_SUITE_P(States, RefusedCancellation,
                                          Refusal{"Cancelled", "GRHcancel=1", "This record is already Deleted "}),
                          [](const auto& tested) { return std::string(tested.param.name); });
 
+TEST_F(RequestCancellation, WhatAnotherWorkstationHasClosedMeanwhileIsRefusedTheSame) {
+  struct Case {
+    const char* columns;
+    const char* message;
+    const char* row;
+  };
+  for (const Case& other :
+       {Case{"GRHTransFinished=1", "Transaction is confirmed as finished. Can not delete.", "No|Yes"},
+        Case{"GRHIssuenotegenerated=1", "Issue Note Generated,Cannot Be Delete", "No|No"},
+        Case{"GRHcancel=1, GRHcancelRemarks='theirs'", "This record is already Deleted ", "Yes|No"}}) {
+    const std::string update = "update mosGoodsRequestHeader set " + std::string(other.columns) + " where GRHrequestID=20";
+    Open([&] {
+      GoTo(20);
+      shop.desktop.ExpectMessage("Are you sure you want to Delete GR24/12 ?", Answer::Yes);
+      shop.desktop.ExpectForm("frmcancelreason", [&](controls::Form& form) {
+        support::Type(Dialog(form).txtcanreason, "mine");
+        shop.Run(update);
+        shop.desktop.ExpectMessage(other.message, Answer::Ok, controls::kInformation);
+        support::Click(Dialog(form).cmdok);
+      });
+      support::Click(Register().CmdDelete);
+      EXPECT_TRUE(RowText(RowOf(20)).ends_with(other.row)) << RowText(RowOf(20));
+    });
+    shop.Run("update mosGoodsRequestHeader set GRHTransFinished=0, GRHIssuenotegenerated=0 where GRHrequestID=20");
+  }
+  EXPECT_EQ("1|theirs", Header(20));
+  EXPECT_TRUE(shop.log.Starting("insert into smpUserAudit").empty());
+}
+
 TEST_F(RequestCancellation, OnTheHeadingNothingIsLookedUpButTheUser) {
   Open([&] {
     support::GoToRow(Grid(), 0);
