@@ -66,7 +66,7 @@ void frmRequest::Form_Load() {
   loaded_.reset();
   takenUp_.reset();
   draft_.LeaveBehind();  // of a window that was torn down
-  updateTime_ = late::Null{};
+  updateTime_.clear();
   const bool isNew = IsNew();
   if (isNew) optgoodreq.SetValue(true);  // before anything can fail: without a type, it would be saved as a purchase order
   try {
@@ -118,7 +118,7 @@ void frmRequest::LoadExistingRequest() {
   const std::string type = objCommonDB_.fnReturnField("grhrequesttype", condition).TextOrEmpty();
   (vb::UCase(type) == "G" ? optgoodreq : optporeq).SetValue(true);
   // Before the lines: whoever saves while they are read is noticed at OK.
-  updateTime_ = objCommonDB_.fnReturnField("updatetime", condition);
+  updateTime_ = UpdateTimeText(objCommonDB_.fnReturnField("updatetime", condition));
   txtRemarks.SetText(CellText(objCommonDB_.fnReturnField("grhremarks", condition)));
   txtRemarks.SetTag(txtRemarks.Text());
   ShowRemarksInRow(view_, Session().gLngRequestID, txtRemarks.Text());
@@ -145,7 +145,10 @@ void frmRequest::Form_Activate() {
   if (!isFirst) return;
   Session().gObjUserAuditing.SaveInToTag(*this);
   if (!IsNew() && cmdOK.Enabled()) OfferDraft();
-  if (takenUp_) TakeUpDraft(takenUp_->request);
+  if (takenUp_) {
+    updateTime_ = takenUp_->basedOn;  // a save since then is noticed at OK
+    TakeUpDraft(takenUp_->request);
+  }
   takenUp_.reset();
   KeepDraft();
 }
@@ -227,7 +230,7 @@ void frmRequest::KeepDraft() {
   if (!loaded_ || takenUp_ || !cmdOK.Enabled()) return;
   Trap("KeepDraft", [this] {
     if (IsChanged()) {
-      draft_.Keep({Entered(), IsNew(), {}, {}});
+      draft_.Keep({Entered(), IsNew(), updateTime_, {}});
     } else {
       draft_.Discard();
     }

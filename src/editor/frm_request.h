@@ -113,7 +113,7 @@ class frmRequest : public ModuleForm, private SavePort {
   void GoTo(SaveField field) override;
   void ShowRequestNo(const std::string& number) override { txtRequestNo.SetText(number); }
   void ForbidSaving() override { cmdOK.SetEnabled(false); }
-  void TakeAsSeen(const late::Value& updateTime) override { updateTime_ = updateTime; }
+  void TakeAsSeen(const std::string& updateTime) override { updateTime_ = updateTime; }
 
   void lvwrequest_DblClick();
   void lvwrequest_KeyDown(int& keyCode, int shift);
@@ -134,7 +134,7 @@ class frmRequest : public ModuleForm, private SavePort {
   DraftKeeping draft_{Session(), *this};
   std::optional<RequestDraft> takenUp_;  ///< from the load to the first activation
   std::optional<Request> loaded_;        ///< from the first activation on: what is stored; a new request has no lines
-  late::Value updateTime_;               ///< of the stored request, as it was last seen
+  std::string updateTime_;               ///< UpdateTimeText of the stored request, as it was last seen
   bool keepOpen_ = true;                 ///< the answer to a cancelled closing; only a save clears it
   bool firstActivation_ = true;          ///< since the last load
   bool settingBox_ = false;              ///< the box's Click comes from this form's own code

@@ -33,11 +33,6 @@ class ProvisionalIdentity {
   bool kept_ = false;
 };
 
-/// Whether both are the same time, or no time at all. Times that a helper hands on as text are compared as text.
-bool SameTime(const late::Value& a, const late::Value& b) {
-  return a.IsDate() && b.IsDate() ? a.ToDate() == b.ToDate() : a.TextOrEmpty() == b.TextOrEmpty();
-}
-
 /// Why nobody may change the request any more; empty when it may be changed.
 std::string_view ClosedBecause(const StoredHeader& stored) {
   if (stored.issued) return "Issue Note Generated,Cannot Modify";
@@ -152,8 +147,8 @@ bool RequestSaving::MaySaveOver() {
     editor_.GoTo(SaveField::Ok);
     return false;
   }
-  request_.updateTime = stored_.updateTime;
-  editor_.TakeAsSeen(stored_.updateTime);
+  request_.updateTime = UpdateTimeText(stored_.updateTime);
+  editor_.TakeAsSeen(request_.updateTime);
   return true;
 }
 
@@ -173,7 +168,7 @@ bool RequestSaving::UpdateRequest() {
   store_.SetOrdeRaisedStatus(0, request_.id);
   const bool isUpdated = store_.UpdateHeader(request_, [this](const StoredHeader& stored) {
     stored_ = stored;
-    return ClosedBecause(stored).empty() && SameTime(stored.updateTime, request_.updateTime);
+    return ClosedBecause(stored).empty() && UpdateTimeText(stored.updateTime) == request_.updateTime;
   });
   if (!isUpdated) return false;
   store_.ReplaceLines(request_);

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "base/controls/form.h"
-#include "base/late/value.h"
 
 namespace goods {
 
@@ -21,7 +20,7 @@ class SavePort {
   /// The request can be saved no more; what was entered is still shown.
   virtual void ForbidSaving() = 0;
   /// The user has decided to save over the change of this time.
-  virtual void TakeAsSeen(const late::Value& updateTime) = 0;
+  virtual void TakeAsSeen(const std::string& updateTime) = 0;
 
  protected:
   ~SavePort() = default;

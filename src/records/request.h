@@ -46,9 +46,13 @@ struct StoredHeader {
   bool issued = false;
   bool finished = false;
   bool cancelled = false;
-  late::Value updateTime;
-  std::string changedBy;  ///< the name of the user who changed it last; empty when nobody did
+  late::Value updateTime;  ///< Null for one that was never changed
+  std::string changedBy;   ///< the name of the user who changed it last; empty when nobody did
 };
+
+/// A time of change as text that can be compared and kept, "2024-03-14 08:00:00.123"; a time that a helper gives as text as it
+/// is, empty for none.
+std::string UpdateTimeText(const late::Value& updateTime);
 
 enum class RequestType { ToGodown, PurchaseOrder };
 
@@ -62,7 +66,7 @@ struct Request {
   bool finished = false;  ///< confirmed: it can be changed no more
   std::vector<RequestLine> lines;
   std::vector<CustomerLink> links;
-  late::Value updateTime = late::Null{};  ///< of the stored request, as it was last seen; Null for one that was never changed
+  std::string updateTime;  ///< UpdateTimeText of the stored request, as it was last seen
 
   /// Whether a line asks for more than 0.
   bool HasLineWithQuantity() const;

@@ -14,7 +14,7 @@ namespace goods {
 struct RequestDraft {
   Request request;
   bool isNew = true;    ///< else a draft of the stored request with request.id
-  std::string basedOn;  ///< the stored request's time of change when it was opened, as RequestStore gives it; empty for none
+  std::string basedOn;  ///< UpdateTimeText of the stored request when it was opened; empty for none
   vb::Date savedAt;
 };
 

@@ -13,13 +13,15 @@ class TwoWorkstations : public EditorShop {
   static constexpr int kNoIsDefault = controls::kYesNo + controls::kQuestion + controls::kDefaultButton2;
   void Change(const std::string& columns) { shop.Run("update mosGoodsRequestHeader set " + columns + " where GRHrequestID=7"); }
   void ExpectQuestion(const std::string& what, Answer answer) {
-    desktop.ExpectMessage("Another workstation has changed this request since you opened it" + what +
-                              ".\r\nDo you want to save over that change?",
-                          answer, kNoIsDefault);
+    desktop.ExpectMessage(
+        "Another workstation has changed this request since you opened it" + what + ".\r\nDo you want to save over that change?",
+        answer, kNoIsDefault);
   }
   void Link(int request, const std::string& invoice, const std::string& reexport) {
-    shop.Run("insert into mosRequestInvDetail (reqcompanyid,reqdid,reqddetailid,reqinvdshopid,reqinvdinvoiceid,reqReexportID) "
-             "values (1," + std::to_string(request) + ",1,1," + invoice + "," + reexport + ")");
+    shop.Run(
+        "insert into mosRequestInvDetail (reqcompanyid,reqdid,reqddetailid,reqinvdshopid,reqinvdinvoiceid,reqReexportID) "
+        "values (1," +
+        std::to_string(request) + ",1,1," + invoice + "," + reexport + ")");
   }
 };
 
@@ -28,10 +30,9 @@ TEST_F(TwoWorkstations, WhatTheOtherHasClosedStaysClosedAndWhatWasTypedCanBeRead
     const char* columns;
     const char* message;
   };
-  for (const Case& other :
-       {Case{"GRHcancel=1", "This record is already Deleted "},
-        Case{"GRHTransFinished=1", "Transaction is confirmed as finished,Cannot modify"},
-        Case{"GRHIssuenotegenerated=1, GRHTransFinished=1", "Issue Note Generated,Cannot Modify"}}) {
+  for (const Case& other : {Case{"GRHcancel=1", "This record is already Deleted "},
+                            Case{"GRHTransFinished=1", "Transaction is confirmed as finished,Cannot modify"},
+                            Case{"GRHIssuenotegenerated=1, GRHTransFinished=1", "Issue Note Generated,Cannot Modify"}}) {
     Change("GRHcancel=0, GRHTransFinished=0, GRHIssuenotegenerated=0");
     Edit(7, [&] {
       Enter(editor->txtRemarks, "typed");
@@ -60,8 +61,7 @@ TEST_F(TwoWorkstations, NobodyIsOverwrittenUnasked) {
   Edit(7, [&] {
     AddLine(3, "3.000");
     Click(editor->chkTransFinished);
-    const std::string finish =
-        "You have confirmed the transaction as finished.\r\nCannot modify later; Do you want to continue?";
+    const std::string finish = "You have confirmed the transaction as finished.\r\nCannot modify later; Do you want to continue?";
     Change("updatetime='2024-03-15 11:00:00', GRHrecmoduser='Ines'");
     const std::vector<std::string> before = Everything();
     desktop.ExpectMessage(finish, Answer::Yes);
@@ -126,7 +126,8 @@ TEST_F(TwoWorkstations, ADocumentThatAnotherRequestHasTakenIsNamedAndCanBeTakenO
     const std::vector<std::string> before = Everything();
     log.Clear();
     desktop.ExpectMessage(
-        "These documents are in another request already:\r\n\r\nX-101 (GR/7)\r\nI-101 (GR/10)\r\n\r\nTake their ticks off and press "
+        "These documents are in another request already:\r\n\r\nX-101 (GR/7)\r\nI-101 (GR/10)\r\n\r\nTake their ticks off and "
+        "press "
         "OK again.",
         Answer::Ok, controls::kInformation);
     Click(editor->cmdOK);

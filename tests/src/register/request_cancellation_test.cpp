@@ -108,10 +108,9 @@ TEST_F(RequestCancellation, WhatAnotherWorkstationHasClosedMeanwhileIsRefusedThe
     const char* message;
     const char* row;
   };
-  for (const Case& other :
-       {Case{"GRHTransFinished=1", "Transaction is confirmed as finished. Can not delete.", "No|Yes"},
-        Case{"GRHIssuenotegenerated=1", "Issue Note Generated,Cannot Be Delete", "No|No"},
-        Case{"GRHcancel=1, GRHcancelRemarks='theirs'", "This record is already Deleted ", "Yes|No"}}) {
+  for (const Case& other : {Case{"GRHTransFinished=1", "Transaction is confirmed as finished. Can not delete.", "No|Yes"},
+                            Case{"GRHIssuenotegenerated=1", "Issue Note Generated,Cannot Be Delete", "No|No"},
+                            Case{"GRHcancel=1, GRHcancelRemarks='theirs'", "This record is already Deleted ", "Yes|No"}}) {
     const std::string update = "update mosGoodsRequestHeader set " + std::string(other.columns) + " where GRHrequestID=20";
     Open([&] {
       GoTo(20);
