@@ -170,7 +170,9 @@ TEST_F(ShopDay, ARequestIsFilledWithoutTypingACode) {
   // What is out of stock would make a request of its own; not today.
   FormOnScreen editor = NewRequest(nora, requests, "Yes");
   editor.HasRows(27);
-  Leave(editor);
+  editor.Press("Esc");
+  EXPECT_EQ(nora.Answers("No"), "Save Changes?");
+  editor.Goes();
 
   // Two customers are waiting; the first has come and gone.
   editor = NewRequest(nora, requests);
