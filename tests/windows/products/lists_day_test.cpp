@@ -52,6 +52,7 @@ TEST(ListsDay, TheTextOfADocumentSelectsItAndItsBoxTicksIt) {
   editor.TurnTo("Items");
   editor.HasRows(2);
   editor.Press("Esc");
+  EXPECT_EQ(nora.Answers("No"), "Save Changes?");
   editor.Goes();
   requests.Click("Close");
   EXPECT_EQ(host.ExitCode(), 0u) << host.Complaint();

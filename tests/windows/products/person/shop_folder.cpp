@@ -8,8 +8,20 @@
 #include "platform/windows/windows_gate.h"
 
 namespace person {
+namespace {
+
+/// Takes away the drafts of programs that an earlier test has ended: the next new request would offer them.
+void RemoveDrafts() {
+  std::array<wchar_t, MAX_PATH> folder{};
+  if (GetEnvironmentVariableW(L"LOCALAPPDATA", folder.data(), static_cast<DWORD>(folder.size())) == 0) return;
+  std::error_code ignored;
+  std::filesystem::remove_all(std::filesystem::path(folder.data()) / L"GoodsRequest", ignored);
+}
+
+}  // namespace
 
 ShopFolder::ShopFolder() {
+  RemoveDrafts();
   static int count = 0;
   std::array<wchar_t, MAX_PATH> temporary{};
   GetTempPathW(static_cast<DWORD>(temporary.size()), temporary.data());
