@@ -8,7 +8,7 @@
 namespace goods {
 namespace {
 
-constexpr int kMaxFiles = 20;  // of one user, edited at once or left behind
+constexpr int kMaxFiles = 20;  // of one user: open in several programs, or left by programs that ended
 
 }  // namespace
 

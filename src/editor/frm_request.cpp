@@ -117,7 +117,7 @@ void frmRequest::LoadExistingRequest() {
   }
   const std::string type = objCommonDB_.fnReturnField("grhrequesttype", condition).TextOrEmpty();
   (vb::UCase(type) == "G" ? optgoodreq : optporeq).SetValue(true);
-  // Before the lines: whoever saves while they are read is noticed at OK.
+  // Before the lines, so that a save by another workstation while they are read is noticed at OK.
   updateTime_ = UpdateTimeText(objCommonDB_.fnReturnField("updatetime", condition));
   txtRemarks.SetText(CellText(objCommonDB_.fnReturnField("grhremarks", condition)));
   txtRemarks.SetTag(txtRemarks.Text());

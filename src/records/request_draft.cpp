@@ -45,7 +45,7 @@ std::string Escaped(std::string_view text) {
   return escaped;
 }
 
-/// Nothing when a backslash stands before a letter that means nothing.
+/// Nothing when a backslash is followed by a letter without a meaning.
 std::optional<std::string> Unescaped(std::string_view text) {
   std::string plain;
   for (std::size_t at = 0; at < text.size(); ++at) {

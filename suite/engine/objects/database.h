@@ -37,9 +37,9 @@ class Database {
   void RunScript(std::string_view text);
   /// Whether there is no table in it yet.
   bool IsEmpty() const;
-  /// When it is empty, runs `fill` in one transaction, with a connection that is part of it, as RunScript is: whoever else wants
-  /// to fill the file waits and finds it filled, and a process that dies or fails amid it leaves it empty. What `fill` raises is
-  /// raised.
+  /// When it is empty, runs `fill` in one transaction, with a connection that is part of it, as RunScript is. Another process
+  /// that wants to fill the file waits and finds it filled; a process that dies or fails meanwhile leaves it empty. Errors of
+  /// `fill` are raised.
   void FillWhenEmpty(const std::function<void(const late::ObjectPtr& connection)>& fill);
 
  private:

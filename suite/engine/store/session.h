@@ -73,8 +73,8 @@ class Session : public std::enable_shared_from_this<Session> {
   void Rollback();
   bool InTransaction() const { return manual_; }
   /// What every statement and row goes through on its way to the server. Raises the provider's error when the connection still
-  /// has unread rows under way inside a transaction; outside, the provider logs on a second time. Afterwards the catalog is the
-  /// file's, whoever has changed it.
+  /// has unread rows under way inside a transaction; outside, the provider logs on a second time. Afterwards the catalog is that
+  /// of the file, also when another process has changed it.
   void Use();
   /// To be called before something is written: outside a transaction the open rows are read ahead.
   void PrepareToWrite();
