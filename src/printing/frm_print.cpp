@@ -57,11 +57,11 @@ void frmPrint::Form_KeyPress(int& character) {
 }
 
 void frmPrint::cmdOK_Click() {
-  // The report's errors are its own routine's, and the dialog goes all the same; a text print that fails here leaves it open.
+  // A slip for the screen that fails leaves the dialog open. What fails on paper or in the report was told, and the dialog goes.
   if (optwindowsprint.Value()) {
     Trap("WIndowsprint", [&] { WIndowsprint(Session(), RequestId()); });
-  } else {
-    PrintAsText();
+  } else if (!PrintAsText()) {
+    return;
   }
   Unload();
 }
@@ -70,15 +70,15 @@ void frmPrint::cmdCancel_Click() {
   Unload();
 }
 
-void frmPrint::PrintAsText() {
+bool frmPrint::PrintAsText() {
   const controls::Hourglass wait(*this);
   const std::string viewer = TextViewer(Session());
-  if (optScreen.Value()) {
-    const std::string file = slip_.PrintBill(RequestId(), SlipDestination::Screen);
-    ShowTextFile(Session(), viewer, file);
-  } else {
-    slip_.PrintBill(RequestId(), SlipDestination::Printer);
-  }
+  const bool toScreen = optScreen.Value();
+  const std::string file = slip_.PrintBill(RequestId(), toScreen ? SlipDestination::Screen : SlipDestination::Printer);
+  if (!toScreen) return true;
+  if (file.empty()) return false;
+  ShowTextFile(Session(), viewer, file);
+  return true;
 }
 
 std::int32_t frmPrint::RequestId() const {

@@ -27,7 +27,8 @@ class frmPrint : public ModuleForm {
   void Form_KeyPress(int& character);
   void cmdOK_Click();
   void cmdCancel_Click();
-  void PrintAsText();
+  /// Writes the slip and shows it where it is for the screen. Returns false when there is no whole slip to show.
+  bool PrintAsText();
   /// The id in the register's current row; 0 when there is none.
   std::int32_t RequestId() const;
 

@@ -63,19 +63,19 @@ OpenedOutput OpenOutput(workstation::Workstation& workstation, SlipDestination d
 }  // namespace
 
 std::string RequestSlip::PrintBill(std::int32_t requestId, SlipDestination destination) {
+  isWhole_ = true;
   std::string path;
-  Trapped(session_, kModule, "PrintBill", [&] { Write(requestId, destination, path); });
-  return path;
+  RunRoutine("PrintBill", [&] { path = Write(requestId, destination); });
+  return isWhole_ ? path : std::string();
 }
 
-void RequestSlip::Write(std::int32_t requestId, SlipDestination destination, std::string& path) {
+std::string RequestSlip::Write(std::int32_t requestId, SlipDestination destination) {
   const SlipSettings settings = SlipSettings::Read(session_);
   const SlipColumns columns(settings);
   // Read before anything is opened: what cannot be read leaves the last slip, and the paper, alone. And read to the end: header,
   // footer and prices ask the same connection.
   const late::ArrayPtr lines = ReadRows(session_, SlipLinesQuery(requestId, session_.gIntShopID, settings.printinsavedorder));
   OpenedOutput opened = OpenOutput(session_.services.workstation, destination, settings.port);
-  path = opened.path;
   SlipOutput output(std::move(opened.file));
   // The screen file starts with the headings; only paper gets the header.
   if (destination == SlipDestination::Printer) HeaderPrint(output, settings.pagewidth, requestId);
@@ -84,6 +84,7 @@ void RequestSlip::Write(std::int32_t requestId, SlipDestination destination, std
   WriteTotals(output, settings, columns, totals);
   FooterPrint(output, settings.pagewidth);
   output.Close();
+  return opened.path;
 }
 
 void RequestSlip::WriteHeadings(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns) const {
@@ -141,11 +142,15 @@ void RequestSlip::WriteTotals(SlipOutput& output, const SlipSettings& settings, 
 }
 
 void RequestSlip::HeaderPrint(SlipOutput& output, std::int16_t pageWidth, std::int32_t requestId) {
-  Trapped(session_, kModule, "HeaderPrint", [&] { WriteSlipHeader(session_, output, pageWidth, requestId); });
+  RunRoutine("HeaderPrint", [&] { WriteSlipHeader(session_, output, pageWidth, requestId); });
 }
 
 void RequestSlip::FooterPrint(SlipOutput& output, std::int16_t pageWidth) {
-  Trapped(session_, kModule, "FooterPrint", [&] { WriteSlipFooter(session_, output, pageWidth); });
+  RunRoutine("FooterPrint", [&] { WriteSlipFooter(session_, output, pageWidth); });
+}
+
+void RequestSlip::RunRoutine(std::string_view name, const std::function<void()>& work) {
+  isWhole_ = Trapped(session_, kModule, name, work) && isWhole_;
 }
 
 }  // namespace goods

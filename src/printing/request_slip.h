@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "base/late/value.h"
 #include "src/module/session.h"
@@ -18,8 +20,8 @@ class RequestSlip {
  public:
   explicit RequestSlip(basGoodsRequest& session) : session_(session) {}
 
-  /// Writes the whole slip. The path of the file that was opened, written in full or as far as an error let it; empty when none
-  /// was.
+  /// Writes the whole slip. Returns the path of its file or port; empty when an error was reported, and the slip is not written
+  /// or only in part.
   std::string PrintBill(std::int32_t requestId, SlipDestination destination);
 
  private:
@@ -27,15 +29,17 @@ class RequestSlip {
     double quantity = 0;
     double cost = 0;
   };
-  void Write(std::int32_t requestId, SlipDestination destination, std::string& path);
+  std::string Write(std::int32_t requestId, SlipDestination destination);
   void WriteHeadings(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns) const;
   Totals WriteLines(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns, const late::Array& lines,
                     SlipDestination destination);
   void WriteTotals(SlipOutput& output, const SlipSettings& settings, const SlipColumns& columns, const Totals& totals) const;
   void HeaderPrint(SlipOutput& output, std::int16_t pageWidth, std::int32_t requestId);
   void FooterPrint(SlipOutput& output, std::int16_t pageWidth);
+  void RunRoutine(std::string_view name, const std::function<void()>& work);
 
   basGoodsRequest& session_;
+  bool isWhole_ = false;
 };
 
 }  // namespace goods

@@ -22,7 +22,7 @@ std::string TextViewer(basGoodsRequest& session) {
 
 void ShowTextFile(basGoodsRequest& session, std::string_view viewer, std::string_view file) {
   workstation::Workstation& workstation = session.services.workstation;
-  const bool usualFile = file.empty() || vb::EqualNoCase(file, kUsualFile);
+  const bool usualFile = vb::EqualNoCase(file, kUsualFile);
   std::string command;
   if (workstation.FileExists(vb::RTrim(viewer))) {
     command = std::string(viewer) + "  " + std::string(usualFile ? kUsualFile : file);

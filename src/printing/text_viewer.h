@@ -12,8 +12,7 @@ namespace goods {
 std::string TextViewer(basGoodsRequest& session);
 
 /// Starts the viewer, maximised, on the slip; does not wait. Where the viewer does not exist, the Windows directory's
-/// notepad takes its place. Error 53 when neither can be started. `file` empty (the slip could not be written) shows the usual
-/// file all the same.
+/// notepad takes its place. Error 53 when neither can be started.
 void ShowTextFile(basGoodsRequest& session, std::string_view viewer, std::string_view file);
 
 }  // namespace goods

@@ -98,6 +98,36 @@ TEST(PrintDialog, APortThatCannotBeReachedIsToldAndTheDialogGoes) {
   EXPECT_EQ(day.errors->lines, std::vector<std::string>{"frmMaster |PrintBill|70|"});
 }
 
+TEST(PrintDialog, ASlipThatFailsIsNotShownAndTheDialogStaysForAnotherTry) {
+  struct Case {
+    const char* what;
+    std::map<std::string, std::string> settings;
+    int failing;  ///< the statement that fails; 0 for none
+    const char* reported;
+  };
+  for (const Case& wrong : {Case{"before the last slip is overwritten", {{"pagewidth", "20"}}, 0, "frmMaster |PrintBill|5|"},
+                            Case{"in the middle", {{"showitemcodeinprint", "1"}, {"Unit", "-3"}}, 0, "frmMaster |PrintBill|5|"},
+                            Case{"in the footer", {}, 2, "frmMaster |FooterPrint|"}}) {
+    PrintDay day;
+    day.AddLine(1, 11, "1");
+    day.workstation.files["C:\\Reqtohq.txt"] = "the last slip";
+    day.Settings(wrong.settings);
+    day.Print([&](goods::frmPrint& dialog) {
+      if (wrong.failing > 0) day.log.FailAt(wrong.failing);
+      support::Click(dialog.cmdOK);
+      ASSERT_EQ(day.errors->lines.size(), 1u) << wrong.what;
+      EXPECT_TRUE(day.errors->lines[0].starts_with(wrong.reported)) << day.errors->lines[0];
+      EXPECT_TRUE(day.workstation.started.empty()) << wrong.what;
+      ASSERT_TRUE(dialog.IsLoaded()) << wrong.what;
+      EXPECT_EQ(day.desktop.hourglasses, 0) << wrong.what;
+      day.Settings({});
+      support::Click(dialog.cmdOK);
+      EXPECT_FALSE(dialog.IsLoaded()) << wrong.what;
+    });
+    EXPECT_EQ(day.workstation.started.size(), 1u) << wrong.what;
+  }
+}
+
 TEST(PrintDialog, AnEditorThatCannotBeStartedLeavesTheSlipAndTheDialog) {
   PrintDay day;
   day.workstation.startsPrograms = false;
