@@ -78,6 +78,15 @@ std::size_t FindCharacters(std::string_view text, std::string_view part) {
 
 }  // namespace
 
+std::optional<std::string_view> TakeLine(std::string_view& rest) {
+  if (rest.empty()) return std::nullopt;
+  const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
+  const std::string_view line = rest.substr(0, end);
+  rest.remove_prefix(end);
+  rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
+  return line;
+}
+
 char32_t NextCharacter(std::string_view text, std::size_t& offset) {
   const auto byteAt = [&](std::size_t index) { return static_cast<unsigned char>(text[index]); };
   const unsigned char lead = byteAt(offset);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,6 +46,9 @@ std::string Replace(std::string_view text, std::string_view what, std::string_vi
 std::string DoubleApostrophes(std::string_view text);
 /// An empty text has no parts; an empty delimiter leaves the text as one part.
 std::vector<std::string> Split(std::string_view text, std::string_view delimiter);
+/// Takes the next line off `rest` and returns it without its end, which is CR LF, a lone CR or a lone LF. The last line needs no
+/// end. Returns nothing when `rest` is empty.
+std::optional<std::string_view> TakeLine(std::string_view& rest);
 
 /// One character of UTF-8 at byte `offset`, which moves past it. An invalid byte gives 0xDC00 + byte.
 char32_t NextCharacter(std::string_view text, std::size_t& offset);

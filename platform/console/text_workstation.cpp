@@ -11,6 +11,7 @@
 #include "base/vb/file_error.h"
 #include "base/vb/text.h"
 #include "base/workstation/printer_port.h"
+#include "base/workstation/text_file.h"
 #include "platform/console/escape.h"
 #include "platform/console/text_state_file.h"
 
@@ -18,24 +19,6 @@ namespace console {
 namespace {
 
 namespace fs = std::filesystem;
-
-class TextInput : public workstation::InputFile {
- public:
-  explicit TextInput(std::string content) : content_(std::move(content)) {
-    if (content_.starts_with("\xEF\xBB\xBF")) at_ = 3;
-  }
-  std::optional<std::string> ReadLine() override {
-    if (at_ >= content_.size()) return std::nullopt;
-    const std::size_t end = std::min(content_.find_first_of("\r\n", at_), content_.size());
-    std::string line = content_.substr(at_, end - at_);
-    at_ = end + (content_.compare(end, 2, "\r\n") == 0 ? 2 : 1);
-    return line;
-  }
-
- private:
-  std::string content_;
-  std::size_t at_ = 0;
-};
 
 class TextOutput : public workstation::OutputFile {
  public:
@@ -124,7 +107,7 @@ std::unique_ptr<workstation::InputFile> TextWorkstation::OpenForInput(std::strin
   std::error_code ignored;
   if (!file) vb::RaiseFileError(vb::kPathNotFound, path);
   if (!fs::is_regular_file(*file, ignored)) vb::RaiseFileError(vb::kFileNotFound, path);
-  return std::make_unique<TextInput>(ReadAll(*file));
+  return std::make_unique<workstation::TextFile>(ReadAll(*file));
 }
 
 std::unique_ptr<workstation::OutputFile> TextWorkstation::OpenToWrite(std::string_view path, bool append) {

@@ -1,7 +1,7 @@
 #include "src/module/settings_reader.h"
 
-#include <memory>
-#include <optional>
+#include <algorithm>
+#include <utility>
 
 #include "base/vb/text.h"
 #include "src/module/error_routine.h"
@@ -13,58 +13,53 @@ namespace {
 constexpr std::string_view kSeparator = ":=";
 constexpr std::string_view kNotFound = "NotFound";
 
-/// The value of the first line that carries the key. The files are written "key := value": the one character before the
-/// separator belongs to neither side.
-std::optional<std::string> ScanForKey(workstation::InputFile& file, std::string_view key) {
-  const std::string wanted = vb::UCase(key);
-  while (const std::optional<std::string> line = file.ReadLine()) {
-    const auto separator = static_cast<long>(vb::InStr(*line, kSeparator));
-    if (separator < 2 || vb::UCase(vb::Left(*line, separator - 2)) != wanted) continue;
-    return vb::Mid(*line, separator + 2);
-  }
-  return std::nullopt;
-}
-
 void TellCritical(basGoodsRequest& session, std::string text) {
   controls::Desktop& desktop = session.services.desktop;
   desktop.MsgBox(desktop.ActiveForm(), {std::move(text), controls::kCritical, session.gStrMsgboxCaption});
 }
 
-std::unique_ptr<workstation::InputFile> OpenOrTell(basGoodsRequest& session, std::string_view path) {
-  try {
-    return session.services.workstation.OpenForInput(path);
-  } catch (const vb::RunTimeError&) {
-    TellCritical(session, " Settings.ini file not found");
-    throw;
-  }
-}
-
 }  // namespace
 
-std::string FileCode(basGoodsRequest& session, std::string_view key, std::string_view path) {
-  std::string result;
-  Trapped(session, kModuleName, "FileCode ", [&] {
-    const std::unique_ptr<workstation::InputFile> file = OpenOrTell(session, path);
-    std::optional<std::string> value = ScanForKey(*file, key);
-    if (!value) TellCritical(session, std::string(key) + "  invalid parameter in Settings.ini file");
-    if (value && !vb::EqualNoCase(*value, kNotFound)) result = std::move(*value);
-  });
-  return result;
-}
-
-std::string QuietFileCode(basGoodsRequest& session, std::string_view key, std::string_view path, std::string_view otherwise) {
+SettingsFile::SettingsFile(basGoodsRequest& session, bool failureToldOf) : session_(session), failureToldOf_(failureToldOf) {
+  workstation::Workstation& workstation = session.services.workstation;
   try {
-    const std::unique_ptr<workstation::InputFile> file = session.services.workstation.OpenForInput(path);
-    std::optional<std::string> value = ScanForKey(*file, key);
-    if (value && !vb::EqualNoCase(*value, kNotFound)) return std::move(*value);
-  } catch (const vb::RunTimeError&) {
-    // An optional setting in a file that cannot be read is an absent one.
+    const auto file = workstation.OpenForInput(workstation.ApplicationFolder() + "\\ShopSetting.txt");
+    while (const std::optional<std::string> line = file->ReadLine()) {
+      const std::size_t separator = line->find(kSeparator);
+      if (separator == std::string::npos || separator == 0) continue;
+      const std::string_view before = std::string_view(*line).substr(0, separator);
+      // The character before the separator belongs to neither side.
+      const std::string key = vb::Left(before, static_cast<long>(vb::Len(before)) - 1);
+      settings_.emplace_back(vb::UCase(key), line->substr(separator + kSeparator.size()));
+    }
+  } catch (const vb::RunTimeError& error) {
+    failure_ = error;
   }
-  return std::string(otherwise);
 }
 
-std::string SettingsPath(basGoodsRequest& session) {
-  return session.services.workstation.ApplicationFolder() + "\\ShopSetting.txt";
+std::string SettingsFile::FileCode(std::string_view key) {
+  if (failure_) {
+    if (!std::exchange(failureToldOf_, true)) TellOfFailure();
+    return {};
+  }
+  const std::string* value = Find(key);
+  if (!value) TellCritical(session_, std::string(key) + "  invalid parameter in Settings.ini file");
+  return value && !vb::EqualNoCase(*value, kNotFound) ? *value : std::string();
+}
+
+std::string SettingsFile::QuietFileCode(std::string_view key, std::string_view otherwise) const {
+  const std::string* value = Find(key);
+  return value && !vb::EqualNoCase(*value, kNotFound) ? *value : std::string(otherwise);
+}
+
+const std::string* SettingsFile::Find(std::string_view key) const {
+  const auto found = std::ranges::find(settings_, vb::UCase(key), &std::pair<std::string, std::string>::first);
+  return found == settings_.end() ? nullptr : &found->second;
+}
+
+void SettingsFile::TellOfFailure() {
+  TellCritical(session_, " Settings.ini file not found");
+  ReportError(session_, kModuleName, "FileCode ", *failure_);
 }
 
 }  // namespace goods

@@ -1,5 +1,7 @@
 #include "src/printing/frm_print.h"
 
+#include <utility>
+
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/module/settings_reader.h"
@@ -42,12 +44,13 @@ void frmPrint::Design() {
 
 void frmPrint::Form_Load() {
   Session().gObjFormColor.Applyformcolor(*this);
-  const std::string path = SettingsPath(Session());
-  const auto isOne = [&](std::string_view key) { return vb::Val(FileCode(Session(), key, path)) == 1; };
+  SettingsFile settings(Session());
+  const auto isOne = [&](std::string_view key) { return vb::Val(settings.FileCode(key)) == 1; };
   const bool offered = isOne("windowsprint");
   optwindowsprint.SetVisible(offered);
   optwindowsprint.SetValue(offered);
   if (!offered) (isOne("printtoscreen") ? optScreen : optPrint).SetValue(true);
+  settingsFailureToldOf_ = settings.FailureToldOf();
   // The settings decide only what is offered: the dialog always opens on the screen.
   optScreen.SetValue(true);
 }
@@ -74,7 +77,8 @@ bool frmPrint::PrintAsText() {
   const controls::Hourglass wait(*this);
   const std::string viewer = TextViewer(Session());
   const bool toScreen = optScreen.Value();
-  const std::string file = slip_.PrintBill(RequestId(), toScreen ? SlipDestination::Screen : SlipDestination::Printer);
+  SettingsFile settings(Session(), std::exchange(settingsFailureToldOf_, false));
+  const std::string file = slip_.PrintBill(RequestId(), toScreen ? SlipDestination::Screen : SlipDestination::Printer, settings);
   if (!toScreen) return true;
   if (file.empty()) return false;
   ShowTextFile(Session(), viewer, file);

@@ -34,6 +34,7 @@ class frmPrint : public ModuleForm {
 
   RegisterView& register_;
   RequestSlip slip_;
+  bool settingsFailureToldOf_ = false;  ///< by the load, until the first print
 };
 
 }  // namespace goods

@@ -62,15 +62,15 @@ OpenedOutput OpenOutput(workstation::Workstation& workstation, SlipDestination d
 
 }  // namespace
 
-std::string RequestSlip::PrintBill(std::int32_t requestId, SlipDestination destination) {
+std::string RequestSlip::PrintBill(std::int32_t requestId, SlipDestination destination, SettingsFile& settingsFile) {
   isWhole_ = true;
   std::string path;
-  RunRoutine("PrintBill", [&] { path = Write(requestId, destination); });
+  RunRoutine("PrintBill", [&] { path = Write(requestId, destination, settingsFile); });
   return isWhole_ ? path : std::string();
 }
 
-std::string RequestSlip::Write(std::int32_t requestId, SlipDestination destination) {
-  const SlipSettings settings = SlipSettings::Read(session_);
+std::string RequestSlip::Write(std::int32_t requestId, SlipDestination destination, SettingsFile& settingsFile) {
+  const SlipSettings settings = SlipSettings::Read(settingsFile);
   const SlipColumns columns(settings);
   // Read before anything is opened: what cannot be read leaves the last slip, and the paper, alone. And read to the end: header,
   // footer and prices ask the same connection.
@@ -78,7 +78,7 @@ std::string RequestSlip::Write(std::int32_t requestId, SlipDestination destinati
   OpenedOutput opened = OpenOutput(session_.services.workstation, destination, settings.port);
   SlipOutput output(std::move(opened.file));
   // The screen file starts with the headings; only paper gets the header.
-  if (destination == SlipDestination::Printer) HeaderPrint(output, settings.pagewidth, requestId);
+  if (destination == SlipDestination::Printer) HeaderPrint(settingsFile, output, settings.pagewidth, requestId);
   WriteHeadings(output, settings, columns);
   const Totals totals = WriteLines(output, settings, columns, *lines, destination);
   WriteTotals(output, settings, columns, totals);
@@ -141,8 +141,8 @@ void RequestSlip::WriteTotals(SlipOutput& output, const SlipSettings& settings, 
   }
 }
 
-void RequestSlip::HeaderPrint(SlipOutput& output, std::int16_t pageWidth, std::int32_t requestId) {
-  RunRoutine("HeaderPrint", [&] { WriteSlipHeader(session_, output, pageWidth, requestId); });
+void RequestSlip::HeaderPrint(SettingsFile& settingsFile, SlipOutput& output, std::int16_t pageWidth, std::int32_t requestId) {
+  RunRoutine("HeaderPrint", [&] { WriteSlipHeader(session_, settingsFile, output, pageWidth, requestId); });
 }
 
 void RequestSlip::FooterPrint(SlipOutput& output, std::int16_t pageWidth) {

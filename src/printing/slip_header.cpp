@@ -112,8 +112,9 @@ void WriteShopAndRequest(const Shop& shop, const Request& request, HeaderWriter&
 
 }  // namespace
 
-void WriteSlipHeader(basGoodsRequest& session, SlipOutput& output, std::int16_t pageWidth, std::int32_t requestId) {
-  const SlipHeaderSettings settings = SlipHeaderSettings::Read(session);
+void WriteSlipHeader(basGoodsRequest& session, SettingsFile& settingsFile, SlipOutput& output, std::int16_t pageWidth,
+                     std::int32_t requestId) {
+  const SlipHeaderSettings settings = SlipHeaderSettings::Read(settingsFile);
   const Request request = ReadRequest(session, requestId);
   const Shop shop = ReadShop(session);
   HeaderWriter writer(output, settings, pageWidth);

@@ -4,28 +4,26 @@
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
-#include "src/module/settings_reader.h"
 
 namespace goods {
 namespace {
 
 class Reader {
  public:
-  explicit Reader(basGoodsRequest& session) : session_(session), path_(SettingsPath(session)) {}
+  explicit Reader(SettingsFile& file) : file_(file) {}
 
-  std::string Text(std::string_view key) const { return vb::UCase(vb::Trim(FileCode(session_, key, path_))); }
+  std::string Text(std::string_view key) const { return vb::UCase(vb::Trim(file_.FileCode(key))); }
   std::int16_t Number(std::string_view key) const { return vb::CInt(vb::Val(Text(key))); }
   bool IsOne(std::string_view key) const { return Number(key) == 1; }
 
  private:
-  basGoodsRequest& session_;
-  std::string path_;
+  SettingsFile& file_;
 };
 
 }  // namespace
 
-SlipSettings SlipSettings::Read(basGoodsRequest& session) {
-  const Reader reader(session);
+SlipSettings SlipSettings::Read(SettingsFile& file) {
+  const Reader reader(file);
   SlipSettings settings;
   settings.port = reader.Text("port");
   settings.internalprintnoofrecords = reader.Number("internalprintnoofrecords");
@@ -50,8 +48,8 @@ SlipSettings SlipSettings::Read(basGoodsRequest& session) {
   return settings;
 }
 
-SlipHeaderSettings SlipHeaderSettings::Read(basGoodsRequest& session) {
-  const Reader reader(session);
+SlipHeaderSettings SlipHeaderSettings::Read(SettingsFile& file) {
+  const Reader reader(file);
   SlipHeaderSettings settings;
   settings.headerleftmargin = reader.Number("headerleftmargin");
   settings.linesafterheader = reader.IsOne("linesafterheader");

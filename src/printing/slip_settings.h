@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "src/module/session.h"
+#include "src/module/settings_reader.h"
 
 namespace goods {
 
@@ -29,8 +29,8 @@ struct SlipSettings {
   bool printinsavedorder = false;
   bool showtotalqty = false;
 
-  /// Reads the file again. Error 6 when a number leaves the 16-bit range.
-  static SlipSettings Read(basGoodsRequest& session);
+  /// Error 6 when a number leaves the 16-bit range.
+  static SlipSettings Read(SettingsFile& file);
 };
 
 /// What ShopSetting.txt says about the slip's header.
@@ -44,7 +44,8 @@ struct SlipHeaderSettings {
   bool PrintCompanyName = false;
   bool printadd[3] = {};
 
-  static SlipHeaderSettings Read(basGoodsRequest& session);
+  /// Error 6 when a number leaves the 16-bit range.
+  static SlipHeaderSettings Read(SettingsFile& file);
 };
 
 }  // namespace goods

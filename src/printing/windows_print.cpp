@@ -28,8 +28,8 @@ std::string DepartmentName(basGoodsRequest& session, CommonDb& db) {
 
 /// The log-on as shipped, each text open to a setting of the shop's own, so that no password needs to stay as it is here.
 void LogOn(basGoodsRequest& session, late::Object& server) {
-  const std::string path = SettingsPath(session);
-  const auto text = [&](std::string_view key, std::string_view shipped) { return QuietFileCode(session, key, path, shipped); };
+  const SettingsFile settings(session);
+  const auto text = [&](std::string_view key, std::string_view shipped) { return settings.QuietFileCode(key, shipped); };
   server.Call("LogOnServer",
               {text("reportdriver", "pdsodbc.dll"), text("reportsource", "admindsnv2"), text("reportdatabase", "adminv2"),
                text("reportuser", "admin"), text("reportpassword", "plumgate0417")});

@@ -175,11 +175,8 @@ std::string DraftText(const RequestDraft& draft) {
 std::optional<RequestDraft> ParseDraft(std::string_view text) {
   RequestDraft draft;
   bool isFirst = true;
-  for (std::string_view rest = text; !rest.empty();) {
-    const std::size_t end = std::min(rest.find('\n'), rest.size());
-    std::string_view line = rest.substr(0, end);
-    rest.remove_prefix(std::min(end + 1, rest.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);  // an editor of support staff's
+  while (const std::optional<std::string_view> next = vb::TakeLine(text)) {  // however an editor of support staff's ends lines
+    const std::string_view line = *next;
     if (std::exchange(isFirst, false)) {
       if (line != kFirstLine) return std::nullopt;
       continue;

@@ -4,26 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "base/vb/error.h"
+#include "base/workstation/text_file.h"
 
 namespace support {
 namespace {
-
-class Reader : public workstation::InputFile {
- public:
-  explicit Reader(std::string text) : text_(std::move(text)) {}
-  std::optional<std::string> ReadLine() override {
-    if (position_ >= text_.size()) return std::nullopt;
-    const std::size_t end = text_.find_first_of("\r\n", position_);
-    std::string line = text_.substr(position_, end == std::string::npos ? std::string::npos : end - position_);
-    position_ = end == std::string::npos ? text_.size() : end + 1;
-    if (end != std::string::npos && text_[end] == '\r' && position_ < text_.size() && text_[position_] == '\n') ++position_;
-    return line;
-  }
-
- private:
-  std::string text_;
-  std::size_t position_ = 0;
-};
 
 class Writer : public workstation::OutputFile {
  public:
@@ -90,7 +74,7 @@ void TestWorkstation::WriteSettings(const std::map<std::string, std::string>& se
 std::unique_ptr<workstation::InputFile> TestWorkstation::OpenForInput(std::string_view path) {
   const auto found = files.find(std::string(path));
   if (found == files.end()) vb::Raise(vb::kFileNotFound);
-  return std::make_unique<Reader>(found->second);
+  return std::make_unique<workstation::TextFile>(found->second);
 }
 
 std::unique_ptr<workstation::OutputFile> TestWorkstation::OpenForOutput(std::string_view path) {

@@ -6,6 +6,7 @@
 #include "base/vb/error.h"
 #include "base/vb/file_error.h"
 #include "base/workstation/printer_port.h"
+#include "base/workstation/text_file.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_gate.h"
 #include "platform/windows/workstation/file_handle.h"
@@ -14,14 +15,12 @@
 namespace windows {
 namespace {
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
-std::wstring FromAnsi(std::string_view bytes) {
+std::string FromAnsi(std::string_view bytes) {
   if (bytes.empty()) return {};
   const int size = static_cast<int>(bytes.size());
   std::wstring text(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, nullptr, 0)), L'\0');
   MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, text.data(), static_cast<int>(text.size()));
-  return text;
+  return Utf8(text);
 }
 
 std::string ToAnsi(std::wstring_view text) {
@@ -32,28 +31,6 @@ std::string ToAnsi(std::wstring_view text) {
   WideCharToMultiByte(CP_ACP, 0, text.data(), size, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
   return bytes;
 }
-
-class Reader : public workstation::InputFile {
- public:
-  explicit Reader(std::string_view path) {
-    text_ = FileHandle(path, GENERIC_READ, OPEN_EXISTING).ReadAll();
-    isUtf8_ = text_.starts_with(kUtf8Mark);
-    if (isUtf8_) position_ = kUtf8Mark.size();
-  }
-  std::optional<std::string> ReadLine() override {
-    if (position_ >= text_.size()) return std::nullopt;
-    const std::size_t end = std::min(text_.find_first_of("\r\n", position_), text_.size());
-    const std::string_view line = std::string_view(text_).substr(position_, end - position_);
-    position_ = end + 1;
-    if (end + 1 < text_.size() && text_[end] == '\r' && text_[end + 1] == '\n') ++position_;
-    return isUtf8_ ? std::string(line) : Utf8(FromAnsi(line));
-  }
-
- private:
-  std::string text_;
-  std::size_t position_ = 0;
-  bool isUtf8_ = false;
-};
 
 class Writer : public workstation::OutputFile {
  public:
@@ -109,7 +86,7 @@ bool WindowsWorkstation::FileExists(std::string_view path) {
 }
 
 std::unique_ptr<workstation::InputFile> WindowsWorkstation::OpenForInput(std::string_view path) {
-  return std::make_unique<Reader>(path);
+  return std::make_unique<workstation::TextFile>(FileHandle(path, GENERIC_READ, OPEN_EXISTING).ReadAll(), FromAnsi);
 }
 
 std::unique_ptr<workstation::OutputFile> WindowsWorkstation::OpenForOutput(std::string_view path) {

@@ -13,7 +13,7 @@ class SettingsReader : public testing::Test {
  protected:
   std::string Read(std::string_view key, const std::string& file) {
     shop.workstation.files[kPath] = file;
-    return goods::FileCode(shop.session, key, goods::SettingsPath(shop.session));
+    return goods::SettingsFile(shop.session).FileCode(key);
   }
   void ExpectNoSuchKey(const std::string& key) {
     shop.desktop.ExpectMessage(key + "  invalid parameter in Settings.ini file", controls::Answer::Ok, controls::kCritical);
@@ -54,18 +54,28 @@ TEST_F(SettingsReader, AKeyThatNoLineCarriesIsToldOnceAndEmpty) {
   EXPECT_TRUE(errors->lines.empty());
 }
 
-TEST_F(SettingsReader, AFileThatIsNotThereIsToldAndReported) {
+TEST_F(SettingsReader, AFileThatIsNotThereIsToldAndReportedOnceForAllItsKeys) {
+  goods::SettingsFile settings(shop.session);
+  EXPECT_TRUE(shop.desktop.messages.empty());
   shop.desktop.ExpectMessage(" Settings.ini file not found", controls::Answer::Ok, controls::kCritical);
-  EXPECT_EQ("", goods::FileCode(shop.session, "printer", "C:\\elsewhere.txt"));
+  for (const char* key : {"printer", "pagewidth", "printer"}) EXPECT_EQ("", settings.FileCode(key));
   EXPECT_EQ(std::vector<std::string>{"basGoodsPurchase|FileCode |53|"}, errors->lines);
 }
 
+TEST_F(SettingsReader, UnicodeFilesOfAnyEditorAreRead) {
+  using namespace std::string_literals;
+  EXPECT_EQ("é", Read("größe", "\xEF\xBB\xBFGRÖßE :=é\r\n"));
+  EXPECT_EQ("4", Read("ä", "\xFF\xFE\xE4\0 \0:\0=\0004\0\r\0\n\0"s));
+  EXPECT_EQ("4", Read("ä", "\xFE\xFF\0\xE4\0 \0:\0=\0004"s));
+}
+
 TEST_F(SettingsReader, OptionalSettingsAreReadWithoutAWord) {
-  EXPECT_EQ("pdsodbc.dll", goods::QuietFileCode(shop.session, "reportdriver", kPath, "pdsodbc.dll"));
+  EXPECT_EQ("pdsodbc.dll", goods::SettingsFile(shop.session).QuietFileCode("reportdriver", "pdsodbc.dll"));
   shop.workstation.files[kPath] = "reportuser :=clerk\r\nreportpassword :=NotFound\r\n";
-  EXPECT_EQ("clerk", goods::QuietFileCode(shop.session, "ReportUser", kPath, "sa"));
-  EXPECT_EQ("shipped", goods::QuietFileCode(shop.session, "reportpassword", kPath, "shipped"));
-  EXPECT_EQ("sales", goods::QuietFileCode(shop.session, "reportdatabase", kPath, "sales"));
+  const goods::SettingsFile settings(shop.session);
+  EXPECT_EQ("clerk", settings.QuietFileCode("ReportUser", "sa"));
+  EXPECT_EQ("shipped", settings.QuietFileCode("reportpassword", "shipped"));
+  EXPECT_EQ("sales", settings.QuietFileCode("reportdatabase", "sales"));
   EXPECT_TRUE(errors->lines.empty());
 }
 

@@ -128,6 +128,28 @@ TEST(PrintDialog, ASlipThatFailsIsNotShownAndTheDialogStaysForAnotherTry) {
   }
 }
 
+TEST(PrintDialog, SettingsThatCannotBeOpenedAreToldOfOnceAPrint) {
+  PrintDay day;
+  day.workstation.files.erase("C:\\shop\\ShopSetting.txt");
+  const auto expectTold = [&] {
+    day.desktop.ExpectMessage(" Settings.ini file not found", controls::Answer::Ok, controls::kCritical);
+  };
+  expectTold();
+  day.Print([&](goods::frmPrint& dialog) {
+    day.desktop.Verify();  // told of by the load, and not again by the print that follows it
+    support::Click(dialog.cmdOK);
+    expectTold();
+    support::Click(dialog.cmdOK);
+    day.desktop.Verify();
+    day.Settings({});
+    support::Click(dialog.cmdOK);
+    EXPECT_FALSE(dialog.IsLoaded());
+  });
+  const std::string notFound = "basGoodsPurchase|FileCode |53|", noWidth = "frmMaster |PrintBill|5|";
+  EXPECT_EQ(day.errors->lines, (std::vector{notFound, noWidth, notFound, noWidth}));
+  EXPECT_EQ(day.workstation.started.size(), 1u);
+}
+
 TEST(PrintDialog, AnEditorThatCannotBeStartedLeavesTheSlipAndTheDialog) {
   PrintDay day;
   day.workstation.startsPrograms = false;

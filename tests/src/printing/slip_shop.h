@@ -51,12 +51,16 @@ insert into mosGoodsRequestHeader (GRHrequestID,GRHshopID,GRHrequestno,GRHreques
     workstation.WriteSettings(settings);
   }
 
+  void WriteSlip(goods::SlipDestination destination) {
+    goods::SettingsFile settings(session);
+    goods::RequestSlip(session).PrintBill(5, destination, settings);
+  }
   std::string PrintToScreen() {
-    goods::RequestSlip(session).PrintBill(5, goods::SlipDestination::Screen);
+    WriteSlip(goods::SlipDestination::Screen);
     return workstation.files["C:\\Reqtohq.txt"];
   }
   std::string PrintToPort() {
-    goods::RequestSlip(session).PrintBill(5, goods::SlipDestination::Printer);
+    WriteSlip(goods::SlipDestination::Printer);
     return workstation.files["LPT1"];
   }
 
