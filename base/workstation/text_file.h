@@ -8,8 +8,8 @@
 
 namespace workstation {
 
-/// A text file opened for input whose bytes have been read. A file that begins with a byte order mark is UTF-8 or UTF-16 of either
-/// byte order, as the mark says; half a UTF-16 pair becomes U+FFFD. Any other file is in the workstation's character set.
+/// A text file opened for input whose bytes have been read. A file that begins with a byte order mark is UTF-8 or UTF-16 of
+/// either byte order, as the mark says; half a UTF-16 pair becomes U+FFFD. Any other file is in the workstation's character set.
 class TextFile : public InputFile {
  public:
   /// `toUtf8` converts from the workstation's character set; without it that set is UTF-8.

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "src/faces/common_db.h"
+#include "src/faces/report_server.h"
 #include "src/module/settings_reader.h"
 
 namespace goods {
@@ -11,9 +12,6 @@ namespace {
 
 constexpr std::string_view kTitle = "Request To HQ";
 constexpr std::int32_t kOverlappedMaximised = 0x1CF0000;
-/// What a user needs to print from the preview: the print buttons themselves, and finding the way about a long report.
-constexpr std::string_view kPreviewOptions[] = {"HasPrintButton", "HasPrintSetupButton", "HasNavigationControls",
-                                                "HasZoomControl"};
 
 std::string UserName(basGoodsRequest& session, CommonDb& db) {
   db.strTableName("lousers where userid=" + std::to_string(session.gIntUserID));
@@ -27,17 +25,19 @@ std::string DepartmentName(basGoodsRequest& session, CommonDb& db) {
 }
 
 /// The log-on as shipped, each text open to a setting of the shop's own, so that no password needs to stay as it is here.
-void LogOn(basGoodsRequest& session, late::Object& server) {
+ReportLogOn LogOn(basGoodsRequest& session) {
   const SettingsFile settings(session);
-  const auto text = [&](std::string_view key, std::string_view shipped) { return settings.QuietFileCode(key, shipped); };
-  server.Call("LogOnServer",
-              {text("reportdriver", "pdsodbc.dll"), text("reportsource", "admindsnv2"), text("reportdatabase", "adminv2"),
-               text("reportuser", "admin"), text("reportpassword", "plumgate0417")});
+  return {settings.QuietFileCode("reportdriver", "pdsodbc.dll"), settings.QuietFileCode("reportsource", "admindsnv2"),
+          settings.QuietFileCode("reportdatabase", "adminv2"), settings.QuietFileCode("reportuser", "admin"),
+          settings.QuietFileCode("reportpassword", "plumgate0417")};
 }
 
-void SetParameter(late::Object& report, std::int32_t number, const late::Value& value) {
-  const late::ObjectPtr fields = report.Get("ParameterFields").ToObject();
-  fields->Get("Item", {number}).ToObject()->Call("SetCurrentValue", {value});
+/// What a user needs to print from the preview: the print buttons themselves, and finding the way about a long report.
+void OfferPrinting(PrintWindowOptions options) {
+  options.HasPrintButton(true);
+  options.HasPrintSetupButton(true);
+  options.HasNavigationControls(true);
+  options.HasZoomControl(true);
 }
 
 }  // namespace
@@ -45,22 +45,19 @@ void SetParameter(late::Object& report, std::int32_t number, const late::Value& 
 void WIndowsprint(basGoodsRequest& session, std::int32_t requestId) {
   CommonDb db(session.services.factory, session.gAdoCon);
   const std::string userName = UserName(session, db);
-  const std::string reportFile = session.services.workstation.ApplicationFolder() + "\\reports\\reqtohq.rpt";
-  const late::ObjectPtr server = session.services.factory.Create("Crystal.CRPE.Application");
-  LogOn(session, *server);
-  const late::ObjectPtr report = server->Call("OpenReport", {reportFile}).ToObject();
-  SetParameter(*report, 1, kTitle);
-  SetParameter(*report, 2, " ");
-  SetParameter(*report, 3, requestId);
-  SetParameter(*report, 4, session.gIntShopID);
-  SetParameter(*report, 5, userName);
-  SetParameter(*report, 6, DepartmentName(session, db));
-  const late::ObjectPtr options = report->Get("PrintWindowOptions").ToObject();
-  for (const std::string_view option : kPreviewOptions) options->Put(option, true);
+  ReportServer server(session.services.factory);
+  server.LogOnServer(LogOn(session));
+  Report report = server.OpenReport(session.services.workstation.ApplicationFolder() + "\\reports\\reqtohq.rpt");
+  report.SetParameterField(1, kTitle);
+  report.SetParameterField(2, " ");
+  report.SetParameterField(3, requestId);
+  report.SetParameterField(4, session.gIntShopID);
+  report.SetParameterField(5, userName);
+  report.SetParameterField(6, DepartmentName(session, db));
+  OfferPrinting(report.PrintWindowOptions());
   // Without its objects the server closes the preview.
-  session.services.desktop.KeepWhileShown(kTitle, {server, report}, [&] {
-    report->Call("Preview", {kTitle, 0, 0, 0, 0, kOverlappedMaximised});
-  });
+  session.services.desktop.KeepWhileShown(kTitle, {server.Object(), report.Object()},
+                                          [&] { report.Preview(kTitle, kOverlappedMaximised); });
 }
 
 }  // namespace goods

@@ -6,7 +6,9 @@
 #include "src/faces/error_log.h"
 #include "src/faces/grid_settings.h"
 #include "src/faces/item_fetch.h"
+#include "src/faces/report_server.h"
 #include "tests/suite/helpers/helper_form.h"
+#include "tests/support/report_notes.h"
 
 namespace {
 
@@ -95,6 +97,27 @@ TEST(Faces, EveryMemberOfTheItemLookupIsFound) {
   shop.desktop.ExpectForm("frmLookup", [](controls::Form& form) { EXPECT_EQ("Items", form.Caption()); });
   fetch.Show();
   EXPECT_TRUE(fetch.getCancelledStatus());
+}
+
+TEST(Faces, EveryMemberOfTheReportServerIsSpelledAsItHasIt) {
+  late::ClassRegistry registry;
+  const auto calls = std::make_shared<std::vector<std::string>>();
+  registry.Register("Crystal.CRPE.Application", [calls] { return std::make_shared<support::ReportNotes>(calls); });
+  ReportServer server(registry);
+  server.LogOnServer({"driver", "source", "database", "user", "password"});
+  Report report = server.OpenReport("stock.rpt");
+  report.SetParameterField(2, 7.5);
+  PrintWindowOptions options = report.PrintWindowOptions();
+  options.HasPrintButton(true);
+  options.HasPrintSetupButton(false);
+  options.HasNavigationControls(true);
+  options.HasZoomControl(false);
+  report.Preview("Stock", 1);
+  EXPECT_EQ(*calls, (std::vector<std::string>{
+                        "LogOnServer|driver|source|database|user|password", "OpenReport|stock.rpt",
+                        "ParameterFields.Item(2).SetCurrentValue|7.5", "PrintWindowOptions.HasPrintButton=True",
+                        "PrintWindowOptions.HasPrintSetupButton=False", "PrintWindowOptions.HasNavigationControls=True",
+                        "PrintWindowOptions.HasZoomControl=False", "Preview|Stock|0|0|0|0|1"}));
 }
 
 TEST(Faces, WithoutAComponentEveryMemberRaisesError91) {
