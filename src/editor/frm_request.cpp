@@ -81,7 +81,7 @@ void frmRequest::Form_Load() {
     }
   } catch (const vb::RunTimeError&) {
     // Saved, a request that was not read to its end would lose the rest.
-    if (!isNew) cmdOK.SetEnabled(false);
+    if (!isNew) MakeReadOnly();
     throw;
   }
 }
@@ -104,14 +104,10 @@ void frmRequest::LoadExistingRequest() {
       " grhRequestid=" + std::to_string(Session().gLngRequestID) + " and grhShopid=" + std::to_string(Session().gIntShopID);
   objCommonDB_.strTableName("mosGoodsRequestHeader");
   if (objCommonDB_.fnReturnField("grhIssuenotegenerated", condition).TrueOrFalse()) {
-    Tell("Issue Note Generated,Cannot Modify");
-    cmdOK.SetEnabled(false);
+    ForbidSaving(kIssueNoteGenerated);
   }
   if (objCommonDB_.fnReturnField("grhTransfinished", condition).TrueOrFalse()) {
-    if (cmdOK.Enabled()) {
-      Tell("Transaction is confirmed as finished,Cannot modify");
-      cmdOK.SetEnabled(false);
-    }
+    ForbidSaving(kConfirmedFinished);
     chkTransFinished.SetValue(1);
     chkTransFinished.SetEnabled(false);
   }
@@ -125,7 +121,7 @@ void frmRequest::LoadExistingRequest() {
   const bool isComplete = Trap("LoadRequestLines", [this] {
     for (const RequestLine& line : RequestStore(Session(), objCommonDB_).LinesOf(Session().gLngRequestID)) lines_.Append(line);
   });
-  if (!isComplete) cmdOK.SetEnabled(false);  // saved, the request would lose the lines that could not be read
+  if (!isComplete) MakeReadOnly();  // saved, the request would lose the lines that could not be read
 }
 
 void frmRequest::Form_Activate() {
@@ -254,6 +250,17 @@ Request frmRequest::Entered() const {
           .lines = lines_.All(),
           .links = customerRequests_.Checked(),
           .updateTime = updateTime_};
+}
+
+void frmRequest::ForbidSaving(std::string_view reason) {
+  if (!cmdOK.Enabled()) return;
+  Tell(reason);
+  MakeReadOnly();
+}
+
+void frmRequest::MakeReadOnly() {
+  cmdOK.SetEnabled(false);
+  for (controls::TextBox* box : {&txtRequestNo, &txtrequestDate, &txtRemarks}) box->SetLocked(true);
 }
 
 void frmRequest::GoTo(SaveField field) {

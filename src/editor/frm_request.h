@@ -71,6 +71,9 @@ class frmRequest : public ModuleForm, private SavePort {
   /// are raised before the editor is loaded: shown without its links, the request would lose them at the next save.
   void ShowOwnLinks(std::int32_t requestId);
 
+  /// Tells why the shown request can be saved no more, and makes it read-only. Once OK is grey, nothing happens.
+  void ForbidSaving(std::string_view reason) override;
+
   /// What the editor shows, as it was typed.
   Request Entered() const;
 
@@ -92,6 +95,8 @@ class frmRequest : public ModuleForm, private SavePort {
   void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
   void Form_Unload();
   bool IsNew() const { return Session().gStrEntryMode == "N"; }
+  /// OK is grey, and the header can be read and copied but not typed into.
+  void MakeReadOnly();
   /// Whether OK would store something that differs from what was loaded.
   bool IsChanged() const;
 
@@ -112,7 +117,6 @@ class frmRequest : public ModuleForm, private SavePort {
   controls::Form& Window() override { return *this; }
   void GoTo(SaveField field) override;
   void ShowRequestNo(const std::string& number) override { txtRequestNo.SetText(number); }
-  void ForbidSaving() override { cmdOK.SetEnabled(false); }
   void TakeAsSeen(const std::string& updateTime) override { updateTime_ = updateTime; }
 
   void lvwrequest_DblClick();

@@ -35,9 +35,9 @@ class ProvisionalIdentity {
 
 /// Why nobody may change the request any more; empty when it may be changed.
 std::string_view ClosedBecause(const StoredHeader& stored) {
-  if (stored.issued) return "Issue Note Generated,Cannot Modify";
-  if (stored.finished) return "Transaction is confirmed as finished,Cannot modify";
-  return stored.cancelled ? "This record is already Deleted " : "";
+  if (stored.issued) return kIssueNoteGenerated;
+  if (stored.finished) return kConfirmedFinished;
+  return stored.cancelled ? kAlreadyDeleted : "";
 }
 
 }  // namespace
@@ -135,8 +135,7 @@ bool RequestSaving::IsFinishConfirmed() {
 
 bool RequestSaving::MaySaveOver() {
   if (const std::string_view reason = ClosedBecause(stored_); !reason.empty()) {
-    Tell(reason);
-    editor_.ForbidSaving();
+    editor_.ForbidSaving(reason);
     return false;
   }
   const std::string by = stored_.changedBy.empty() ? "" : " by " + stored_.changedBy;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "base/controls/form.h"
 
@@ -17,8 +18,8 @@ class SavePort {
   virtual void GoTo(SaveField field) = 0;
   /// Shows the number that a new request has got.
   virtual void ShowRequestNo(const std::string& number) = 0;
-  /// The request can be saved no more; what was entered is still shown.
-  virtual void ForbidSaving() = 0;
+  /// Tells why the request can be saved no more; what was entered is still shown.
+  virtual void ForbidSaving(std::string_view reason) = 0;
   /// The user has decided to save over the change of this time.
   virtual void TakeAsSeen(const std::string& updateTime) = 0;
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/late/value.h"
@@ -39,6 +40,11 @@ struct TakenDocument {
   std::string number;
   std::string requestNo;
 };
+
+/// Why a stored request can be changed no more.
+inline constexpr std::string_view kIssueNoteGenerated = "Issue Note Generated,Cannot Modify";
+inline constexpr std::string_view kConfirmedFinished = "Transaction is confirmed as finished,Cannot modify";
+inline constexpr std::string_view kAlreadyDeleted = "This record is already Deleted ";
 
 /// What the stored header says about whether, and over whose work, a request may be written.
 struct StoredHeader {

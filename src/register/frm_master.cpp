@@ -184,7 +184,7 @@ void frmMaster::CmdEdit_Click() {
   }
   frmRequest& editor = EditorFor("E");
   editor.ShowOwnLinks(Session().gLngRequestID);
-  if (requests_.CurrentCell(kRegisterCancelled) == "Yes") editor.cmdOK.SetEnabled(false);
+  if (requests_.CurrentCell(kRegisterCancelled) == "Yes") editor.ForbidSaving(kAlreadyDeleted);
   editor.txtRequestNo.SetText(requests_.CurrentCell(kRegisterNo));
   editor.txtrequestDate.SetText(requests_.CurrentCell(kRegisterDate));
   ShowEditor();

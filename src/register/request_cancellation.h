@@ -9,8 +9,6 @@ namespace goods {
 class CommonDb;
 struct basGoodsRequest;
 
-inline constexpr std::string_view kAlreadyDeleted = "This record is already Deleted ";
-
 /// The rules of cancelling a request. Database errors are raised.
 class RequestCancellation {
  public:

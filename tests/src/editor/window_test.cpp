@@ -160,7 +160,13 @@ TEST_F(EditorWindow, ARequestThatWasIssuedOrFinishedCanOnlyBeLookedAt) {
     CheckDocuments({"I-101"});
     EXPECT_EQ("[ ] I-101", Documents().at(0));
     EXPECT_EQ((Texts{"1|POT|2.500|2", "2|CUP|4.000|1"}), Lines());
-    Enter(editor->txtRemarks, "changed");
+    for (controls::TextBox* box : {&editor->txtRequestNo, &editor->txtrequestDate, &editor->txtRemarks}) {
+      const std::string shown = box->Text();
+      Enter(*box, "typed");
+      box->Paste("pasted");
+      for (const char* key : {"Backspace", "Delete"}) Press(*box, key);
+      EXPECT_EQ(shown, box->Text()) << box->Name();
+    }
     Press(editor->txtRemarks, "Esc");
     EXPECT_FALSE(editor->IsLoaded()) << "closing asks nothing";
   };

@@ -5,6 +5,7 @@
 namespace {
 
 constexpr const char* kStockOut = "Do you want to add stock out items?";
+constexpr const char* kDeleted = "This record is already Deleted ";
 
 struct RightsCase {
   const char* name;
@@ -154,6 +155,7 @@ TEST_F(RegisterButtons, TheSelectionTakesTheColourOfWhatIsSelected) {
     EXPECT_EQ(controls::kHighlightText, Grid().BackColorSel());
     EXPECT_NE(Grid().BackColorSel(), Grid().ForeColorSel());  // the selected text stays readable
     GoTo(16);
+    shop.desktop.ExpectMessage(kDeleted);
     shop.desktop.ExpectForm("frmRequest");
     support::Press(Grid(), "Enter");
     EXPECT_EQ(controls::kRed, Grid().BackColorSel());
@@ -195,9 +197,12 @@ TEST_F(RegisterButtons, EditHandsTheSelectedRequestToTheEditor) {
     });
     support::Click(Register().CmdEdit);
 
-    GoTo(16);
+    GoTo(16);  // cancelled: can only be looked at
+    shop.desktop.ExpectMessage(kDeleted, controls::Answer::Ok, controls::kInformation);
     shop.desktop.ExpectForm("frmRequest", [&](controls::Form& form) {
-      EXPECT_FALSE(dynamic_cast<goods::frmRequest&>(form).cmdOK.Enabled());  // cancelled: can only be looked at
+      const auto& editor = dynamic_cast<goods::frmRequest&>(form);
+      EXPECT_FALSE(editor.cmdOK.Enabled());
+      EXPECT_TRUE(editor.txtRemarks.Locked());
     });
     support::Click(Register().CmdEdit);
   });
