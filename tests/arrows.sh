@@ -16,8 +16,9 @@ src/faces                             base/ado base/controls
 src/module                            src/faces base/workstation
 src/records                           src/module
 src/lists                             src/records
+src/counter                           src/lists
 src/printing                          src/lists
-src/fetch                             src/lists
+src/fetch                             src/counter
 src/itementry                         src/fetch
 src/editor                            src/itementry
 src/register                          src/editor src/printing

@@ -5,6 +5,7 @@
 
 #include "base/vb/format.h"
 #include "base/vb/text.h"
+#include "src/counter/same_again.h"
 #include "src/editor/request_saving.h"
 #include "src/editor/stock_out_proposal.h"
 #include "src/itementry/frm_request_detail.h"
@@ -90,10 +91,24 @@ void frmRequest::LoadNewRequest() {
   Session().gLngRequestID = 0;
   objCommonDB_.strTableName("mosGoodsRequestHeader");
   Session().gLngRequestID = objCommonDB_.fnGetNextMaxNo("grhrequestid");
+  // A draft waits for the next New: who repeats a request wants that one.
+  if (repeated_ != 0) {
+    Trap("RepeatLines", [this] { RepeatLines(repeated_); });
+    return;
+  }
   OfferDraft();
   if (!takenUp_ &&
       Tell("Do you want to add stock out items?", controls::kYesNo + controls::kInformation) == controls::Answer::Yes) {
     Trap("ProposeStockOutItems", [this] { ProposeStockOutItems(Session(), objCommonDB_, lines_); });
+  }
+}
+
+void frmRequest::RepeatLines(std::int32_t requestId) {
+  const SameAgain again = LinesToRepeat(Session(), objCommonDB_, requestId);
+  for (const RequestLine& line : again.lines) lines_.Append(line);
+  lines_.MarkChanged();
+  if (!again.leftOut.empty()) {
+    Tell("These are no longer active or not for sale and were left out:" + LinesToTell(again.leftOut));
   }
 }
 
@@ -200,16 +215,16 @@ std::string frmRequest::TakeUpLines(const std::vector<RequestLine>& lines) {
   // Where the database cannot tell, every line is taken: an item that is no longer there is less than work that is lost.
   std::optional<std::set<std::int32_t>> known;
   Trap("TakeUpDraft", [&] { known = RequestStore(Session(), objCommonDB_).KnownItems(lines); });
-  std::string missing;
+  std::vector<RequestLine> missing;
   lvwrequest.Clear();
   for (const RequestLine& line : lines) {
     if (!known || known->contains(line.itemId)) {
       lines_.Append(line);
     } else {
-      missing += "\r\n" + line.itemCode + " " + line.itemName + ", " + line.quantity;
+      missing.push_back(line);
     }
   }
-  return missing;
+  return LinesToTell(missing);
 }
 
 std::string frmRequest::TakeUpLinks(const std::vector<CustomerLink>& links) {

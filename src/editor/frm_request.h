@@ -71,6 +71,10 @@ class frmRequest : public ModuleForm, private SavePort {
   /// are raised before the editor is loaded: shown without its links, the request would lose them at the next save.
   void ShowOwnLinks(std::int32_t requestId);
 
+  /// A new request starts with what can be asked for again of the stored request, instead of the stock-out proposal; 0 for none.
+  /// Call it before anything loads the editor.
+  void StartFrom(std::int32_t requestId) { repeated_ = requestId; }
+
   /// Tells why the shown request can be saved no more, and makes it read-only. Once OK is grey, nothing happens.
   void ForbidSaving(std::string_view reason) override;
 
@@ -90,6 +94,7 @@ class frmRequest : public ModuleForm, private SavePort {
 
   void Form_Load();
   void LoadNewRequest();
+  void RepeatLines(std::int32_t requestId);
   void LoadExistingRequest();
   void Form_Activate();
   void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
@@ -138,6 +143,7 @@ class frmRequest : public ModuleForm, private SavePort {
   DraftKeeping draft_{Session(), *this};
   std::optional<RequestDraft> takenUp_;  ///< from the load to the first activation
   std::optional<Request> loaded_;        ///< from the first activation on: what is stored; a new request has no lines
+  std::int32_t repeated_ = 0;            ///< the request that a new one starts from; 0 for none
   std::string updateTime_;               ///< UpdateTimeText of the stored request, as it was last seen
   bool keepOpen_ = true;                 ///< the answer to a cancelled closing; only a save clears it
   bool firstActivation_ = true;          ///< since the last load

@@ -51,8 +51,8 @@ std::string RowIdentifierQuery() {
   return "select count(*) from syscolumns where colstat=2 and id=object_id('mosgoodsrequestdetail')";
 }
 
-std::string KnownItemsQuery(const std::vector<RequestLine>& lines) {
-  std::string query = "select ItemId from aItem where ItemId in (";
+std::string ItemsQuery(std::string_view condition, const std::vector<RequestLine>& lines) {
+  std::string query = "select ItemId from aItem where " + std::string(condition) + "ItemId in (";
   for (const RequestLine& line : lines) query += std::to_string(line.itemId) + ",";
   query.back() = ')';
   return query;
@@ -246,11 +246,19 @@ std::vector<RequestLine> RequestStore::LinesOf(std::int32_t requestId) {
 }
 
 std::set<std::int32_t> RequestStore::KnownItems(const std::vector<RequestLine>& lines) {
-  std::set<std::int32_t> known;
-  if (lines.empty()) return known;
-  const late::ArrayPtr rows = ReadRows(session_, KnownItemsQuery(lines));
-  for (std::size_t row = 0; row < rows->columns; ++row) known.insert(rows->At(0, row).ToInt32());
-  return known;
+  return ItemsWhere("", lines);
+}
+
+std::set<std::int32_t> RequestStore::ItemsForSale(const std::vector<RequestLine>& lines) {
+  return ItemsWhere("Active=1 and forsales=1 and ", lines);
+}
+
+std::set<std::int32_t> RequestStore::ItemsWhere(std::string_view condition, const std::vector<RequestLine>& lines) {
+  std::set<std::int32_t> items;
+  if (lines.empty()) return items;
+  const late::ArrayPtr rows = ReadRows(session_, ItemsQuery(condition, lines));
+  for (std::size_t row = 0; row < rows->columns; ++row) items.insert(rows->At(0, row).ToInt32());
+  return items;
 }
 
 std::vector<CustomerLink> RequestStore::LinksOf(std::int32_t requestId) {

@@ -49,6 +49,8 @@ class RequestStore {
   std::vector<RequestLine> LinesOf(std::int32_t requestId);
   /// The ids among those of the lines that are items of the suite.
   std::set<std::int32_t> KnownItems(const std::vector<RequestLine>& lines);
+  /// The ids among those of the lines that are active items for sale.
+  std::set<std::int32_t> ItemsForSale(const std::vector<RequestLine>& lines);
   /// Every stored link: invoices that the shop still has, then the others. Where the shop no longer has the document, the id
   /// takes the place of its number.
   std::vector<CustomerLink> LinksOf(std::int32_t requestId);
@@ -69,6 +71,7 @@ class RequestStore {
   void Refresh(std::int32_t requestId);
 
  private:
+  std::set<std::int32_t> ItemsWhere(std::string_view condition, const std::vector<RequestLine>& lines);
   ado::Recordset OpenForAdding(std::string_view query, ado::LockType lock);
   ado::Recordset OpenHeader(const std::string& query);
   void AddLinesTo(const std::string& source, const Request& request);

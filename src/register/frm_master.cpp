@@ -171,10 +171,24 @@ void frmMaster::ReturnToList() {
 }
 
 void frmMaster::cmdnew_Click() {
+  OpenNewRequest(0);
+}
+
+void frmMaster::OpenNewRequest(std::int32_t repeated) {
   frmRequest& editor = EditorFor("N");
+  editor.StartFrom(repeated);
   editor.txtrequestDate.SetText(vb::DateText(Session().gDtProcessDate));
   editor.txtRemarks.SetText("");
   ShowEditor();
+}
+
+void frmMaster::RepeatRequest() {
+  if (!cmdnew.Enabled()) return;
+  if (requests_.IsOnRequest()) {
+    OpenNewRequest(requests_.CurrentRequestId());
+  } else {
+    Tell("No Request No. Selected ");
+  }
 }
 
 void frmMaster::CmdEdit_Click() {
@@ -302,9 +316,13 @@ void frmMaster::SortDirection_Click() {
 }
 
 void frmMaster::Form_KeyDown(int& keyCode, int shift) {
-  if (keyCode != 'S' || shift != controls::kAlt) return;
-  keyCode = 0;
-  GoToSearch();
+  if (keyCode == 'S' && shift == controls::kAlt) {
+    keyCode = 0;
+    GoToSearch();
+  } else if (keyCode == 'R' && shift == controls::kCtrl) {
+    keyCode = 0;
+    RepeatRequest();
+  }
 }
 
 void frmMaster::GoToSearch() {

@@ -75,6 +75,9 @@ class frmMaster : public ModuleForm {
 
   // Commands.
   void cmdnew_Click();
+  /// Starts from the lines of a stored request; 0 for none.
+  void OpenNewRequest(std::int32_t repeated);
+  void RepeatRequest();
   void CmdEdit_Click();
   void CmdDelete_Click();
   void Cmdprev_Click();

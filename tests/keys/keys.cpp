@@ -62,6 +62,8 @@ FormKeys Register() {
               {.key = "Menu", .effect = Menu, .back = {"Esc"}},
               byKeys,
               byButton,
+              {.at = "list", .key = "Ctrl+R", .effect = Opens, .what = kEditor},
+              {.key = "Esc", .effect = Asks, .what = "Save Changes?", .answer = "No", .form = kRegister},
               {.key = "Alt+E", .effect = Opens, .what = kEditor, .back = {"Esc"}},
               {.key = "Alt+D", .effect = Asks, .what = kReallyDelete, .answer = "No"},
               {.key = "Alt+P", .effect = Opens, .what = "Print", .back = {"Esc"}},
