@@ -15,10 +15,16 @@
 namespace suite {
 namespace {
 
+/// With its milliseconds: they tell two changes of one second apart.
 vb::Date MachineTime() {
-  const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+  const auto time = std::chrono::system_clock::now();
+  const std::time_t now = std::chrono::system_clock::to_time_t(time);
   const std::tm* local = std::localtime(&now);
-  return vb::MakeDate(local->tm_year + 1900, local->tm_mon + 1, local->tm_mday, local->tm_hour, local->tm_min, local->tm_sec);
+  vb::Date date =
+      vb::MakeDate(local->tm_year + 1900, local->tm_mon + 1, local->tm_mday, local->tm_hour, local->tm_min, local->tm_sec);
+  const auto second = std::chrono::floor<std::chrono::seconds>(time);
+  date.days += std::chrono::duration<double, std::ratio<86400>>(time - second).count();
+  return date;
 }
 
 /// A name in memory that no other database of this process has.
