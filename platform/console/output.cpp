@@ -1,5 +1,7 @@
 #include "platform/console/output.h"
 
+#include "base/vb/text.h"
+
 namespace console {
 
 void Output::Line(std::string_view word, std::string_view rest) {
@@ -9,14 +11,9 @@ void Output::Line(std::string_view word, std::string_view rest) {
 }
 
 void Output::Text(std::string_view text) {
-  for (std::size_t start = 0;;) {
-    const std::size_t end = text.find('\n', start);
-    std::string_view line = text.substr(start, end == std::string_view::npos ? end : end - start);
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-    stream_ << "text: " << line << '\n';
-    if (end == std::string_view::npos || end + 1 == text.size()) break;
-    start = end + 1;
-  }
+  do {
+    stream_ << "text: " << vb::TakeLine(text).value_or("") << '\n';
+  } while (!text.empty());
   stream_ << std::flush;
 }
 
