@@ -44,6 +44,9 @@ class Desktop {
   virtual bool IsHighContrast() const { return false; }
   /// The system's alarm, for typed input that is refused.
   virtual void Beep() {}
+  /// The text on the system's clipboard, empty when it holds none. Where there is no system's, what was put there last.
+  virtual std::string ClipboardText() const { return clipboard_; }
+  virtual void PutOnClipboard(const std::string& text) { clipboard_ = text; }
   /// How many rows of a list or grid a person sees at once: so far a page key goes. Every desktop that draws them knows better.
   virtual long RowsShown(const Control&) const { return 10; }
 
@@ -68,6 +71,7 @@ class Desktop {
   void Drop(Form& form);
 
   std::vector<Form*> stack_;
+  std::string clipboard_;
 };
 
 }  // namespace controls

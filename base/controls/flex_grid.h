@@ -128,7 +128,8 @@ class FlexGrid : public Control {
   Event<> SelChange;
   Event<long> HeadingClick;  ///< the column
 
-  void OnKey(int keyCode, int shift) override { NavigationKey(keyCode, shift); }
+  /// Ctrl+C copies the selected rows as a table with the headings; hidden columns are left out. Ctrl+A selects all rows.
+  void OnKey(int keyCode, int shift) override;
   void Accept(ControlVisitor& visitor) override;
   void Reset() override;
   std::string TypeName() const override { return "MSHFlexGrid"; }
@@ -151,6 +152,7 @@ class FlexGrid : public Control {
     GridAlignment alignment = GridAlignment::Left;
   };
   static constexpr long kUnknown = -1;
+  void CopyRows() const;
   void ItemsChanged();
   const std::string& CellText(const GridRow& row, long col) const;
   void CheckCell(long row, long col) const;

@@ -188,6 +188,7 @@ int ListView::SelectedItem() const {
 
 void ListView::Select(int index) {
   if (index != 0) CheckLine(index);
+  allSelected_ = false;
   selected_ = index;
   Changed(Aspect::Selection);
 }
@@ -263,6 +264,40 @@ bool ListView::NavigationKey(int keyCode) {
   return true;
 }
 
+void ListView::OnKey(int keyCode, int shift) {
+  if (shift != kCtrl) {
+    NavigationKey(keyCode);
+  } else if (keyCode == 'A') {
+    allSelected_ = true;
+  } else if (keyCode == 'C') {
+    Copy();
+  } else if (keyCode == 'V') {
+    Pasted.Fire(Owner().Desktop().ClipboardText());
+  } else {
+    NavigationKey(keyCode);
+  }
+}
+
+void ListView::Copy() const {
+  if (selected_ == 0 && !allSelected_) return;
+  TableText table;
+  for (const ColumnHeader& column : columns_) {
+    if (column.width != 0) table.AddCell(column.text);
+  }
+  table.EndRow();
+  const int first = allSelected_ ? 1 : selected_;
+  const int last = allSelected_ ? Count() : selected_;
+  for (int line = first; line <= last; ++line) CopyLine(Item(line), table);
+  Owner().Desktop().PutOnClipboard(table.Text());
+}
+
+void ListView::CopyLine(const ListItem& line, TableText& table) const {
+  for (int column = 1; column <= ColumnCount(); ++column) {
+    if (Column(column).width != 0) table.AddCell(column == 1 ? line.Text() : line.SubItem(column - 1));
+  }
+  table.EndRow();
+}
+
 void ListView::OnCharacter(int character) {
   if (character != kKeySpace || !checkBoxes_) return;
   if (const int line = SelectedItem(); line > 0) CheckItem(line, !Item(line).Checked());
@@ -278,7 +313,7 @@ void ListView::Reset() {
   Control::Reset();
   columns_.clear();
   items_.clear();
-  checkBoxes_ = false;
+  checkBoxes_ = allSelected_ = false;
   selected_ = 0;
   visibleLine_ = 1;
   mouseLine_ = mouseColumn_ = 0;

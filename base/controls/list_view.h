@@ -4,6 +4,7 @@
 
 #include "base/controls/alignment.h"
 #include "base/controls/control.h"
+#include "base/controls/table_text.h"
 
 namespace controls {
 
@@ -104,8 +105,11 @@ class ListView : public Control {
   Event<ListItem&> ItemClick;
   Event<ListItem&> ItemCheck;
   Event<int> ColumnClick;
+  Event<const std::string&> Pasted;  ///< a person pastes this text
 
-  void OnKey(int keyCode, int /*shift*/) override { NavigationKey(keyCode); }
+  /// Ctrl+C copies the selected line, after Ctrl+A all lines, as a table with the headings; hidden columns are left out. Ctrl+V
+  /// fires Pasted.
+  void OnKey(int keyCode, int shift) override;
   void OnCharacter(int character) override;
   void Accept(ControlVisitor& visitor) override;
   void Reset() override;
@@ -118,11 +122,14 @@ class ListView : public Control {
   friend class ListItem;
   void CheckLine(int index) const;
   void CheckColumn(int index) const;
+  void Copy() const;
+  void CopyLine(const ListItem& line, TableText& table) const;
 
   std::vector<ColumnHeader> columns_;
   std::deque<std::shared_ptr<ListItem>> items_;
   bool checkBoxes_ = false;
   int selected_ = 0;
+  bool allSelected_ = false;  ///< by Ctrl+A, until a line is selected
   int visibleLine_ = 1;
   int mouseLine_ = 0, mouseColumn_ = 0;
 };

@@ -1,5 +1,6 @@
 #include "base/controls/combo_box.h"
 #include "base/controls/keyboard.h"
+#include "base/controls/list_view.h"
 #include "base/controls/text_box.h"
 #include "base/vb/text.h"
 #include "platform/console/acting_commands.h"
@@ -86,6 +87,10 @@ void Set(TextDesktop& desktop, Words& words) {
 
 void Paste(TextDesktop& desktop, Words& words) {
   Control& control = ControlToFocus(desktop, words.Need("a control"));
+  if (auto* list = controls::As<controls::ListView>(&control)) {
+    if (TakeFocus(control)) list->Pasted.Fire(words.Text());
+    return;
+  }
   controls::TextEntry& entry = NeedEntry(control);
   if (!TakeFocus(control)) return;
   MoveToEnd(entry);
@@ -118,7 +123,7 @@ CommandGroup KeyboardCommands(TextDesktop& desktop) {
   add("focus", "NAME", "move the focus there", on(Focus));
   add("type", "NAME TEXT", "at the end of the text, or over what is selected", on(Type));
   add("set", "NAME [TEXT]", "over the whole text", on(Set));
-  add("paste", "NAME TEXT", "at the end of the text", on(Paste));
+  add("paste", "NAME TEXT", "at the end of the text, or into a list", on(Paste));
   add("press", "NAME KEY", "Enter, Esc, Tab, Delete, Up, F3, Shift+F3, Ctrl+D, Alt+X ...", on(Press));
   return group;
 }

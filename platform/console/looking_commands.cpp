@@ -18,10 +18,11 @@ std::string FocusName(const TextDesktop& desktop) {
   return form && form->ActiveControl() ? form->Name() + '.' + form->ActiveControl()->Name() : "";
 }
 
-/// `focus`, `form`, `control.property`, `form.property` or `form.control.property`.
+/// `focus`, `form`, `clipboard`, `control.property`, `form.property` or `form.control.property`.
 late::Value Read(const TextDesktop& desktop, std::string_view what) {
   if (vb::EqualNoCase(what, "focus")) return FocusName(desktop);
   if (vb::EqualNoCase(what, "form")) return desktop.ActiveForm() ? desktop.ActiveForm()->Name() : std::string();
+  if (vb::EqualNoCase(what, "clipboard")) return desktop.ClipboardText();
   const PropertyPath path = ParsePropertyPath(what);
   if (path.names.size() < 2 || path.names.size() > 3) throw CommandError("NAME.PROPERTY is expected, not " + Quote(what));
   const std::string& property = path.names.back();

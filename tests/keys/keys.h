@@ -15,6 +15,7 @@ enum class Effect {
   Holds,    ///< the box that has the focus holds this text
   Selects,  ///< the row with this cell
   Lists,    ///< so many rows
+  Copies,   ///< a text with this in it is on the clipboard
   Turns,    ///< to the page with this caption
   Shows     ///< the box of `label` shows `shows`
 };

@@ -6,6 +6,7 @@
 #include "base/controls/form.h"
 #include "base/controls/menu.h"
 #include "base/controls/text_entry.h"
+#include "platform/windows/desktop/clipboard.h"
 #include "platform/windows/desktop/form_window.h"
 #include "platform/windows/desktop/list_window.h"
 #include "platform/windows/desktop/shown_objects.h"
@@ -163,6 +164,14 @@ bool WindowsDesktop::IsHighContrast() const {
 
 void WindowsDesktop::Beep() {
   if (!std::exchange(hasBeeped_, true)) MessageBeep(MB_OK);
+}
+
+std::string WindowsDesktop::ClipboardText() const {
+  return windows::ClipboardText(OwnerFor(ActiveForm()));
+}
+
+void WindowsDesktop::PutOnClipboard(const std::string& text) {
+  windows::PutOnClipboard(OwnerFor(ActiveForm()), text);
 }
 
 long WindowsDesktop::RowsShown(const controls::Control& list) const {

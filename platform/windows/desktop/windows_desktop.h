@@ -27,6 +27,8 @@ class WindowsDesktop : public controls::Desktop {
                       const std::function<void()>& open) override;
   /// Once a message: a pasted text that is refused throughout sounds it once.
   void Beep() override;
+  std::string ClipboardText() const override;
+  void PutOnClipboard(const std::string& text) override;
   long RowsShown(const controls::Control& list) const override;
 
   void Changed(controls::Control& control, controls::Aspect aspect) override;

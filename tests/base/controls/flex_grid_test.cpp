@@ -1,5 +1,7 @@
 // The grid: cells, current cell, sorting, colours.
 
+#include <array>
+
 #include "tests/base/controls/control_stories.h"
 
 namespace counter {
@@ -278,6 +280,25 @@ TEST_P(GridStory, AHundredThousandRowsSortAsTheyShould) {
   Grid().SetCol(0);
   Grid().Sort(GridSort::GenericAscending);
   for (long row = 1; row <= 100000; row += 9999) EXPECT_EQ(Grid().TextMatrix(row, 0), std::to_string(row - 1));
+}
+
+TEST_P(GridStory, SelectedRowsAreCopiedAsATableWithTheirHeadings) {
+  Grid().SetCols(3);
+  Fill({"POT\t17\tCooking pot", "CUP\t18\t\"Old\" cup", "JAR\t19\ttwo\r\nlines"});
+  for (long col = 0; col < 3; ++col)
+    Grid().SetTextMatrix(0, col, std::array{"Code", "Id", "Name"}.at(static_cast<std::size_t>(col)));
+  Grid().SetColWidth(1, 0);
+  Work([&] {
+    form->tabPages.SetTab(1);
+    person->ClickCell(Grid(), 2, 0);
+    person->Press("Ctrl+C");
+    EXPECT_EQ(person->Desktop().ClipboardText(), "Code\tName\r\nCUP\t\"\"\"Old\"\" cup\"\r\n");
+    person->Press("Ctrl+A");
+    EXPECT_EQ(Selection(), "1,0 to 3,2");
+    person->Press("Ctrl+C");
+    EXPECT_EQ(person->Desktop().ClipboardText(),
+              "Code\tName\r\nPOT\tCooking pot\r\nCUP\t\"\"\"Old\"\" cup\"\r\nJAR\t\"two\r\nlines\"\r\n");
+  });
 }
 
 }  // namespace

@@ -105,5 +105,26 @@ TEST_P(ListStory, ALineMayRemoveItselfWhileItIsClicked) {
   });
 }
 
+TEST_P(ListStory, LinesAreCopiedAsATableAndTextIsPastedAsAWhole) {
+  Fill(3);
+  List().AddColumn("Id", 0);
+  form->On(List().Pasted, "lvwLines_Pasted", [&](const std::string& text) { form->story.push_back(text); });
+  Work([&] {
+    person->ClickLine(List(), 2);
+    person->Press("Ctrl+C");
+    EXPECT_EQ(person->Desktop().ClipboardText(), "Code\tName\r\nL2\titem 2\r\n");
+    person->Press("Ctrl+A");
+    person->Press("Ctrl+C");
+    const std::string all = "Code\tName\r\nL1\titem 1\r\nL2\titem 2\r\nL3\titem 3\r\n";
+    EXPECT_EQ(person->Desktop().ClipboardText(), all);
+    EXPECT_EQ(Selected(), "L2");
+    person->Press("Ctrl+V");
+    EXPECT_EQ(form->Told(), all);
+    person->Press("Up");
+    person->Press("Ctrl+C");
+    EXPECT_EQ(person->Desktop().ClipboardText(), "Code\tName\r\nL1\titem 1\r\n") << "who goes on selects one line again";
+  });
+}
+
 }  // namespace
 }  // namespace counter

@@ -37,7 +37,8 @@ TEST_F(SameAgain, TheLinesOfTheSelectedRequestMakeANewOne) {
   });
   EXPECT_FALSE(Stored(27).empty());
   EXPECT_EQ(Stored(27), Stored(29));
-  EXPECT_EQ("GR24/21|0|", shop.Row("select GRHrequestno,GRHTransFinished,GRHremarks from mosGoodsRequestHeader where GRHrequestID=29"));
+  EXPECT_EQ("GR24/21|0|",
+            shop.Row("select GRHrequestno,GRHTransFinished,GRHremarks from mosGoodsRequestHeader where GRHrequestID=29"));
 }
 
 TEST_F(SameAgain, DocumentsStayWithTheFirstRequest) {
@@ -55,7 +56,8 @@ TEST_F(SameAgain, ItemsThatAreNoLongerSoldAreNamedAndLeftOut) {
   ASSERT_LE(2U, all.size());
   shop.Run("update aItem set forsales=0 where ItemId=" + all[0].substr(0, all[0].find('|')));
   Open([&] {
-    shop.desktop.ExpectMessage("These are no longer active or not for sale and were left out:\r\nGC1005 Almonds blanched, 12.500", Answer::Ok);
+    shop.desktop.ExpectMessage("These are no longer active or not for sale and were left out:\r\nGC1005 Almonds blanched, 12.500",
+                               Answer::Ok);
     Repeat(27, [&](goods::frmRequest& editor) {
       EXPECT_EQ(all.size() - 1, editor.Entered().lines.size());
       EXPECT_EQ("1", editor.lvwrequest.Item(1).Text());
@@ -68,9 +70,8 @@ TEST_F(SameAgain, TheNextNewRequestStartsEmpty) {
   Open([&] {
     Repeat(27, [&](goods::frmRequest& editor) { CloseUnsaved(editor); });
     shop.desktop.ExpectMessage("Do you want to add stock out items?", Answer::No);
-    shop.desktop.ExpectForm("frmRequest", [](controls::Form& form) {
-      EXPECT_EQ(0, dynamic_cast<goods::frmRequest&>(form).lvwrequest.Count());
-    });
+    shop.desktop.ExpectForm(
+        "frmRequest", [](controls::Form& form) { EXPECT_EQ(0, dynamic_cast<goods::frmRequest&>(form).lvwrequest.Count()); });
     support::Click(Register().cmdnew);
   });
 }

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <optional>
 
+#include "platform/windows/desktop/clipboard.h"
+#include "tests/windows/products/person/patience.h"
 #include "tests/windows/products/person/shop_host.h"
 
 namespace keys {
@@ -70,11 +72,23 @@ class Presser {
         return front_->HasSelectedCell(key.what);
       case Effect::Lists:
         return front_->HasRows(std::stoi(key.what));
+      case Effect::Copies:
+        return SeeCopied(key.what);
       case Effect::Turns:
         return front_->HasInFront(key.what);
       case Effect::Shows:
         return;
     }
+  }
+
+  /// This program's own look at what the other process has put there.
+  static void SeeCopied(const std::string& text) {
+    std::string seen;
+    const auto look = [&] {
+      seen = windows::ClipboardText(nullptr);
+      return seen.find(text) != std::string::npos;
+    };
+    WaitUntil(look, [&] { return "the clipboard holds " + seen; });
   }
 
   void SeeFocus(const std::string& place) {
