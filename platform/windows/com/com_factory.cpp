@@ -26,7 +26,8 @@ const CLSID& ComFactory::Find(std::string_view progId) {
   CLSID id{};
   const HRESULT result = CLSIDFromProgID(Wide(progId).c_str(), &id);
   if (FAILED(result)) RaiseCannotCreate(progId, result);
-  return known_.emplace_back(std::string(progId), id).id;
+  known_.push_back({std::string(progId), id});
+  return known_.back().id;
 }
 
 late::ObjectPtr ComFactory::Create(std::string_view progId) {

@@ -24,7 +24,7 @@ void Refer(VARIANT& passed, VARIANT& place) {
 
 }  // namespace
 
-OutgoingArguments::OutgoingArguments(std::span<late::Value> arguments) : arguments_(arguments), many_(), manyPassed_() {
+OutgoingArguments::OutgoingArguments(std::span<late::Value> arguments) : arguments_(arguments) {
   const std::size_t count = arguments.size();
   if (count > few_.size()) {
     many_ = std::vector<Slot>(count);

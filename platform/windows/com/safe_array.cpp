@@ -48,7 +48,7 @@ late::ArrayPtr FromSafeArray(SAFEARRAY& array, VARTYPE type) {
   if (dimensions < 1 || dimensions > 2) vb::Raise(vb::kTypeMismatch);
   const std::size_t rows = Extent(array, 1);
   const std::size_t columns = dimensions == 2 ? Extent(array, 2) : 1;
-  const late::ArrayPtr made = late::Array::Table(rows, columns);
+  late::ArrayPtr made = late::Array::Table(rows, columns);
   made->dimensions = static_cast<int>(dimensions);
   const Elements elements(array);
   for (std::size_t i = 0; i < made->items.size(); ++i) made->items[i] = FromElement(type, elements[i]);

@@ -62,7 +62,7 @@ FormWindow::FormWindow(WindowsDesktop& desktop, controls::Form& form, HWND owner
   handle_ = CreateWindowExW(kExtendedStyle, FormClassName(&FormWindow::Procedure), Wide(form.Caption()).c_str(), FrameStyle(form),
                             0, 0, designSize_.cx, designSize_.cy, owner, nullptr, ThisModule(), this);
   if (handle_ == nullptr) RaiseNoWindow(form.Name());
-  for (const WPARAM size : {ICON_SMALL, ICON_BIG}) Send(handle_, WM_SETICON, size, FormIcon(size));
+  for (const WPARAM size : {WPARAM{ICON_SMALL}, WPARAM{ICON_BIG}}) Send(handle_, WM_SETICON, size, FormIcon(size));
   try {
     CreateViews();
     CreateToolTips();

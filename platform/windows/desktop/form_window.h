@@ -65,7 +65,7 @@ class FormWindow {
   struct Dirty {
     controls::Control* control;
     controls::Aspect aspect;
-    auto operator<=>(const Dirty&) const = default;
+    auto operator<=>(const Dirty&) const = default;  // NOLINT(modernize-use-nullptr): mistaken for a comparison with 0
   };
 
   static constexpr UINT kFlushMessage = WM_APP + 1;
