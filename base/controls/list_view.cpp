@@ -265,13 +265,12 @@ bool ListView::NavigationKey(int keyCode) {
 }
 
 void ListView::OnKey(int keyCode, int shift) {
-  if (shift != kCtrl) {
-    NavigationKey(keyCode);
-  } else if (keyCode == 'A') {
+  const bool isCtrl = shift == kCtrl;
+  if (isCtrl && keyCode == 'A') {
     allSelected_ = true;
-  } else if (keyCode == 'C') {
+  } else if (isCtrl && keyCode == 'C') {
     Copy();
-  } else if (keyCode == 'V') {
+  } else if (isCtrl && keyCode == 'V') {
     Pasted.Fire(Owner().Desktop().ClipboardText());
   } else {
     NavigationKey(keyCode);

@@ -1,11 +1,11 @@
 #include "src/editor/frm_request.h"
 
-#include <set>
 #include <utility>
 
 #include "base/vb/format.h"
 #include "base/vb/text.h"
 #include "src/counter/same_again.h"
+#include "src/editor/pasted_lines.h"
 #include "src/editor/request_saving.h"
 #include "src/editor/stock_out_proposal.h"
 #include "src/itementry/frm_request_detail.h"
@@ -16,6 +16,7 @@
 namespace goods {
 namespace {
 
+constexpr std::size_t kManyLines = 50;  // to paste: further ones show how far it is
 constexpr std::string_view kQuantityPicture = "###,###,##0.000";
 
 }  // namespace
@@ -41,6 +42,7 @@ void frmRequest::WireEvents() {
   On(lvwrequest.KeyDown, "lvwrequest_KeyDown", &frmRequest::lvwrequest_KeyDown);
   On(lvwrequest.KeyPress, "lvwrequest_KeyPress", &frmRequest::lvwrequest_KeyPress);
   On(lvwrequest.MouseUp, "lvwrequest_MouseUp", &frmRequest::lvwrequest_MouseUp);
+  On(lvwrequest.Pasted, "lvwrequest_Pasted", &frmRequest::lvwrequest_Pasted);
   On(lvwrequest.ItemClick, "lvwrequest_ItemClick", &frmRequest::lvwrequest_ItemClick);
   On(mnuAdd.Click, "mnuAdd_Click", &frmRequest::mnuAdd_Click);
   On(mnuEdit.Click, "mnuEdit_Click", &frmRequest::mnuEdit_Click);
@@ -50,15 +52,6 @@ void frmRequest::WireEvents() {
     On(box->KeyPress, box->Name() + "_KeyPress", [this](int& character) { SendTabOnEnter(*this, character); });
   }
   WireDraft();
-}
-
-void frmRequest::WireDraft() {
-  for (controls::TextBox* box : {&txtRequestNo, &txtrequestDate, &txtRemarks}) {
-    On(box->LostFocus, box->Name() + "_LostFocus", &frmRequest::KeepDraft);
-  }
-  On(optgoodreq.Click, "optgoodreq_Click", &frmRequest::KeepDraft);
-  On(optporeq.Click, "optporeq_Click", &frmRequest::KeepDraft);
-  On(chkTransFinished.Click, "chkTransFinished_Click", &frmRequest::KeepDraft);
 }
 
 void frmRequest::Form_Load() {
@@ -192,62 +185,6 @@ void frmRequest::Form_Unload() {
   }
 }
 
-void frmRequest::OfferDraft() {
-  Trap("OfferDraft",
-       [this] { takenUp_ = draft_.OfferLeftBehind(IsNew() ? std::nullopt : std::optional(Session().gLngRequestID)); });
-}
-
-void frmRequest::TakeUpDraft(const Request& request) {
-  if (IsNew()) {
-    txtRequestNo.SetText(request.number);
-    txtrequestDate.SetText(request.date);
-    (request.type == RequestType::ToGodown ? optgoodreq : optporeq).SetValue(true);
-  }
-  txtRemarks.SetText(request.remarks);
-  chkTransFinished.SetValue(request.finished ? 1 : 0);
-  std::string missing = TakeUpLines(request.lines);
-  Trap("TakeUpDraft", [&] { missing += TakeUpLinks(request.links); });
-  lines_.MarkChanged();
-  if (!missing.empty()) Tell("These are no longer there and were left out:" + missing);
-}
-
-std::string frmRequest::TakeUpLines(const std::vector<RequestLine>& lines) {
-  // Where the database cannot tell, every line is taken: an item that is no longer there is less than work that is lost.
-  std::optional<std::set<std::int32_t>> known;
-  Trap("TakeUpDraft", [&] { known = RequestStore(Session(), objCommonDB_).KnownItems(lines); });
-  std::vector<RequestLine> missing;
-  lvwrequest.Clear();
-  for (const RequestLine& line : lines) {
-    if (!known || known->contains(line.itemId)) {
-      lines_.Append(line);
-    } else {
-      missing.push_back(line);
-    }
-  }
-  return LinesToTell(missing);
-}
-
-std::string frmRequest::TakeUpLinks(const std::vector<CustomerLink>& links) {
-  const bool hasList = lvwCustomerReq.Count() > 0;
-  if (!hasList && links.empty()) return {};
-  if (!hasList) customerRequests_.ShowOnOffer();
-  SetBoxQuietly(true);
-  std::string missing;
-  for (const CustomerLink& link : customerRequests_.CheckOnly(links)) missing += "\r\n" + link.number;
-  return missing;
-}
-
-void frmRequest::KeepDraft() {
-  if (!loaded_ || takenUp_ || !cmdOK.Enabled()) return;
-  Trap("KeepDraft", [this] {
-    if (IsChanged()) {
-      draft_.Keep({Entered(), IsNew(), updateTime_, {}});
-    } else {
-      draft_.Discard();
-    }
-  });
-}
-
 void frmRequest::cmdOK_Click() {
   if (!RequestSaving(Session(), Entered(), *this, objCommonDB_, view_).Save()) return;
   keepOpen_ = false;
@@ -363,6 +300,26 @@ void frmRequest::lvwrequest_MouseUp(controls::MouseButton button, int) {
   mnuEdit.SetEnabled(hasLines);
   mnudel.SetEnabled(hasLines);
   PopupMenu(mnuPopup);
+}
+
+void frmRequest::lvwrequest_Pasted(const std::string& text) {
+  if (!cmdOK.Enabled() || vb::Trim(text).empty()) return;
+  PastedLines pasted(Session(), objCommonDB_, lines_);
+  std::optional<vb::RunTimeError> failure;
+  {
+    const controls::Hourglass busy(*this);
+    const std::string caption = Caption();
+    failure = pasted.Take(text, [&](std::size_t done, std::size_t all) {
+      if (all > kManyLines && done % kManyLines == 0)
+        SetCaption(caption + " - " + std::to_string(done) + " of " + std::to_string(all));
+    });
+    SetCaption(caption);
+  }
+  if (pasted.Added() > 0) lines_.MarkChanged();
+  KeepDraft();
+  if (const std::string refused = pasted.RefusedTable(); !refused.empty()) Desktop().PutOnClipboard(refused);
+  Tell(pasted.Outcome());
+  if (failure) throw vb::RunTimeError(*failure);
 }
 
 void frmRequest::lvwrequest_ItemClick(controls::ListItem& line) {

@@ -128,6 +128,7 @@ class frmRequest : public ModuleForm, private SavePort {
   void lvwrequest_KeyDown(int& keyCode, int shift);
   void lvwrequest_KeyPress(int& character);
   void lvwrequest_MouseUp(controls::MouseButton button, int shift);
+  void lvwrequest_Pasted(const std::string& text);
   void lvwrequest_ItemClick(controls::ListItem& line);
   void mnuAdd_Click();
   void mnuEdit_Click();

@@ -6,6 +6,7 @@
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/itementry/item_lists.h"
+#include "src/itementry/line_rules.h"
 #include "src/itementry/packing_types.h"
 #include "src/itementry/stock_availability.h"
 #include "src/lists/list_views.h"
@@ -202,8 +203,7 @@ std::int32_t frmRequestDetail::SelectedItemId() const {
 }
 
 double frmRequestDetail::EnteredQuantity() const {
-  // Lines may have come with thousands separated; a quantity never ends at a comma.
-  return vb::Val(vb::Replace(txtQuantity.Text(), ",", ""));
+  return QuantityTyped(txtQuantity.Text());
 }
 
 void frmRequestDetail::FillPackTypeinList(std::int32_t itemId) {

@@ -3,14 +3,14 @@
 #include "base/vb/format.h"
 #include "src/fetch/frm_fetch.h"
 #include "src/itementry/frm_request_detail.h"
+#include "src/itementry/line_rules.h"
 #include "src/lists/list_views.h"
 
 namespace goods {
 namespace {
 
-// Widths of the tables' columns that the boxes end up in.
+/// The width of the tables' columns that codes end up in.
 constexpr int kCodeLength = 50;
-constexpr int kCommentsLength = 250;
 
 void Place(controls::Captioned& control, std::string_view caption, int left, int top, int width, int height) {
   control.SetCaption(caption);

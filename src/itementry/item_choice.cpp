@@ -6,6 +6,7 @@
 #include "src/itementry/frm_request_detail.h"
 #include "src/itementry/item_lists.h"
 #include "src/itementry/item_lookup.h"
+#include "src/itementry/line_rules.h"
 
 namespace goods {
 namespace {
@@ -88,7 +89,7 @@ void frmRequestDetail::ForgetItem() {
 void frmRequestDetail::RefuseItemCode() {
   // No line may take an item that the box beside it does not show.
   ForgetItem();
-  Tell("Scan valid barcode ");
+  Tell(kUnknownCode);
   txtitemcode.SelectAll();  // the next scan takes the place of this one
   FocusFirstOf({&txtitemcode});
 }

@@ -1,24 +1,14 @@
 // Taking the entered line over into the editor's list.
 
-#include <cmath>
-
 #include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/itementry/frm_request_detail.h"
+#include "src/itementry/line_rules.h"
 #include "src/records/item_lookups.h"
 
 namespace goods {
-namespace {
-
-/// The first quantity that the column of a request line, decimal(18,3), does not hold.
-constexpr double kQuantityBeyondColumn = 1e15;
-
-}  // namespace
-
 void frmRequestDetail::cmdOk_Click() {
-  objCommonDB_.strTableName("ashops");
-  const double limit =
-      vb::Val(objCommonDB_.fnReturnField("MaxRequestItemsToHQ", " shopid=" + std::to_string(Session().gIntShopID)).TextOrEmpty());
+  const double limit = ReadLineLimit(Session(), objCommonDB_);
   if (RefusesEntry()) return;
   if (IsAdding()) {
     if (!AddLine(limit)) return;
@@ -34,22 +24,17 @@ void frmRequestDetail::cmdOk_Click() {
 }
 
 bool frmRequestDetail::RefusesEntry() {
+  const std::string_view badQuantity = QuantityRefusal(Session(), txtQuantity.Text());
   if (cboItem.ListIndex() == -1) {
     Tell("Select an item");
     FocusFirstOf({&cboItem});
     cboItem.SelectAll();
-  } else if (EnteredQuantity() == 0) {
-    Tell("Enter quantity");
+  } else if (!badQuantity.empty()) {
+    Tell(badQuantity);
     FocusFirstOf({&txtQuantity});
-  } else if (Session().gBlnIntegerQuantity && vb::InStr(txtQuantity.Text(), ".") > 0) {
-    Tell("Only Integer Quantity is allowed");
-    FocusFirstOf({&txtQuantity});
-  } else if (std::abs(EnteredQuantity()) >= kQuantityBeyondColumn) {
-    Tell("Quantity is too large: at most 15 digits before the decimal point");
-    FocusFirstOf({&txtQuantity});
-    txtQuantity.SelectAll();
+    if (badQuantity == kQuantityTooLarge) txtQuantity.SelectAll();
   } else if (IsDuplicateItem()) {
-    Tell(cboItem.Text() + " Already Exists");
+    Tell(cboItem.Text() + std::string(kAlreadyExists));
     FocusFirstOf({&cboItem});
     cboItem.SelectAll();
   } else {
@@ -70,7 +55,7 @@ bool frmRequestDetail::IsDuplicateItem() const {
 bool frmRequestDetail::AddLine(double limit) {
   const int number = lines_.Count() + 1;
   if (limit >= 1 && number > limit) {
-    Tell("No more items can be Added in this request");
+    Tell(kNoMoreItems);
     return false;
   }
   const std::int32_t itemId = SelectedItemId();
@@ -121,8 +106,8 @@ void frmRequestDetail::ShowNextLineOrClose() {
 
 bool frmRequestDetail::DiffersFromLoaded() const {
   // Comments count as well: a line whose comments alone were changed is lost unless the editor offers to save.
-  return EnteredQuantity() != vb::Val(vb::Replace(txtQuantity.Tag(), ",", "")) ||
-         vb::Trim(cboItem.Text()) != vb::Trim(cboItem.Tag()) || vb::Trim(txtreqcomments.Text()) != vb::Trim(txtreqcomments.Tag());
+  return EnteredQuantity() != QuantityTyped(txtQuantity.Tag()) || vb::Trim(cboItem.Text()) != vb::Trim(cboItem.Tag()) ||
+         vb::Trim(txtreqcomments.Text()) != vb::Trim(txtreqcomments.Tag());
 }
 
 }  // namespace goods

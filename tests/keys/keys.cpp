@@ -103,6 +103,13 @@ FormKeys Editor() {
                .back = {"Esc"}},
               {.key = "F10", .effect = Opens, .what = kItemEntry, .label = "Item:", .shows = kFirstLine, .back = {"Esc"}},
               {.key = "Ctrl+Enter", .effect = Opens, .what = kItemEntry, .label = "Item:", .shows = "", .back = {"Esc"}},
+              {.at = "list", .key = "Ctrl+C", .effect = Copies, .what = kFirstLine},
+              {.key = "Ctrl+V",
+               .effect = Asks,
+               .what = std::string("0 lines added.  1 line refused, ready on the clipboard to be mended and pasted again:    "
+                                   "TY1003, 6.000: ") +
+                       kFirstLine + " Already Exists",
+               .answer = "OK"},
               {.key = "Delete",
                .effect = Asks,
                .what = std::string("Are you sure you want to delete  ") + kFirstLine,
