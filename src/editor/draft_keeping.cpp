@@ -1,14 +1,27 @@
 #include "src/editor/draft_keeping.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/vb/error.h"
 #include "base/vb/file_error.h"
+#include "base/vb/text.h"
+#include "src/records/request_store.h"
 
 namespace goods {
 namespace {
 
+constexpr std::size_t kMaxLinesShown = 12;
 constexpr int kMaxFiles = 20;  // of one user: open in several programs, or left by programs that ended
+
+/// Whether nothing of it is unsaved: the program ended between the commit and the draft's removal.
+bool IsSaved(const RequestDraft& draft, const Request& stored) {
+  const Request& request = draft.request;
+  const auto sameLink = [](const CustomerLink& a, const CustomerLink& b) { return a.kind == b.kind && a.id == b.id; };
+  return request.lines == stored.lines && request.finished == stored.finished &&
+         vb::Trim(request.remarks) == vb::Trim(stored.remarks) &&
+         std::equal(request.links.begin(), request.links.end(), stored.links.begin(), stored.links.end(), sameLink);
+}
 
 }  // namespace
 
@@ -19,7 +32,7 @@ std::string DraftKeeping::FileName(int number) const {
   return name + ".txt";
 }
 
-std::optional<RequestDraft> DraftKeeping::OfferLeftBehind(std::optional<std::int32_t> requestId) {
+std::optional<RequestDraft> DraftKeeping::OfferLeftBehind(const OpenedRequest& opened, CommonDb& db) {
   workstation::Workstation& workstation = session_.services.workstation;
   for (int number = 1; number <= kMaxFiles; ++number) {
     const std::string name = FileName(number);
@@ -31,27 +44,47 @@ std::optional<RequestDraft> DraftKeeping::OfferLeftBehind(std::optional<std::int
     std::optional<RequestDraft> draft = ParseDraft(*text);
     if (!draft) {
       const std::string path = file->SetAside();
-      editor_.MsgBox("An unsaved request was left behind that cannot be read. It is kept in the file\r\n" + path,
-                     controls::kExclamation, session_.gStrMsgboxCaption);
+      Tell("An unsaved request was left behind that cannot be read. It is kept in the file\r\n" + path, controls::kExclamation);
       continue;
     }
-    const bool belongsHere = requestId ? !draft->isNew && draft->request.id == *requestId : draft->isNew;
+    const bool belongsHere = opened.stored ? !draft->isNew && draft->request.id == opened.stored->id : draft->isNew;
     if (!belongsHere) continue;
-    if (!WantsToTakeUp(*draft)) {
-      file->Remove();
-      continue;
-    }
+    const Decision decision = Decide(*draft, opened, db);
+    if (decision == Decision::Remove) file->Remove();
+    if (decision != Decision::TakeUp) continue;
     file_ = std::move(file);
-    kept_ = draft->request;
+    kept_ = draft;
     return draft;
   }
   return std::nullopt;
 }
 
-bool DraftKeeping::WantsToTakeUp(const RequestDraft& draft) {
+DraftKeeping::Decision DraftKeeping::Decide(const RequestDraft& draft, const OpenedRequest& opened, CommonDb& db) {
+  if (opened.stored && IsSaved(draft, *opened.stored)) return Decision::Remove;
+  if (opened.isClosed) return DecideOnClosed(draft);
+  if (draft.savingId && RequestStore(session_, db).IsStored(draft.savingId, draft.savingNumber, draft.request.lines)) {
+    Tell("The request that was being saved when the program ended is saved under the number " + draft.savingNumber + ".",
+         controls::kInformation);
+    return Decision::Remove;
+  }
   const std::string question = "An unsaved request of " + vb::DateText(draft.savedAt) + " with " +
                                std::to_string(draft.request.lines.size()) + " lines was left behind. Take it up again?";
-  return editor_.MsgBox(question, controls::kYesNo + controls::kQuestion, session_.gStrMsgboxCaption) == controls::Answer::Yes;
+  const bool wanted = Tell(question, controls::kYesNo + controls::kQuestion) == controls::Answer::Yes;
+  return wanted ? Decision::TakeUp : Decision::Remove;
+}
+
+DraftKeeping::Decision DraftKeeping::DecideOnClosed(const RequestDraft& draft) {
+  const std::vector<RequestLine>& lines = draft.request.lines;
+  std::string question =
+      "An unsaved change of this request of " + vb::DateText(draft.savedAt) + " was left behind. It can be saved no more:\r\n";
+  for (std::size_t line = 0; line < std::min(lines.size(), kMaxLinesShown); ++line) {
+    question += "\r\n" + lines[line].itemCode + " " + lines[line].itemName + ", " + lines[line].quantity;
+  }
+  if (lines.size() > kMaxLinesShown) question += "\r\nand " + std::to_string(lines.size() - kMaxLinesShown) + " more lines";
+  if (!draft.request.remarks.empty()) question += "\r\n" + draft.request.remarks;
+  question += "\r\n\r\nDo you want to remove it?";
+  const int style = controls::kYesNo + controls::kQuestion + controls::kDefaultButton2;
+  return Tell(question, style) == controls::Answer::Yes ? Decision::Remove : Decision::Leave;
 }
 
 std::unique_ptr<workstation::StateFile> DraftKeeping::TakeUnusedFile() const {
@@ -67,14 +100,26 @@ std::unique_ptr<workstation::StateFile> DraftKeeping::TakeUnusedFile() const {
 }
 
 void DraftKeeping::Keep(RequestDraft draft) {
-  if (kept_ == draft.request) return;
+  if (kept_ && kept_->request == draft.request) return;
   try {
     if (!file_) file_ = TakeUnusedFile();
     draft.savedAt = session_.services.workstation.Now();
     file_->Replace(DraftText(draft));
-    kept_ = std::move(draft.request);
+    kept_ = std::move(draft);
   } catch (const vb::RunTimeError&) {
     if (!std::exchange(hasFailed_, true)) throw;
+  }
+}
+
+void DraftKeeping::MarkSaving(std::int32_t requestId, const std::string& number) noexcept {
+  if (!file_ || !kept_) return;
+  try {
+    RequestDraft draft = *kept_;
+    draft.savingId = requestId;
+    draft.savingNumber = number;
+    file_->Replace(DraftText(draft));
+  } catch (const std::exception&) {
+    // Nobody is asked inside the transaction; without the note the request may be offered although it is saved.
   }
 }
 

@@ -57,6 +57,7 @@ void frmRequest::WireEvents() {
 void frmRequest::Form_Load() {
   keepOpen_ = true;
   firstActivation_ = true;
+  isClosed_ = false;
   loaded_.reset();
   takenUp_.reset();
   draft_.LeaveBehind();  // of a window that was torn down
@@ -148,7 +149,7 @@ void frmRequest::Form_Activate() {
   }
   if (!isFirst) return;
   Session().gObjUserAuditing.SaveInToTag(*this);
-  if (!IsNew() && cmdOK.Enabled()) OfferDraft();
+  if (!IsNew() && (isClosed_ || cmdOK.Enabled())) OfferDraft();
   if (takenUp_) {
     updateTime_ = takenUp_->basedOn;  // a save since then is noticed at OK
     TakeUpDraft(takenUp_->request);
@@ -205,6 +206,7 @@ Request frmRequest::Entered() const {
 }
 
 void frmRequest::ForbidSaving(std::string_view reason) {
+  isClosed_ = true;
   if (!cmdOK.Enabled()) return;
   Tell(reason);
   MakeReadOnly();

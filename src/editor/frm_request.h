@@ -122,6 +122,7 @@ class frmRequest : public ModuleForm, private SavePort {
   controls::Form& Window() override { return *this; }
   void GoTo(SaveField field) override;
   void ShowRequestNo(const std::string& number) override { txtRequestNo.SetText(number); }
+  void Committing(std::int32_t requestId, const std::string& number) override { draft_.MarkSaving(requestId, number); }
   void TakeAsSeen(const std::string& updateTime) override { updateTime_ = updateTime; }
 
   void lvwrequest_DblClick();
@@ -148,6 +149,7 @@ class frmRequest : public ModuleForm, private SavePort {
   std::string updateTime_;               ///< UpdateTimeText of the stored request, as it was last seen
   bool keepOpen_ = true;                 ///< the answer to a cancelled closing; only a save clears it
   bool firstActivation_ = true;          ///< since the last load
+  bool isClosed_ = false;                ///< finished, issued or cancelled: it can only be looked at
   bool settingBox_ = false;              ///< the box's Click comes from this form's own code
 };
 

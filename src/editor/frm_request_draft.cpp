@@ -18,8 +18,7 @@ void frmRequest::WireDraft() {
 }
 
 void frmRequest::OfferDraft() {
-  Trap("OfferDraft",
-       [this] { takenUp_ = draft_.OfferLeftBehind(IsNew() ? std::nullopt : std::optional(Session().gLngRequestID)); });
+  Trap("OfferDraft", [this] { takenUp_ = draft_.OfferLeftBehind({IsNew() ? nullptr : &*loaded_, isClosed_}, objCommonDB_); });
 }
 
 void frmRequest::TakeUpDraft(const Request& request) {

@@ -88,6 +88,7 @@ RequestSaving::Outcome RequestSaving::Write(ado::Transaction& transaction, SaveS
     WriteNewRequest();
   }
   WriteCustomerLinks();
+  if (IsNew() && !savedAs_.empty()) editor_.Committing(request_.id, savedAs_);
   step = SaveStep::Committing;
   transaction.Commit();
   identity.Keep();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,8 @@ class SavePort {
   virtual void GoTo(SaveField field) = 0;
   /// Shows the number that a new request has got.
   virtual void ShowRequestNo(const std::string& number) = 0;
+  /// A new request is written and about to be committed under this id and number.
+  virtual void Committing(std::int32_t requestId, const std::string& number) = 0;
   /// Tells why the request can be saved no more; what was entered is still shown.
   virtual void ForbidSaving(std::string_view reason) = 0;
   /// The user has decided to save over the change of this time.

@@ -1,5 +1,6 @@
 #include "src/module/error_routine.h"
 
+#include <exception>
 #include <string>
 #include <utility>
 
@@ -16,7 +17,7 @@ std::string UserNameForReport(basGoodsRequest& session) {
     db.strTableName("LOUSERS where userid=" + std::to_string(session.gIntUserID) +
                     " and shopid = " + std::to_string(session.gIntShopID));
     return db.fnReturnField("username").TextOrEmpty();
-  } catch (const vb::RunTimeError&) {
+  } catch (const std::exception&) {
     return {};
   }
 }
@@ -37,7 +38,7 @@ void ReportError(basGoodsRequest& session, std::string_view module, std::string_
   try {
     ErrorLog log(session.services.factory);
     log.ErrorTrack(module, UserNameForReport(session), routine, error, session.gStrEntryMode);
-  } catch (const vb::RunTimeError&) {
+  } catch (const std::exception&) {
     TellInItsPlace(session, module, routine, error);
   }
 }
@@ -48,6 +49,9 @@ bool Trapped(basGoodsRequest& session, std::string_view module, std::string_view
     return true;
   } catch (const vb::RunTimeError& error) {
     ReportError(session, module, routine, error);
+    return false;
+  } catch (const std::exception& error) {
+    ReportError(session, module, routine, vb::RunTimeError(vb::kInternalError, error.what()));
     return false;
   }
 }

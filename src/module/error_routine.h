@@ -13,7 +13,8 @@ namespace goods {
 /// component's own shows the error. Raises nothing.
 void ReportError(basGoodsRequest& session, std::string_view module, std::string_view routine, const vb::RunTimeError& error);
 
-/// Runs `work` inside an error trap of the named routine. Whether it ran to its end.
+/// Runs `work` inside an error trap of the named routine, which reports a standard exception as error 51. Whether it ran to its
+/// end.
 bool Trapped(basGoodsRequest& session, std::string_view module, std::string_view routine, const std::function<void()>& work);
 
 }  // namespace goods

@@ -20,6 +20,7 @@ constexpr std::array<std::pair<char, char>, 4> kEscapes = {{{'\\', '\\'}, {'\t',
 constexpr std::string_view kSavedAt = "saved at";
 constexpr std::string_view kBelongsTo = "belongs to";  // a request's id, or "a new request"
 constexpr std::string_view kBasedOn = "based on the request of";
+constexpr std::string_view kSavingAs = "being saved as";  // id, number
 constexpr std::string_view kNumber = "number";
 constexpr std::string_view kDate = "date";
 constexpr std::string_view kType = "type";
@@ -120,6 +121,12 @@ bool Take(std::string_view key, const Fields& fields, RequestDraft& draft) {
   if (key == kLine) return TakeLine(fields, draft.request);
   if (key == kInvoice) return TakeLink(CustomerLink::Kind::Invoice, fields, draft.request);
   if (key == kReexport) return TakeLink(CustomerLink::Kind::Reexport, fields, draft.request);
+  if (key == kSavingAs) {
+    const std::optional<std::int32_t> id = WholeNumber(fields.front());
+    draft.savingId = id.value_or(0);
+    draft.savingNumber = fields.back();
+    return fields.size() == 2 && id;
+  }
   if (fields.size() != 1) return false;
   const std::string& value = fields.front();
   if (key == kSavedAt) {
@@ -156,6 +163,7 @@ std::string DraftText(const RequestDraft& draft) {
   writer.Write(kSavedAt, {vb::FormatDate(draft.savedAt, "yyyy/mm/dd hh:nn:ss")});
   writer.Write(kBelongsTo, {draft.isNew ? std::string(kNewRequest) : std::to_string(request.id)});
   writer.Write(kBasedOn, {draft.basedOn});
+  if (draft.savingId) writer.Write(kSavingAs, {std::to_string(draft.savingId), draft.savingNumber});
   writer.Write(kNumber, {request.number});
   writer.Write(kDate, {request.date});
   writer.Write(kType, {request.type == RequestType::ToGodown ? "G" : "P"});

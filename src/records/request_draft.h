@@ -16,6 +16,9 @@ struct RequestDraft {
   bool isNew = true;    ///< else a draft of the stored request with request.id
   std::string basedOn;  ///< UpdateTimeText of the stored request when it was opened; empty for none
   vb::Date savedAt;
+  /// Id and number under which a new request was about to be committed; 0 and empty before its first OK.
+  std::int32_t savingId = 0;
+  std::string savingNumber{};
 };
 
 /// The draft as text that support staff can read: the format's name and version in the first line, then a "key: value" a line.

@@ -245,6 +245,21 @@ std::vector<RequestLine> RequestStore::LinesOf(std::int32_t requestId) {
   return lines;
 }
 
+bool RequestStore::IsStored(std::int32_t requestId, std::string_view number, const std::vector<RequestLine>& lines) {
+  db_.strTableName("mosGoodsRequestHeader");
+  const std::string condition =
+      "grhrequestid=" + std::to_string(requestId) + " and grhshopid=" + std::to_string(session_.gIntShopID);
+  if (vb::Trim(db_.fnReturnField("grhrequestno", condition).TextOrEmpty()) != number) return false;
+  const auto quantities = [](const std::vector<RequestLine>& of) {
+    std::multiset<std::pair<std::int32_t, double>> set;
+    for (const RequestLine& line : of) {
+      if (line.Quantity() > 0) set.emplace(line.itemId, line.Quantity());
+    }
+    return set;
+  };
+  return quantities(lines) == quantities(LinesOf(requestId));
+}
+
 std::set<std::int32_t> RequestStore::KnownItems(const std::vector<RequestLine>& lines) {
   return ItemsWhere("", lines);
 }

@@ -47,6 +47,8 @@ class RequestStore {
   /// The stored lines with a quantity above 0, in the order in which they were entered where the database can tell. A unit that
   /// cannot be read is left empty, and the first such error reported.
   std::vector<RequestLine> LinesOf(std::int32_t requestId);
+  /// Whether the request of that id and number is stored with exactly these items and quantities.
+  bool IsStored(std::int32_t requestId, std::string_view number, const std::vector<RequestLine>& lines);
   /// The ids among those of the lines that are items of the suite.
   std::set<std::int32_t> KnownItems(const std::vector<RequestLine>& lines);
   /// The ids among those of the lines that are active items for sale.

@@ -91,6 +91,64 @@ TEST_F(Drafts, OfAStoredRequestWaitForThatRequest) {
   EXPECT_EQ(shop.Row("select GRHremarks from mosGoodsRequestHeader where GRHrequestID = 7"), "changed");
 }
 
+TEST_F(Drafts, OfARequestThatWasFinishedElsewhereAreShownAndStayUntilRemoved) {
+  Edit(7, [&] {
+    Type("changed");
+    Crash();
+  });
+  const std::string stored = "update mosGoodsRequestHeader set GRHTransFinished=1 where GRHrequestID=7";
+  shop.Run(stored);
+  for (const Answer answer : {Answer::No, Answer::Yes}) {
+    desktop.ExpectMessage("Transaction is confirmed as finished,Cannot modify", Answer::Ok, controls::kInformation);
+    desktop.ExpectMessage(
+        "An unsaved change of this request of 15/03/2024 10:30:05 was left behind. It can be saved no more:\r\n\r\n"
+        "POT Tea pot, 2.500\r\nCUP Cup, 4.000\r\nchanged\r\n\r\nDo you want to remove it?",
+        answer, controls::kYesNo + controls::kQuestion + controls::kDefaultButton2);
+    Edit(7, [] {});
+    desktop.Verify();
+    EXPECT_EQ(HasDraft(), answer == Answer::No);
+  }
+}
+
+TEST_F(Drafts, MeetALaterSaveByAnotherWorkstationWithAQuestion) {
+  Edit(7, [&] {
+    Type("changed");
+    Crash();
+  });
+  shop.Run("update mosGoodsRequestHeader set updatetime='2024-03-15 11:00:00', GRHrecmoduser='Ines' where GRHrequestID=7");
+  ExpectOffer(2, Answer::Yes);
+  Edit(7, [&] {
+    desktop.ExpectMessage(
+        "Another workstation has changed this request since you opened it by Ines, 15/03/2024 11:00:00.\r\nDo you want to save "
+        "over that change?",
+        Answer::No, controls::kYesNo + controls::kQuestion + controls::kDefaultButton2);
+    support::Click(editor->cmdOK);
+    desktop.Verify();
+    EXPECT_TRUE(HasDraft());
+    ExpectNoSaving();
+    editor->Unload();
+  });
+}
+
+TEST_F(Drafts, ThatWereSavedBeforeTheProgramEndedAreNotOffered) {
+  std::string draft;
+  New([&] {
+    AddLine(1, "2.500", "blue");
+    Type("for Monday");
+    draft = shop.workstation.stateFiles[std::string(kDraftFile)];
+    support::Click(editor->cmdOK);
+  });
+  const std::string id = shop.Row("select max(GRHrequestID) from mosGoodsRequestHeader");
+  const std::string number = shop.Row("select GRHrequestno from mosGoodsRequestHeader where GRHrequestID=" + id);
+  draft.insert(draft.find("number: "), "being saved as: " + id + "\t" + number + "\n");
+  shop.workstation.stateFiles[std::string(kDraftFile)] = draft;
+  desktop.ExpectMessage("The request that was being saved when the program ended is saved under the number " + number + ".",
+                        Answer::Ok, controls::kInformation);
+  New([] {});
+  desktop.Verify();
+  EXPECT_FALSE(HasDraft());
+}
+
 TEST_F(Drafts, ThatAreNotWantedCannotBeReadOrAreStillBeingTypedAreNotTakenUp) {
   New([&] {
     Type("first");

@@ -35,6 +35,19 @@ TEST_F(ErrorRoutine, HandsTheErrorToTheSuitesComponentAndSaysNothingItself) {
   EXPECT_EQ(errors->users.back(), "") << "a report without a name is better than none";
 }
 
+TEST_F(ErrorRoutine, StandardExceptionsAreTrappedAndReportedToo) {
+  const auto errors = support::ErrorNotes::Install(shop.registry);
+  const auto fails = [&] {
+    return !goods::Trapped(shop.session, "frmRequest ", "KeepDraft", [] { throw std::out_of_range("no such place"); });
+  };
+  EXPECT_TRUE(fails());
+  EXPECT_EQ(errors->lines, std::vector<std::string>{"frmRequest |KeepDraft|51|"});
+  shop.registry.Register("ErrLog.ErrorDetails", []() -> late::ObjectPtr { throw std::bad_alloc(); });
+  shop.desktop.ExpectMessage("no such place\n(frmRequest KeepDraft, 51)", controls::Answer::Ok, controls::kExclamation);
+  EXPECT_TRUE(fails());
+  shop.desktop.Verify();
+}
+
 TEST_F(ErrorRoutine, ShowsTheErrorOnceWhereTheComponentIsMissingOrFails) {
   const auto failsWith = [&](const std::string& title) {
     shop.desktop.ExpectMessage("Connection lost\n(frmRequest cmdOK_Click, 3704)", controls::Answer::Ok, controls::kExclamation);

@@ -9,6 +9,8 @@ goods::RequestDraft Draft() {
   draft.savedAt = vb::MakeDate(2024, 3, 15, 10, 30, 5);
   draft.isNew = false;
   draft.basedOn = "2024-03-14 08:00:00.123";
+  draft.savingId = 18;
+  draft.savingNumber = "GR/18";
   draft.request.id = 17;
   draft.request.number = "GR/17";
   draft.request.date = " 15/03/2024 ";
@@ -29,6 +31,8 @@ TEST(RequestDrafts, ComeBackAsTheyWereWritten) {
   EXPECT_EQ(read->savedAt.days, written.savedAt.days);
   EXPECT_EQ(read->basedOn, written.basedOn);
   EXPECT_FALSE(read->isNew);
+  EXPECT_EQ(read->savingId, 18);
+  EXPECT_EQ(read->savingNumber, "GR/18");
   const auto empty = goods::ParseDraft(goods::DraftText({}));
   ASSERT_TRUE(empty);
   EXPECT_TRUE(empty->isNew);
