@@ -6,12 +6,12 @@
 #include "base/vb/error.h"
 #include "base/vb/file_error.h"
 #include "base/vb/text.h"
+#include "src/counter/same_again.h"
 #include "src/records/request_store.h"
 
 namespace goods {
 namespace {
 
-constexpr std::size_t kMaxLinesShown = 12;
 constexpr int kMaxFiles = 20;  // of one user: open in several programs, or left by programs that ended
 
 /// Whether nothing of it is unsaved: the program ended between the commit and the draft's removal.
@@ -74,13 +74,8 @@ DraftKeeping::Decision DraftKeeping::Decide(const RequestDraft& draft, const Ope
 }
 
 DraftKeeping::Decision DraftKeeping::DecideOnClosed(const RequestDraft& draft) {
-  const std::vector<RequestLine>& lines = draft.request.lines;
-  std::string question =
-      "An unsaved change of this request of " + vb::DateText(draft.savedAt) + " was left behind. It can be saved no more:\r\n";
-  for (std::size_t line = 0; line < std::min(lines.size(), kMaxLinesShown); ++line) {
-    question += "\r\n" + lines[line].itemCode + " " + lines[line].itemName + ", " + lines[line].quantity;
-  }
-  if (lines.size() > kMaxLinesShown) question += "\r\nand " + std::to_string(lines.size() - kMaxLinesShown) + " more lines";
+  std::string question = "An unsaved change of this request of " + vb::DateText(draft.savedAt) +
+                         " was left behind. It can be saved no more:\r\n" + LinesToTell(draft.request.lines);
   if (!draft.request.remarks.empty()) question += "\r\n" + draft.request.remarks;
   question += "\r\n\r\nDo you want to remove it?";
   const int style = controls::kYesNo + controls::kQuestion + controls::kDefaultButton2;
