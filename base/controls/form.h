@@ -103,6 +103,7 @@ class Form : public late::Object {
   Event<int&, int> KeyDown;  ///< with key preview, before the control
   Event<int&> KeyPress;
   Event<int&, int> KeyUp;
+  Event<> HelpRequested;  ///< F1, unless a KeyDown handler swallowed it
 
   /// A session global or field that tools may read by name ("lngCurrentLine"); null value when unknown.
   using FieldReader = std::function<late::Value()>;

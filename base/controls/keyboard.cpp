@@ -100,6 +100,7 @@ void HandleDownAndPress(Form& form, const KeyStroke& key) {
     if (!FireKey(
             form, code, key.shift, [](auto& target) -> auto& { return target.KeyDown; }))
       return;
+    if (code == kKeyF1 && key.shift == 0) return form.HelpRequested.Fire();
     if ((key.shift & kAlt) == 0 && form.ActiveControl()) form.ActiveControl()->OnKey(code, key.shift);
     if (!IsActive(form)) return;
   }

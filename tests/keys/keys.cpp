@@ -216,6 +216,11 @@ FormKeys Print() {
               {.key = "Tab", .effect = Focus, .what = "OK"},
               {.key = "Shift+Tab", .effect = Focus, .what = "To Screen"},
               {.key = "Down", .effect = Focus, .what = "To Printer"},
+              {.key = "F1",
+               .effect = Asks,
+               .what = "Up, Down: another way to print  OK: prints as chosen  Esc: leaves",
+               .answer = "OK"},
+              {.key = "Up", .effect = Focus, .what = "To Screen"},
               {.key = "Esc", .effect = Closes, .what = kRegister},
           }};
 }
