@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/vb/format.h"
+#include "base/vb/number.h"
 #include "base/vb/text.h"
 #include "src/counter/same_again.h"
 #include "src/editor/pasted_lines.h"
@@ -155,7 +156,18 @@ void frmRequest::Form_Activate() {
     TakeUpDraft(takenUp_->request);
   }
   takenUp_.reset();
+  history_.Start(lines_.All());
+  ShowStatus();
   KeepDraft();
+  GoToStart();
+}
+
+void frmRequest::GoToStart() {
+  if (IsNew() && txtRemarks.CanFocus()) {
+    txtRemarks.SetFocus();
+  } else if (lvwrequest.CanFocus()) {
+    lvwrequest.SetFocus();
+  }
 }
 
 void frmRequest::Form_QueryUnload(bool& cancel, controls::UnloadMode) {
@@ -257,7 +269,7 @@ void frmRequest::chkcutomerrequest_Click() {
     throw;
   }
   sstabGoodsReq.SetTabVisible(kCustomerPage, ticked);
-  KeepDraft();
+  DocumentsChanged();
 }
 
 void frmRequest::SetBoxQuietly(bool ticked) {
@@ -273,18 +285,20 @@ void frmRequest::lvwCustomerReq_ItemCheck(controls::ListItem& document) {
     return;
   }
   customerRequests_.TakeChecked(document);
-  KeepDraft();
+  DocumentsChanged();
 }
 
 void frmRequest::lvwrequest_DblClick() {
   (lines_.Count() > 0 ? mnuEdit : mnuAdd).Click.Fire();
 }
 
-void frmRequest::lvwrequest_KeyDown(int& keyCode, int) {
+void frmRequest::lvwrequest_KeyDown(int& keyCode, int shift) {
   if (keyCode == controls::kKeyF10) {
     (lines_.HasQuantity() ? mnuEdit : mnuAdd).Click.Fire();
   } else if (keyCode == controls::kKeyDelete) {
     mnudel.Click.Fire();
+  } else if (keyCode == 'Z' && shift == controls::kCtrl) {
+    TakeBackLastChange();
   }
 }
 
@@ -318,7 +332,7 @@ void frmRequest::lvwrequest_Pasted(const std::string& text) {
     SetCaption(caption);
   }
   if (pasted.Added() > 0) lines_.MarkChanged();
-  KeepDraft();
+  LinesChanged();
   if (const std::string refused = pasted.RefusedTable(); !refused.empty()) Desktop().PutOnClipboard(refused);
   Tell(pasted.Outcome());
   if (failure) throw vb::RunTimeError(*failure);
@@ -351,13 +365,42 @@ void frmRequest::mnudel_Click() {
   lines_.Remove(line);
   lines_.Renumber();
   lines_.MarkChanged();
+  LinesChanged();
+}
+
+void frmRequest::LinesChanged() {
+  history_.NoteChange(lines_.All());
+  ShowStatus();
   KeepDraft();
+}
+
+void frmRequest::DocumentsChanged() {
+  history_.NoteOther(lines_.All());
+  ShowStatus();
+  KeepDraft();
+}
+
+void frmRequest::TakeBackLastChange() {
+  if (!cmdOK.Enabled()) return;
+  const auto back = history_.TakeBack();
+  if (!back) return ShowStatus("Nothing left to take back");
+  lines_.Become(back->lines);
+  lines_.MarkChanged(!loaded_ || back->lines != loaded_->lines);
+  ShowStatus(back->told);
+  KeepDraft();
+}
+
+void frmRequest::ShowStatus(std::string_view told) {
+  std::string status = std::to_string(lines_.Count()) + (lines_.Count() == 1 ? " line" : " lines");
+  if (Session().lineLimit >= 1) status += ", limit " + vb::NumberText(Session().lineLimit);
+  if (!told.empty()) status.append(" - ").append(told);
+  lblStatus.SetCaption(status);
 }
 
 void frmRequest::EnterItems() {
   if (!itemEntry_) {
     itemEntry_ = std::make_shared<frmRequestDetail>(Session(), lines_, lngCurrentLine);
-    On(itemEntry_->LineEntered, "LineEntered", &frmRequest::KeepDraft);
+    On(itemEntry_->LineEntered, "LineEntered", &frmRequest::LinesChanged);
   }
   itemEntry_->Show(this);
   if (IsShown() && lvwrequest.CanFocus()) lvwrequest.SetFocus();

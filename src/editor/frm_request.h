@@ -11,6 +11,7 @@
 #include "base/controls/menu.h"
 #include "base/controls/tab_control.h"
 #include "base/controls/text_box.h"
+#include "src/counter/line_history.h"
 #include "src/editor/customer_requests.h"
 #include "src/editor/draft_keeping.h"
 #include "src/editor/save_port.h"
@@ -52,6 +53,7 @@ class frmRequest : public ModuleForm, private SavePort {
   controls::CheckBox chkTransFinished{*this, "chkTransFinished"};
   controls::CommandButton cmdOK{*this, "cmdOK"};
   controls::CommandButton cmdCancel{*this, "cmdCancel"};
+  controls::Label lblStatus{*this, "lblStatus"};
 
   // The menu of the lines.
   controls::Menu mnuPopup{*this, "mnuPopup"};
@@ -97,6 +99,8 @@ class frmRequest : public ModuleForm, private SavePort {
   void RepeatLines(std::int32_t requestId);
   void LoadExistingRequest();
   void Form_Activate();
+  /// The focus goes to where a person begins: the remarks of a new request, the lines of a stored one.
+  void GoToStart();
   void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
   void Form_Unload();
   bool IsNew() const { return Session().gStrEntryMode == "N"; }
@@ -134,6 +138,12 @@ class frmRequest : public ModuleForm, private SavePort {
   void mnuAdd_Click();
   void mnuEdit_Click();
   void mnudel_Click();
+  /// After every change of the lines: it can be taken back, the status line tells of it, and the draft has it.
+  void LinesChanged();
+  /// The same after ticking a customer document, which is taken back by unticking it.
+  void DocumentsChanged();
+  void TakeBackLastChange();
+  void ShowStatus(std::string_view told = {});
   /// Opens item entry; once it has closed, the focus is in the list again.
   void EnterItems();
 
@@ -142,6 +152,7 @@ class frmRequest : public ModuleForm, private SavePort {
   CommonDb objCommonDB_;
   CustomerRequests customerRequests_;
   std::shared_ptr<frmRequestDetail> itemEntry_;
+  LineHistory history_;
   DraftKeeping draft_{Session(), *this};
   std::optional<RequestDraft> takenUp_;  ///< from the load to the first activation
   std::optional<Request> loaded_;        ///< from the first activation on: what is stored; a new request has no lines

@@ -6,7 +6,7 @@ namespace goods {
 namespace {
 
 constexpr int kWidth = 10800;
-constexpr int kHeight = 7500;
+constexpr int kHeight = 7800;
 constexpr int kMargin = 120;
 constexpr int kLabelHeight = 255;
 constexpr int kBoxHeight = 330;
@@ -91,6 +91,8 @@ void frmRequest::DesignFooter() {
   chkTransFinished.SetCaption("Confirm &Finished");
   chkTransFinished.Move(2400, 6960, 2160, 300);
   chkTransFinished.SetAnchors(kBottomLeft);
+  lblStatus.Move(kMargin, 7500, kWidth - 2 * kMargin, kLabelHeight);
+  lblStatus.SetAnchors(kBottomLeft | controls::kAnchorRight);
   cmdOK.SetCaption("&OK");
   cmdOK.Move(8160, 6900, 1200, 420);
   cmdOK.SetAnchors(kBottomRight);

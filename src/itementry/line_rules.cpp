@@ -16,7 +16,9 @@ constexpr double kQuantityBeyondColumn = 1e15;
 
 double ReadLineLimit(basGoodsRequest& session, CommonDb& db) {
   db.strTableName("ashops");
-  return vb::Val(db.fnReturnField("MaxRequestItemsToHQ", " shopid=" + std::to_string(session.gIntShopID)).TextOrEmpty());
+  session.lineLimit =
+      vb::Val(db.fnReturnField("MaxRequestItemsToHQ", " shopid=" + std::to_string(session.gIntShopID)).TextOrEmpty());
+  return session.lineLimit;
 }
 
 double QuantityTyped(std::string_view text) {

@@ -11,7 +11,8 @@ constexpr KeyHelp kRegister[] = {
     {"Alt+N, E, D, P, C", "New, Edit, Delete, Print, Close"},
     {"Up, Down, PageUp, PageDown", "another request"},
     {"right button, menu key", "Refresh"},
-    {"Alt+S, then typing", "search while you type, in the chosen column or else in the request numbers; red when nothing begins so"},
+    {"Alt+S, then typing",
+     "search while you type, in the chosen column or else in the request numbers; red when nothing begins so"},
 };
 
 constexpr KeyHelp kCancelReason[] = {
@@ -26,6 +27,7 @@ constexpr KeyHelp kEditor[] = {
     {"F10", "add or change"},
     {"Delete", "remove the line"},
     {"Ctrl+V", "take lines from a spreadsheet: code, quantity, remarks"},
+    {"Ctrl+Z", "take back the last change of the lines, one after the other; a ticked document not"},
     {"right button, menu key", "the menu of the lines"},
     {"Enter in a box", "to the next box"},
     {"Esc", "close; asks when OK would store something new"},
@@ -55,8 +57,9 @@ constexpr KeyHelp kPrint[] = {
 };
 
 constexpr FormKeyHelp kForms[] = {
-    {"frmMaster", kRegister},         {"frmcancelreason", kCancelReason}, {"frmRequest", kEditor},
-    {"frmRequestDetail", kItemEntry}, {"FrmFetch", kFetch},               {"frmPrint", kPrint},
+    {"frmMaster", kRegister}, {"frmcancelreason", kCancelReason},
+    {"frmRequest", kEditor},  {"frmRequestDetail", kItemEntry},
+    {"FrmFetch", kFetch},     {"frmPrint", kPrint},
 };
 
 }  // namespace

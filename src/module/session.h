@@ -46,6 +46,8 @@ struct basGoodsRequest {
   FormColor gObjFormColor;
   UserAuditing gObjUserAuditing;
 
+  double lineLimit = 0;  ///< how many lines a request may have, as it was read last; below 1 for any number, or not yet read
+
   // Handed from form to form.
   std::string gStrEntryMode;  ///< "N" new request, "E" existing one
   std::int32_t gLngRequestID = 0;

@@ -1,5 +1,6 @@
 #include "src/records/request_lines.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "base/vb/format.h"
@@ -80,13 +81,27 @@ void RequestLines::Renumber() {
   for (int line = 1; line <= Count(); ++line) list_.Item(line).SetText(std::to_string(line));
 }
 
+void RequestLines::Become(const std::vector<RequestLine>& lines) {
+  int place = 1;
+  for (auto line = lines.begin(); line != lines.end(); ++line, ++place) {
+    const auto comesLater = [&](std::int32_t id) {
+      return std::find_if(line, lines.end(), [&](auto& l) { return l.itemId == id; }) != lines.end();
+    };
+    while (place <= Count() && !comesLater(ItemId(place))) Remove(place);
+    const bool isHere = place <= Count() && ItemId(place) == line->itemId;
+    Write(isHere ? list_.Item(place) : list_.Insert(place, {}), *line);
+  }
+  while (Count() >= place) Remove(Count());
+  Renumber();
+}
+
 void RequestLines::GoTo(int line) {
   list_.Select(line);
   list_.EnsureVisible(line);
 }
 
-void RequestLines::MarkChanged() {
-  list_.SetTag(std::string(kChanged));
+void RequestLines::MarkChanged(bool changed) {
+  list_.SetTag(std::string(changed ? kChanged : ""));
 }
 
 bool RequestLines::IsChanged() const {

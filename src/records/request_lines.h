@@ -49,13 +49,16 @@ class RequestLines {
   /// Numbers the lines 1, 2, 3 ... again.
   void Renumber();
 
+  /// Makes the list these lines, numbered. What stays in it keeps its selection and colours.
+  void Become(const std::vector<RequestLine>& lines);
+
   /// 0 for none.
   int Selected() const { return list_.SelectedItem(); }
   /// Selects a line and brings it into view.
   void GoTo(int line);
 
   /// The mark that makes the editor offer to save.
-  void MarkChanged();
+  void MarkChanged(bool changed = true);
   bool IsChanged() const;
 
   /// For helper components, which take the control itself.

@@ -67,6 +67,8 @@ void frmMaster::Form_Load() {
   basGoodsRequest& session = Session();
   evaluatedRow_ = flexMaster.Row();
   searchAnswer_.Forget();
+  cancellationRemarks_.clear();
+  session.lineLimit = 0;
   session.gStrUserRights.clear();  // those of the component's previous user
   EnableCommands(false);           // until the rights are read: after an error on the way nothing may be done
   objCommonDB_ = CommonDb(session.services.factory, session.gAdoCon, "ShopCommon.clscommonDB");
@@ -121,6 +123,7 @@ bool frmMaster::fnUSerRights(std::string_view letter) {
 }
 
 void frmMaster::Form_Activate() {
+  ShowStatus();
   if (requests_.CurrentCell(kRegisterId).empty()) {
     CmdEdit.SetEnabled(false);
     CmdDelete.SetEnabled(false);
@@ -132,6 +135,10 @@ void frmMaster::Form_Activate() {
   if (live) CmdEdit.SetEnabled(fnUSerRights("E"));
   CmdDelete.SetEnabled(live && fnUSerRights("D"));
   Cmdprev.SetEnabled(fnUSerRights("P"));
+}
+
+void frmMaster::ShowStatus() {
+  lblStatus.SetCaption(requests_.Summary(Session().gDtFromDate));
 }
 
 void frmMaster::flexMaster_RowColChange() {
@@ -276,6 +283,7 @@ void frmMaster::ShowCancelled(std::string_view done) {
   requests_.MarkCancelledRequests();
   requests_.SelectWholeRow(flexMaster.Row());
   requests_.ApplySelectionColor();
+  ShowStatus();
 }
 
 void frmMaster::flexMaster_DblClick() {
@@ -295,7 +303,17 @@ void frmMaster::flexMaster_MouseMove() {
   const long row = flexMaster.MouseRow();
   const long column = flexMaster.MouseCol();
   const bool onCell = row >= 0 && row < flexMaster.Rows() && column >= 0 && column < flexMaster.Cols();
-  flexMaster.SetToolTipText(onCell ? flexMaster.TextMatrix(row, column) : std::string());
+  std::string tip = onCell ? flexMaster.TextMatrix(row, column) : std::string();
+  if (onCell && column == kRegisterCancelled && requests_.IsCancelled(row)) tip += " - " + CancellationRemark(row);
+  flexMaster.SetToolTipText(tip);
+}
+
+// Read when the mouse rests on the request for the first time, and not for every request that the register lists.
+const std::string& frmMaster::CancellationRemark(long row) {
+  const std::int32_t requestId = requests_.RequestIdAt(row);
+  const auto [remark, isNew] = cancellationRemarks_.try_emplace(requestId);
+  if (isNew) remark->second = RequestCancellation(Session(), objCommonDB_).Remark(requestId);
+  return remark->second;
 }
 
 void frmMaster::flexMaster_MouseUp(controls::MouseButton button, int) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,6 +46,7 @@ class frmMaster : public ModuleForm {
   controls::CommandButton CmdDelete{*this, "CmdDelete"};
   controls::CommandButton Cmdprev{*this, "Cmdprev"};
   controls::CommandButton CmdClose{*this, "CmdClose"};
+  controls::Label lblStatus{*this, "lblStatus"};
   controls::Menu mnupopup{*this, "mnupopup"};
   controls::Menu mnurefresh{*this, "mnurefresh", &mnupopup};
 
@@ -97,6 +100,8 @@ class frmMaster : public ModuleForm {
   bool MarkRequestCancelled(std::string_view userName, std::string_view reason);
   /// Brings the request's row up to date; `done` is what UpdateEditedRow says before an error.
   void ShowCancelled(std::string_view done);
+  void ShowStatus();
+  const std::string& CancellationRemark(long row);
 
   // Grid keys and mouse.
   void flexMaster_DblClick();
@@ -118,6 +123,7 @@ class frmMaster : public ModuleForm {
   RegisterGrid requests_{flexMaster};
   RegisterFill fill_{Session(), flexMaster, cboColNames, cboSearch};
   SearchAnswer searchAnswer_{txtsearch};
+  std::map<std::int32_t, std::string> cancellationRemarks_;  ///< of the cancelled requests that the mouse was over, by their id
   CommonDb objCommonDB_;
   long evaluatedRow_ = 1;  ///< the row that the buttons were last judged by
 

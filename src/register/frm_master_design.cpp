@@ -10,10 +10,11 @@ using controls::kAnchorTop;
 
 // Twips.
 constexpr int kWidth = 11400;
-constexpr int kHeight = 7200;
+constexpr int kHeight = 7500;
 constexpr int kMargin = 120;
 constexpr int kBrowseTop = 5640;
 constexpr int kButtonTop = 6660;
+constexpr int kStatusTop = 7200;
 constexpr int kButtonWidth = 1320;
 constexpr int kButtonHeight = 420;
 constexpr int kButtonGap = 120;
@@ -43,6 +44,9 @@ void frmMaster::Design() {
     buttons[index]->Move(left, kButtonTop, kButtonWidth, kButtonHeight);
     buttons[index]->SetAnchors(kAnchorRight | kAnchorBottom);
   }
+
+  lblStatus.Move(kMargin, kStatusTop, kWidth - 2 * kMargin, 240);
+  lblStatus.SetAnchors(kAnchorLeft | kAnchorRight | kAnchorBottom);
 
   mnupopup.SetCaption("Popup");
   mnupopup.SetVisible(false);

@@ -20,6 +20,29 @@ std::int32_t RegisterGrid::CurrentRequestId() const {
   return vb::CLng(vb::Val(CurrentCell(kRegisterId)));
 }
 
+std::int32_t RegisterGrid::RequestIdAt(long row) const {
+  return vb::CLng(vb::Val(flexMaster_.TextMatrix(row, kRegisterId)));
+}
+
+bool RegisterGrid::IsCancelled(long row) const {
+  return row >= 1 && row < flexMaster_.Rows() && flexMaster_.Cols() > kRegisterCancelled &&
+         flexMaster_.TextMatrix(row, kRegisterCancelled) == "Yes";
+}
+
+std::string RegisterGrid::Summary(vb::Date since) const {
+  long requests = 0;
+  long cancelled = 0;
+  long finished = 0;
+  for (long row = 1; row < flexMaster_.Rows() && flexMaster_.Cols() > kRegisterFinished; ++row) {
+    if (flexMaster_.TextMatrix(row, kRegisterId).empty()) continue;  // the placeholder
+    ++requests;
+    if (flexMaster_.TextMatrix(row, kRegisterCancelled) == "Yes") ++cancelled;
+    if (flexMaster_.TextMatrix(row, kRegisterFinished) == "Yes") ++finished;
+  }
+  return std::to_string(requests) + (requests == 1 ? " request, " : " requests, ") + std::to_string(cancelled) + " cancelled, " +
+         std::to_string(finished) + " finished, since " + vb::DateText(since);
+}
+
 void RegisterGrid::SelectWholeRow(long row) {
   flexMaster_.SetRow(row);
   flexMaster_.SetCol(0);
@@ -46,7 +69,7 @@ void RegisterGrid::ApplySelectionColor() {
 
 void RegisterGrid::MarkCancelledRequests() {
   for (long row = 1; row < flexMaster_.Rows(); ++row) {
-    if (flexMaster_.TextMatrix(row, kRegisterCancelled) == "Yes") flexMaster_.SetRowForeColor(row, controls::kRed);
+    if (IsCancelled(row)) flexMaster_.SetRowForeColor(row, controls::kRed);
   }
 }
 

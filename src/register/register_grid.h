@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/controls/flex_grid.h"
+#include "base/vb/date.h"
 
 namespace goods {
 
@@ -21,6 +22,12 @@ class RegisterGrid {
   std::string CurrentCell(long column) const;
   /// Id of the current row's request; 0 when there is none.
   std::int32_t CurrentRequestId() const;
+  /// Id of the row's request; 0 when it holds none.
+  std::int32_t RequestIdAt(long row) const;
+  /// Whether the row holds a cancelled request; false outside the list.
+  bool IsCancelled(long row) const;
+  /// "16 requests, 3 cancelled, 4 finished, since 15/01/2024".
+  std::string Summary(vb::Date since) const;
 
   void SelectWholeRow(long row);
   /// Gives the selection the colours of the current row, so that a red one never stays on a request that is not cancelled.

@@ -29,6 +29,13 @@ std::string_view RequestCancellation::Refusal(std::string_view requestId, bool e
   return {};
 }
 
+std::string RequestCancellation::Remark(std::int32_t requestId) {
+  db_.strTableName("mosGoodsRequestHeader");
+  const std::string condition =
+      "GRHshopID=" + std::to_string(session_.gIntShopID) + " and GRHrequestID=" + std::to_string(requestId);
+  return db_.fnReturnField("grhcancelRemarks", condition).TextOrEmpty();
+}
+
 bool RequestCancellation::MarkHeader(std::int32_t requestId, std::string_view userName, std::string_view reason,
                                      bool editorAllowsSaving) {
   const std::string remark = vb::Left(vb::Trim(userName), kUserNameLength) + ":" + vb::Left(vb::Trim(reason), kReasonLength);

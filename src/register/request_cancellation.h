@@ -23,6 +23,8 @@ class RequestCancellation {
   /// Marks the request's header as cancelled, with the user's name and the reason. False when the shop has no such request, and
   /// when another workstation has closed it since Refusal: LateRefusal() then says why.
   bool MarkHeader(std::int32_t requestId, std::string_view userName, std::string_view reason, bool editorAllowsSaving);
+  /// Who cancelled the request and why, "Nora Halvard:Ordered twice"; empty when it is not cancelled.
+  std::string Remark(std::int32_t requestId);
   std::string_view LateRefusal() const { return lateRefusal_; }
 
  private:

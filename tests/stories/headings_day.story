@@ -30,6 +30,7 @@ text: │ ┌─ Browse ──────────────────�
 text: │ │  [Remarks        v]    (o) Ascending  ( ) Descending Search On:  [            v]  [               ] │ │
 text: │ └─────────────────────────────────────────────────────────────────────────────────────────────────────┘ │
 text: │                                    < New >     < Edit >     < Delete >  < Print >   < Close >           │
+text: │ 16 requests, 3 cancelled, 3 finished, since 15/01/2024                                                  │
 text: └─ » has the focus, ! red ────────────────────────────────────────────────────────────────────────────────┘
 > heading flexMaster 3
 > get flexMaster.TextMatrix(1,3)

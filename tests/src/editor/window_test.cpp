@@ -306,7 +306,7 @@ TEST_F(EditorWindow, TheLinesAreInSightWithAllTheirColumns) {
 
 TEST_F(EditorWindow, EnterWalksThroughTheHeader) {
   New([&] {
-    EXPECT_TRUE(editor->txtRequestNo.HasFocus());
+    EXPECT_TRUE(editor->txtRemarks.HasFocus()) << "where a person begins";
     Press(editor->txtRequestNo, "Enter");
     EXPECT_TRUE(editor->txtrequestDate.HasFocus());
     Press(editor->txtrequestDate, "Enter");
@@ -314,6 +314,7 @@ TEST_F(EditorWindow, EnterWalksThroughTheHeader) {
     Press(editor->txtRemarks, "Enter");
     EXPECT_TRUE(editor->sstabGoodsReq.HasFocus());
   });
+  Edit(7, [&] { EXPECT_TRUE(editor->lvwrequest.HasFocus()); });
 }
 
 TEST_F(EditorWindow, ALongQuantityCanBeReadAtItsTip) {

@@ -1,10 +1,10 @@
 // What F1 tells and what the users' page says of the keys are the same.
 
+#include "src/module/key_help.h"
+
 #include <fstream>
 #include <gtest/gtest.h>
 #include <regex>
-
-#include "src/module/key_help.h"
 
 namespace goods {
 namespace {

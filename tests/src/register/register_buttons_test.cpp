@@ -113,6 +113,12 @@ TEST_F(RegisterButtons, KeysAndMouseOnTheGridDoWhatTheButtonsDo) {
     EXPECT_EQ("Workshop fitting, project", Grid().ToolTipText());
     Grid().MoveMouse(0, goods::kRegisterNo);
     EXPECT_EQ("Request No", Grid().ToolTipText());
+    shop.log.Clear();
+    for (int times = 0; times < 2; ++times) {
+      Grid().MoveMouse(RowOf(16), goods::kRegisterCancelled);
+      EXPECT_EQ("Yes - Nora Halvard:Customer has changed his mind", Grid().ToolTipText());
+    }
+    EXPECT_EQ(1u, shop.log.lines.size()) << "asked for once";
   });
 }
 
