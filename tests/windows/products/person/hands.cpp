@@ -47,9 +47,9 @@ void TypeCharacter(wchar_t character) {
 
 void PressNamed(std::string name) {
   static const std::map<std::string, WORD> named = {
-      {"Enter", VK_RETURN},  {"Esc", VK_ESCAPE}, {"Tab", VK_TAB},    {"F3", VK_F3},     {"F10", VK_F10},
-      {"Delete", VK_DELETE}, {"Down", VK_DOWN},  {"Up", VK_UP},      {"Home", VK_HOME}, {"PageUp", VK_PRIOR},
-      {"PageDown", VK_NEXT}, {"Menu", VK_APPS},  {"Space", VK_SPACE}};
+      {"Enter", VK_RETURN}, {"Esc", VK_ESCAPE},   {"Tab", VK_TAB},       {"F1", VK_F1},     {"F3", VK_F3},
+      {"F8", VK_F8},        {"F10", VK_F10},      {"Delete", VK_DELETE}, {"Down", VK_DOWN}, {"Up", VK_UP},
+      {"Home", VK_HOME},    {"PageUp", VK_PRIOR}, {"PageDown", VK_NEXT}, {"Menu", VK_APPS}, {"Space", VK_SPACE}};
   static const std::map<std::string, WORD> holding = {{"Ctrl+", VK_CONTROL}, {"Alt+", VK_MENU}, {"Shift+", VK_SHIFT}};
   std::vector<WORD> held;
   for (const auto& [prefix, key] : holding) {
