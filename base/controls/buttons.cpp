@@ -5,6 +5,7 @@
 #include "base/controls/control_members.h"
 #include "base/controls/form.h"
 #include "base/controls/keys.h"
+#include "base/vb/text.h"
 
 namespace controls {
 
@@ -21,6 +22,10 @@ void Captioned::SetCaption(std::string_view caption) {
   if (caption_ == caption) return;
   caption_ = caption;
   Changed(Aspect::Text);
+}
+
+void Captioned::SetPlainCaption(std::string_view text) {
+  SetCaption(vb::Replace(text, "&", "&&"));
 }
 
 void Captioned::Reset() {

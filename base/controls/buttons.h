@@ -10,6 +10,8 @@ class Captioned : public Control {
   using Control::Control;
   const std::string& Caption() const;
   void SetCaption(std::string_view caption);
+  /// A caption that reads like the text: its ampersands mark no access key.
+  void SetPlainCaption(std::string_view text);
   std::string CaptionText() const override { return caption_; }
   void Reset() override;
 

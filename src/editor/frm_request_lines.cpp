@@ -126,7 +126,7 @@ void frmRequest::ShowStatus(std::string_view told) {
   std::string status = std::to_string(lines_.Count()) + (lines_.Count() == 1 ? " line" : " lines");
   if (Session().lineLimit >= 1) status += ", limit " + vb::NumberText(Session().lineLimit);
   if (!told.empty()) status.append(" - ").append(told);
-  lblStatus.SetCaption(status);
+  lblStatus.SetPlainCaption(status);
 }
 
 void frmRequest::EnterItems() {

@@ -21,6 +21,7 @@ void frmRequestDetail::Form_Load() {
   // In front of what is read: after a database error, too, no shop is offered a list that is not for it.
   if (!Session().gBlnRequestForNonShopItem) optItemsNotInShop.SetVisible(false);
   ArrangeOptionButtons();
+  PrepareAnswers();
 
   const std::string shopId = std::to_string(Session().gIntShopID);
   objCommonDB_.strTableName("ashops");
@@ -153,6 +154,7 @@ void frmRequestDetail::OptionKeyPressed(int& character) {
 void frmRequestDetail::ClearEntryFields() {
   for (controls::TextBox* box : {&txtavailqty, &txtitemcode, &txtpartcode, &txtQuantity, &txtreqcomments}) box->SetText("");
   lvwpacktype.Clear();
+  ForgetAnswers();
 }
 
 void frmRequestDetail::cboItem_Click() {
@@ -208,11 +210,14 @@ double frmRequestDetail::EnteredQuantity() const {
 
 void frmRequestDetail::FillPackTypeinList(std::int32_t itemId) {
   Trap("FillPackTypeinList", [&] { FillPackingTypes(objCommonDB_, lvwpacktype, itemId); });
+  ShowAnswers(itemId);
 }
 
 void frmRequestDetail::Calcpacktypeqty() {
-  if (lvwpacktype.Count() == 0) return;
-  Trap("Calcpacktypeqty", [&] { CountPacks(objCommonDB_, lvwpacktype, SelectedItemId(), EnteredQuantity()); });
+  if (lvwpacktype.Count() > 0) {
+    Trap("Calcpacktypeqty", [&] { CountPacks(objCommonDB_, lvwpacktype, SelectedItemId(), EnteredQuantity()); });
+  }
+  ExplainQuantity();
 }
 
 }  // namespace goods

@@ -10,6 +10,7 @@
 #include "base/controls/combo_box.h"
 #include "base/controls/list_view.h"
 #include "base/controls/text_box.h"
+#include "src/counter/item_answers.h"
 #include "src/faces/common_db.h"
 #include "src/faces/common_gen.h"
 #include "src/faces/item_fetch.h"
@@ -48,6 +49,10 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   controls::ComboBox cboItem{*this, "cboItem"};
   controls::TextBox txtQuantity{*this, "txtQuantity"};
   controls::ListView lvwpacktype{*this, "lvwpacktype"};
+  // Beneath it, where the shop's settings want them.
+  controls::Label lblRequested{*this, "lblRequested"};
+  controls::Label lblStock{*this, "lblStock"};
+  controls::Label lblExplained{*this, "lblExplained"};
   controls::Label Label3{*this, "Label3"};
   controls::Label lblpartcode{*this, "lblpartcode"};
   controls::Label lblcomments{*this, "lblcomments"};
@@ -113,6 +118,12 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void FillPackTypeinList(std::int32_t itemId) override;
   void Calcpacktypeqty();
 
+  // What is asked about the item.
+  void PrepareAnswers();
+  void ShowAnswers(std::int32_t itemId);
+  void ForgetAnswers();
+  void ExplainQuantity();
+
   // The lines.
   void cmdOk_Click();
   bool RefusesEntry();
@@ -139,6 +150,7 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   CommonGen objCommonGen_;
   ItemFetch objFetch_;
   std::shared_ptr<FrmFetch> frmFetch_;
+  ItemAnswers answers_{Session()};
   bool firstActivation_ = true;
   bool showAvailability_ = false;
   bool fetching_ = false;   ///< a lookup of this form is up: its closing activates this form in mid-routine

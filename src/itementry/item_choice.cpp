@@ -84,6 +84,7 @@ void frmRequestDetail::ForgetItem() {
   txtpartcode.SetText("");
   txtavailqty.SetText("");
   lvwpacktype.Clear();
+  ForgetAnswers();
 }
 
 void frmRequestDetail::RefuseItemCode() {
