@@ -22,6 +22,7 @@ enum KeyCode {
   kKeyF1 = 112,
   kKeyF3 = 114,
   kKeyF4 = 115,
+  kKeyF8 = 119,
   kKeyF10 = 121,
   kKeyF12 = 123,
 };

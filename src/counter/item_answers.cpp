@@ -22,8 +22,8 @@ double NumberOrZero(const late::Value& value) {
   return value.IsNull() ? 0 : value.ToDouble();
 }
 
-/// The packs as "1 carton": of the packings that the quantity fills without a rest the one that takes the fewest; empty where none
-/// holds more than one unit.
+/// The packs as "1 carton": of the packings that the quantity fills without a rest the one that takes the fewest; empty where
+/// none holds more than one unit.
 std::string WholePacks(double quantity, const std::vector<PackCount>& packs) {
   double fewest = quantity;
   std::string text;
@@ -44,7 +44,8 @@ void ItemAnswers::Ask(std::int32_t itemId) {
     const std::int32_t ownId = session_.gStrEntryMode == "N" ? 0 : session_.gLngRequestID;
     const std::vector<OpenLine> lines = OpenLines(session_, ownId, itemId);
     requested_ = OpenLinesToTell(lines);
-    onItsWay_ = std::accumulate(lines.begin(), lines.end(), 0.0, [](double sum, const OpenLine& line) { return sum + line.quantity; });
+    onItsWay_ =
+        std::accumulate(lines.begin(), lines.end(), 0.0, [](double sum, const OpenLine& line) { return sum + line.quantity; });
   }
   if (!settings_.showStock) return;
   const std::vector<late::Value> row = FirstRow(session_, InShopQuery(session_.gStrStockView, session_.gIntShopID, itemId));

@@ -65,6 +65,8 @@ void frmRequestDetail::Form_Activate() {
     if (IsAdding()) cboItem.Clear();
     RememberLoadedValues();
     SelectFetchModeOption();
+    if (IsScanning()) Trap("Form_Activate", [&] { scans_.Start(); });
+    ShowScanning();
     firstActivation_ = false;
   }
   // A lookup of this form that closes activates the form, too: what is entered then stays as it is.
@@ -75,6 +77,7 @@ void frmRequestDetail::Form_Activate() {
       ShowLineToChange();
     }
   }
+  ShowStatus();
   FocusEntryField();
 }
 
@@ -131,6 +134,7 @@ void frmRequestDetail::EnterTo(controls::CommandButton& button, int& character) 
 }
 
 void frmRequestDetail::Form_KeyDown(int& keyCode, int shift) {
+  if (keyCode == controls::kKeyF8 && shift == 0) return ToggleScanning();
   if (keyCode != controls::kKeyF3 || !cmdFetch.Enabled()) return;
   if (shift == 0) {
     keyCode = 0;
@@ -186,6 +190,9 @@ void frmRequestDetail::txtQuantity_KeyPress(int& character) {
     Tell("Only Integer Quantity is allowed");
   } else if (character == '-') {
     character = 0;
+  } else if (character == '+' || character == controls::kCharLineFeed) {
+    character = 0;
+    if (cmdOk.Enabled()) cmdOk.Click.Fire();
   } else if (character == controls::kCharReturn) {
     if (SelectedItemId() > 0) Calcpacktypeqty();
     SendTabOnEnter(*this, character);

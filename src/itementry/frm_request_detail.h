@@ -15,6 +15,7 @@
 #include "src/faces/common_gen.h"
 #include "src/faces/item_fetch.h"
 #include "src/fetch/item_entry_port.h"
+#include "src/itementry/scans.h"
 #include "src/module/module_form.h"
 #include "src/records/request_lines.h"
 
@@ -49,6 +50,8 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   controls::ComboBox cboItem{*this, "cboItem"};
   controls::TextBox txtQuantity{*this, "txtQuantity"};
   controls::ListView lvwpacktype{*this, "lvwpacktype"};
+  controls::ListView lvwscans{*this, "lvwscans"};  ///< in its place while scanning
+  controls::Label lblStatus{*this, "lblStatus"};
   // Beneath it, where the shop's settings want them.
   controls::Label lblRequested{*this, "lblRequested"};
   controls::Label lblStock{*this, "lblStock"};
@@ -118,6 +121,16 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   void FillPackTypeinList(std::int32_t itemId) override;
   void Calcpacktypeqty();
 
+  // Scanning.
+  void ToggleScanning();
+  bool IsScanning() const;
+  void ShowScanning();
+  void TakeScan(std::string_view code);
+  /// False when there is none to take back, and the form may close.
+  bool TakeBackScan();
+  void ScansChanged();
+  void ShowStatus(std::string_view told = {});
+
   // What is asked about the item.
   void PrepareAnswers();
   void ShowAnswers(std::int32_t itemId);
@@ -151,6 +164,7 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   ItemFetch objFetch_;
   std::shared_ptr<FrmFetch> frmFetch_;
   ItemAnswers answers_{Session()};
+  Scans scans_{Session(), objCommonDB_, lines_};
   bool firstActivation_ = true;
   bool showAvailability_ = false;
   bool fetching_ = false;   ///< a lookup of this form is up: its closing activates this form in mid-routine

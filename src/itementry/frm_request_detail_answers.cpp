@@ -16,7 +16,10 @@ constexpr int kAnswerHeight = 255;
 void frmRequestDetail::PrepareAnswers() {
   answers_.Use(ReadCounterSettings(Session()));
   const controls::Position list = lvwpacktype.Place();
-  if (answers_.AreWanted()) lvwpacktype.Move(list.left, list.top, list.width, kListHeightWithAnswers);
+  if (answers_.AreWanted()) {
+    for (controls::ListView* shown : {&lvwpacktype, &lvwscans})
+      shown->Move(list.left, list.top, list.width, kListHeightWithAnswers);
+  }
   int top = kFirstAnswerTop;
   for (controls::Label* label : {&lblRequested, &lblStock, &lblExplained}) {
     label->Move(list.left, top, list.width, kAnswerHeight);

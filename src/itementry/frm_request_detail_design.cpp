@@ -32,7 +32,7 @@ frmRequestDetail::~frmRequestDetail() = default;
 
 void frmRequestDetail::Design() {
   SetCaption("Goods Request Details");
-  SetSize(10400, 6600);
+  SetSize(10400, 6900);
   SetKeyPreview(true);
   DesignOptions();
   DesignEntryFields();
@@ -85,6 +85,13 @@ void frmRequestDetail::DesignEntryFields() {
   lvwpacktype.AddColumn("ID", 900);
   lvwpacktype.AddColumn("Packing Type", 5700);
   lvwpacktype.AddColumn("Packs", 1800, controls::ColumnAlignment::Right);
+  lvwscans.Move(1380, 2790, 8900, 2880);
+  lvwscans.AddColumn("Code", 2100);
+  lvwscans.AddColumn("Item", 3900);
+  lvwscans.AddColumn("Amount", 1200, controls::ColumnAlignment::Right);
+  lvwscans.AddColumn("Total", 1200, controls::ColumnAlignment::Right);
+  lvwscans.SetVisible(false);
+  lblStatus.Move(120, 6540, 10160, 240);
 }
 
 void frmRequestDetail::DesignButtons() {
@@ -114,8 +121,9 @@ void frmRequestDetail::DesignTabOrder() {
                                                                               &txtavailqty,      &lblcomments,
                                                                               &txtreqcomments,   &cmdOk,
                                                                               &cmdCancel,        &lvwpacktype,
-                                                                              &cmdFirst,         &Cmdprev,
-                                                                              &cmdNext,          &cmdLast}) {
+                                                                              &lvwscans,         &cmdFirst,
+                                                                              &Cmdprev,          &cmdNext,
+                                                                              &cmdLast}) {
     control->SetTabIndex(index++);
   }
 }
@@ -143,7 +151,9 @@ void frmRequestDetail::WireButtons() {
   }
   On(cmdFetch.Click, "cmdFetch_Click", &frmRequestDetail::cmdFetch_Click);
   On(cmdOk.Click, "cmdOk_Click", &frmRequestDetail::cmdOk_Click);
-  On(cmdCancel.Click, "cmdCancel_Click", [this] { Unload(); });
+  On(cmdCancel.Click, "cmdCancel_Click", [this] {
+    if (!TakeBackScan()) Unload();
+  });
   On(cmdFirst.Click, "cmdFirst_Click", &frmRequestDetail::cmdFirst_Click);
   On(Cmdprev.Click, "Cmdprev_Click", &frmRequestDetail::Cmdprev_Click);
   On(cmdNext.Click, "cmdNext_Click", &frmRequestDetail::cmdNext_Click);

@@ -32,6 +32,8 @@ void frmRequestDetail::txtitemcode_KeyPress(int& character) {
   const std::string code(vb::Trim(txtitemcode.Text()));
   if (code.empty()) {
     EnterTo(cmdFetch, character);
+  } else if (IsScanning()) {
+    TakeScan(code);
   } else if (const auto found = FindTypedCode(code)) {
     TakeItem(*found);
   } else {

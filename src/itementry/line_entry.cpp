@@ -90,6 +90,7 @@ void frmRequestDetail::ClearForNextLine() {
   cboItem.SetEnabled(true);
   optStockoutitems.SetEnabled(true);
   optAvaingodnotinshop.SetEnabled(true);
+  ShowStatus();
   FocusFirstOf({&txtitemcode, &cboItem});
 }
 

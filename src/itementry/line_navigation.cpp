@@ -36,6 +36,8 @@ void frmRequestDetail::GoToLine(int line) {
   lngCurrentLine_ = line;
   lines_.GoTo(line);
   ShowLineToChange();
+  ShowScanning();  // who walks through the lines does not scan
+  ShowStatus();
 }
 
 void frmRequestDetail::ShowLineToChange() {

@@ -26,11 +26,15 @@ double QuantityTyped(std::string_view text) {
   return vb::Val(vb::Replace(text, ",", ""));
 }
 
+bool IsTooLarge(double quantity) {
+  return std::abs(quantity) >= kQuantityBeyondColumn;
+}
+
 std::string_view QuantityRefusal(const basGoodsRequest& session, std::string_view text) {
   const double quantity = QuantityTyped(text);
   if (quantity == 0) return "Enter quantity";
   if (session.gBlnIntegerQuantity && vb::InStr(text, ".") > 0) return "Only Integer Quantity is allowed";
-  if (std::abs(quantity) >= kQuantityBeyondColumn) return kQuantityTooLarge;
+  if (IsTooLarge(quantity)) return kQuantityTooLarge;
   return "";
 }
 

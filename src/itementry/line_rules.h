@@ -21,6 +21,9 @@ double ReadLineLimit(basGoodsRequest& session, CommonDb& db);
 /// The number that a typed quantity is; its commas separate thousands.
 double QuantityTyped(std::string_view text);
 
+/// Whether a quantity is beyond what a line holds.
+bool IsTooLarge(double quantity);
+
 /// Why a typed quantity is refused; empty when it is not.
 std::string_view QuantityRefusal(const basGoodsRequest& session, std::string_view text);
 

@@ -34,6 +34,9 @@ constexpr KeyHelp kEditor[] = {
 };
 
 constexpr KeyHelp kItemEntry[] = {
+    {"F8", "switches scanning on and off"},
+    {"Esc while scanning", "takes the last scan back; with none left it closes"},
+    {"+ or Ctrl+Enter in the quantity", "takes the line"},
     {"F3", "list of items of the option that is set"},
     {"Shift+F3", "search dialog over the same items"},
     {"Enter in the empty code box", "to the fetch button"},

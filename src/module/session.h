@@ -48,6 +48,8 @@ struct basGoodsRequest {
 
   double lineLimit = 0;  ///< how many lines a request may have, as it was read last; below 1 for any number, or not yet read
 
+  bool isScanning = false;  ///< item entry takes every scanned code as a line at once
+
   // Handed from form to form.
   std::string gStrEntryMode;  ///< "N" new request, "E" existing one
   std::int32_t gLngRequestID = 0;

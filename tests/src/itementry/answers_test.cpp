@@ -13,11 +13,12 @@ class Answers : public ItemEntryShop {
   /// A request of today over the item with id 1.
   void Requested(int requestId, std::string_view quantity, std::string_view cancelled = "0", std::string_view issued = "0") {
     const std::string id = std::to_string(requestId);
-    shop.Run("insert into mosGoodsRequestHeader(GRHrequestID,grhshopid,grhrequestno,grhrequestdate,GRHcancel,"
-             "grhIssuenotegenerated) values(" + id + ",1,'GR24/" + id + "','20240314'," + std::string(cancelled) + "," +
-             std::string(issued) + ")");
-    shop.Run("insert into mosGoodsRequestDetail(GRDDetailid,GRDshopID,GRDrequestID,GRDitemID,GRDgoodQty) values(1,1," + id + ",1," +
-             std::string(quantity) + ")");
+    shop.Run(
+        "insert into mosGoodsRequestHeader(GRHrequestID,grhshopid,grhrequestno,grhrequestdate,GRHcancel,"
+        "grhIssuenotegenerated) values(" +
+        id + ",1,'GR24/" + id + "','20240314'," + std::string(cancelled) + "," + std::string(issued) + ")");
+    shop.Run("insert into mosGoodsRequestDetail(GRDDetailid,GRDshopID,GRDrequestID,GRDitemID,GRDgoodQty) values(1,1," + id +
+             ",1," + std::string(quantity) + ")");
   }
 };
 
@@ -48,8 +49,10 @@ TEST_F(Answers, WhatIsOnItsWayIsToldWithOneStatement) {
     shop.log.Clear();
     Scan("KT1001");
     EXPECT_EQ(1u, shop.log.Starting("select d.GRDitemID").size());
-    EXPECT_EQ("Already requested: 1.500 in GR24/102 of 14/03/2024, 12.000 in GR24/101 of 14/03/2024||"
-              "on its way 13.5, free in godowns 120: 40", Told());
+    EXPECT_EQ(
+        "Already requested: 1.500 in GR24/102 of 14/03/2024, 12.000 in GR24/101 of 14/03/2024||"
+        "on its way 13.5, free in godowns 120: 40",
+        Told());
     Scan("KT1017");
     EXPECT_TRUE(Told().starts_with("||on its way 0, free in godowns")) << Told();
     Refused("Scan valid barcode ");
@@ -61,8 +64,11 @@ TEST_F(Answers, WhatIsOnItsWayIsToldWithOneStatement) {
   session.gStrEntryMode = "E";
   GivenLine(1, "3.000");
   Edit(1, [&] {
-    EXPECT_EQ("Already requested: 1.000 in GR24/108 of 14/03/2024, 1.000 in GR24/107 of 14/03/2024, 1.000 in GR24/106 of "
-              "14/03/2024 and 3 more", form->lblRequested.Caption()) << "the edited request is not told";
+    EXPECT_EQ(
+        "Already requested: 1.000 in GR24/108 of 14/03/2024, 1.000 in GR24/107 of 14/03/2024, 1.000 in GR24/106 of "
+        "14/03/2024 and 3 more",
+        form->lblRequested.Caption())
+        << "the edited request is not told";
   });
 }
 
