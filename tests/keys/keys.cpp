@@ -169,8 +169,8 @@ FormKeys ItemEntry() {
               {.key = "F8", .effect = Focus, .what = "Barcode:"},
               {.key = "Alt+F", .effect = Shows, .label = "Item:", .shows = kFirstLine},
               {.key = "Alt+X", .effect = Shows, .label = "Item:", .shows = "Dice, 5 pieces, 16 mm"},
-              {.key = "Alt+L", .effect = Shows, .label = "Item:", .shows = "Frying pan 20 cm"},
-              {.key = "Alt+P", .effect = Shows, .label = "Item:", .shows = "Jigsaw puzzle 100 pieces"},
+              {.key = "Alt+L", .effect = Shows, .label = "Item:", .shows = "Frying pan 24 cm"},
+              {.key = "Alt+P", .effect = Shows, .label = "Item:", .shows = "Frying pan 20 cm"},
               {.key = "Esc", .effect = Closes, .what = kEditor},
               {.key = "Alt+C", .effect = Closes, .what = kEditor},
           }};
