@@ -51,6 +51,23 @@ void ListItem::SetSubItem(int index, std::string_view text) {
   list_->Changed(Aspect::Items);
 }
 
+Color ListItem::CellForeColor(int column) const {
+  const auto place = static_cast<std::size_t>(column);
+  return place < colors_.size() ? colors_[place] : kDefaultColor;
+}
+
+void ListItem::SetCellForeColor(int column, Color color) {
+  if (CellForeColor(column) == color) return;
+  if (column != 0) CheckIndex(column);
+  colors_.resize(static_cast<std::size_t>(list_->ColumnCount()), kDefaultColor);
+  colors_[static_cast<std::size_t>(column)] = color;
+  list_->Changed(Aspect::Items);
+}
+
+void ListItem::SetForeColor(Color color) {
+  for (int column = 0; column < list_->ColumnCount(); ++column) SetCellForeColor(column, color);
+}
+
 const std::string& ListItem::SubItemToolTip(int index) const {
   CheckIndex(index);
   return TextAt(toolTips_, index);

@@ -27,6 +27,12 @@ class ListItem {
   void SetSubItem(int index, std::string_view text);
   const std::string& SubItemToolTip(int index) const;
   void SetSubItemToolTip(int index, std::string_view text);
+  /// Of a cell, columns counting from 0 (the line's own text); kDefaultColor is the list's.
+  Color CellForeColor(int column) const;
+  void SetCellForeColor(int column, Color color);
+  /// Of every cell.
+  void SetForeColor(Color color);
+  bool IsColored() const { return !colors_.empty(); }
   bool Checked() const { return checked_; }
   /// By code: no event.
   void SetChecked(bool checked);
@@ -42,6 +48,7 @@ class ListItem {
   std::string text_;
   std::vector<std::string> subItems_;
   std::vector<std::string> toolTips_;
+  std::vector<Color> colors_;  ///< by column; empty where the line has none of its own
   std::string tag_;
   std::string key_;
   bool checked_ = false;

@@ -221,6 +221,12 @@ const Control::LateMember* ListView::FindMember(std::string_view name) const {
       {"Checked", [](V& self, Arguments& a) { return late::Value(self.Item(a[0].ToInt32()).Checked()); },
        [](V& self, Arguments& a) { self.Item(a[0].ToInt32()).SetChecked(a[1].ToBool()); }, 1, 1},
       {"SubItem", CellOf, SetCellOf, 2, 2},
+      {"CellForeColor",
+       [](V& self, Arguments& a) { return members::Out(self.Item(a[0].ToInt32()).CellForeColor(a[1].ToInt32())); },
+       [](V& self, Arguments& a) {
+         self.Item(a[0].ToInt32()).SetCellForeColor(a[1].ToInt32(), static_cast<Color>(a[2].ToInt32()));
+       },
+       2, 2},
       {"ColumnHeader", [](V& self, Arguments& a) { return late::Value(self.Column(a[0].ToInt32()).text); },
        [](V& self, Arguments& a) { self.SetColumnText(a[0].ToInt32(), a[1].ToText()); }, 1, 1},
       {"ColumnWidth", [](V& self, Arguments& a) { return members::Out(self.Column(a[0].ToInt32()).width); },

@@ -86,6 +86,7 @@ void frmRequest::LoadNewRequest() {
   if (!takenUp_ &&
       Tell("Do you want to add stock out items?", controls::kYesNo + controls::kInformation) == controls::Answer::Yes) {
     Trap("ProposeStockOutItems", [this] { ProposeStockOutItems(Session(), objCommonDB_, lines_); });
+    ReviewProposal();
   }
 }
 

@@ -96,6 +96,10 @@ class frmRequest : public ModuleForm, private SavePort {
 
   void Form_Load();
   void LoadNewRequest();
+  /// Whole packs, items that are already requested, the limit of lines: where the shop's settings want it.
+  void ReviewProposal();
+  void AskAboutRequested();
+  void TellOfLimit();
   void RepeatLines(std::int32_t requestId);
   void LoadExistingRequest();
   void Form_Activate();

@@ -15,8 +15,8 @@ enum PackingTypeColumn : int { kPackingName = 1, kPackingCount = 2 };
 /// an error no other item's packings stand there. Database errors are raised.
 void FillPackingTypes(CommonDb& db, controls::ListView& list, std::int32_t itemId);
 
-/// Shows how many packs of each listed type the quantity makes. A capacity of 0 (error 11) or a missing one (error 94) is raised
-/// at its line; the lines below keep their counts.
+/// Shows how many packs of each listed type the quantity makes, one that is not whole in red. A capacity of 0 (error 11) or a
+/// missing one (error 94) is raised at its line; the lines below keep their counts.
 void CountPacks(CommonDb& db, controls::ListView& list, std::int32_t itemId, double quantity);
 
 }  // namespace goods

@@ -32,7 +32,8 @@ std::string Scans::Take(std::string_view code) {
   const double amount = AmountOf(code, item->itemId);
   const int line = LineOf(item->itemId);
   const double total = (line > 0 ? lines_.Quantity(line) : 0) + amount;
-  if (const std::string_view refusal = QuantityRefusal(session_, vb::NumberText(amount)); !refusal.empty()) return std::string(refusal);
+  if (const std::string_view refusal = QuantityRefusal(session_, vb::NumberText(amount)); !refusal.empty())
+    return std::string(refusal);
   if (IsTooLarge(total)) return std::string(kQuantityTooLarge);
   if (line > 0) {
     lines_.SetQuantity(line, total);

@@ -26,6 +26,7 @@ Canvas DrawOption(const controls::OptionButton& option);
 Canvas DrawCheckBox(const controls::CheckBox& box);
 Canvas DrawGrid(const controls::FlexGrid& grid, int columns, int twipsPerColumn);
 bool HasRedRows(const controls::FlexGrid& grid);
+bool HasRedLines(const controls::ListView& list);
 Canvas DrawList(const controls::ListView& list, int columns, int twipsPerColumn);
 
 }  // namespace console

@@ -34,7 +34,8 @@ std::string Legend(const controls::Form& form) {
   explain(any([](const controls::Control& control) { return MarkOf(control) == "~"; }), "~ disabled");
   explain(any([](const controls::Control& control) {
             const auto* grid = controls::As<controls::FlexGrid>(&control);
-            return grid && HasRedRows(*grid);
+            const auto* list = controls::As<controls::ListView>(&control);
+            return (grid && HasRedRows(*grid)) || (list && HasRedLines(*list));
           }),
           "! red");
   return legend;

@@ -27,6 +27,19 @@ RowWindow ShownRows(const controls::FlexGrid& grid) {
   return WindowAround(grid.Row(), grid.TopRow(), grid.FixedRows(), grid.Rows() - 1, RoomFor(grid));
 }
 
+RowWindow ShownLines(const controls::ListView& list) {
+  return WindowAround(list.SelectedItem(), list.VisibleLine(), 1, list.Count(), RoomFor(list));
+}
+
+/// Whether a cell of the line is red.
+bool IsRed(const controls::ListView& list, int line) {
+  const controls::ListItem& item = list.Item(line);
+  for (int column = 0; item.IsColored() && column < list.ColumnCount(); ++column) {
+    if (item.CellForeColor(column) == controls::kRed) return true;
+  }
+  return false;
+}
+
 std::string GridRowMarks(const controls::FlexGrid& grid, long row) {
   std::string marks = grid.SelectedRows().Has(row) ? " >" : "  ";
   return marks + (IsRed(grid, row) ? "!" : " ");
@@ -40,7 +53,8 @@ std::string HeadingOf(const controls::FlexGrid& grid, long col) {
 }
 
 std::string ListLineMarks(const controls::ListView& list, int line) {
-  std::string marks = line == list.SelectedItem() ? " > " : "   ";
+  std::string marks = line == list.SelectedItem() ? " >" : "  ";
+  marks += IsRed(list, line) ? '!' : ' ';
   if (list.CheckBoxes()) marks += list.Item(line).Checked() ? "[x] " : "[ ] ";
   return marks;
 }
@@ -51,6 +65,14 @@ bool HasRedRows(const controls::FlexGrid& grid) {
   const RowWindow window = ShownRows(grid);
   for (long row = window.first; row <= window.last; ++row) {
     if (IsRed(grid, row)) return true;
+  }
+  return false;
+}
+
+bool HasRedLines(const controls::ListView& list) {
+  const RowWindow window = ShownLines(list);
+  for (long line = window.first; line <= window.last; ++line) {
+    if (IsRed(list, static_cast<int>(line))) return true;
   }
   return false;
 }
@@ -80,7 +102,7 @@ Canvas DrawList(const controls::ListView& list, int columns, int twipsPerColumn)
     const controls::ColumnHeader& column = list.Column(index);
     table.columns.push_back({column.text, InCharacters(column.width, twipsPerColumn), AlignmentOf(column.alignment)});
   }
-  const RowWindow window = WindowAround(list.SelectedItem(), list.VisibleLine(), 1, list.Count(), RoomFor(list));
+  const RowWindow window = ShownLines(list);
   for (long line = window.first; line <= window.last; ++line) {
     const auto number = static_cast<int>(line);
     Table::Row shown{ListLineMarks(list, number), {list.Item(number).Text()}};

@@ -88,8 +88,28 @@ void ListViewView::RightButtonAt(POINT point) {
   if (TakeFocus() && line > 0 && line <= list_.Count()) list_.ClickItem(line);
 }
 
+LRESULT ListViewView::Paint(NMLVCUSTOMDRAW& draw) const {
+  const int line = static_cast<int>(draw.nmcd.dwItemSpec) + 1;
+  switch (draw.nmcd.dwDrawStage) {
+    case CDDS_PREPAINT:
+      return CDRF_NOTIFYITEMDRAW;
+    case CDDS_ITEMPREPAINT:
+      return line <= list_.Count() && list_.Item(line).IsColored() ? CDRF_NOTIFYSUBITEMDRAW : CDRF_DODEFAULT;
+    case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
+      if (line > list_.Count()) return CDRF_DODEFAULT;
+      const controls::Color color = list_.Item(line).CellForeColor(draw.iSubItem);
+      draw.clrText = ScreenColor(color == controls::kDefaultColor ? list_.ForeColor() : color);
+      return CDRF_NEWFONT;
+    }
+    default:
+      return CDRF_DODEFAULT;
+  }
+}
+
 std::optional<LRESULT> ListViewView::OnNotify(NMHDR& header) {
   switch (header.code) {
+    case NM_CUSTOMDRAW:
+      return Paint(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
     case LVN_GETDISPINFOW:
       Describe(reinterpret_cast<NMLVDISPINFOW&>(header).item);
       return 0;

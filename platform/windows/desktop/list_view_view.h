@@ -27,6 +27,7 @@ class ListViewView : public VirtualListView {
   void ShowLayout();
   void ShowLines();
   void Describe(LVITEMW& item) const;
+  LRESULT Paint(NMLVCUSTOMDRAW& draw) const;
   /// What is under a point of the window.
   struct Place {
     int line = 0;        ///< counts from 1; 0 where there is none

@@ -14,9 +14,15 @@ TEST_F(Packing, TheListShowsHowManyPacksTheQuantityMakes) {
     EXPECT_EQ(Packings(), "Single= Inner box= Dozen=") << "not while typing";
     support::Press(form->txtQuantity, "Enter");
     EXPECT_EQ(Packings(), "Single=25.00 Inner box=4.17 Dozen=2.08");
+    const auto color = [&](int line) { return form->lvwpacktype.Item(line).CellForeColor(2); };
+    EXPECT_EQ(color(1), controls::kDefaultColor);
+    EXPECT_EQ(color(3), controls::kRed) << "not whole";
+    EXPECT_EQ(form->lvwpacktype.Item(3).SubItemToolTip(2), "24 or 36");
     support::Enter(form->txtQuantity, "0");
     support::Press(form->txtQuantity, "Enter");
     EXPECT_EQ(Packings(), "Single=0.00 Inner box=0.00 Dozen=0.00");
+    EXPECT_EQ(color(3), controls::kDefaultColor);
+    EXPECT_EQ(form->lvwpacktype.Item(3).SubItemToolTip(2), "");
   });
 }
 

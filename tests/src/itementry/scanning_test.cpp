@@ -9,8 +9,9 @@ using support::Press;
 class Scanning : public ItemEntryShop {
  protected:
   Scanning() {
-    shop.Run("update aItemPackingDetail set packingbarcode='DOZEN' where itemid=12 and packingtypeid="
-             "(select packingtypeid from aPackingType where PackingTypeName='Dozen')");
+    shop.Run(
+        "update aItemPackingDetail set packingbarcode='DOZEN' where itemid=12 and packingtypeid="
+        "(select packingtypeid from aPackingType where PackingTypeName='Dozen')");
   }
   void AddScanning(Work work) {
     Add([&] {
@@ -45,7 +46,8 @@ TEST_F(Scanning, EachCodeIsALineAtOnceAndOnceMoreAddsToIt) {
     Scan("KT1001");
     EXPECT_EQ("1:KT1001=2.000 2:DOZEN=12.000 ", Quantities());
     EXPECT_EQ("KT1001 Frying pan 20 cm 1 2; DOZEN " + editor->lvwrequest.Item(2).SubItem(goods::kLineItemName) +
-                  " 12 12; KT1001 Frying pan 20 cm 1 1", Listed());
+                  " 12 12; KT1001 Frying pan 20 cm 1 1",
+              Listed());
     EXPECT_EQ("", form->txtitemcode.Text());
     EXPECT_TRUE(form->txtitemcode.HasFocus());
     EXPECT_TRUE(IsMarkedChanged());
@@ -61,15 +63,15 @@ TEST_F(Scanning, EachCodeIsALineAtOnceAndOnceMoreAddsToIt) {
 }
 
 TEST_F(Scanning, ARefusalSoundsTheAlarmAndWaitsForNoAnswer) {
-  shop.Run("update aShops set MaxRequestItemsToHQ=1 where shopid=1;update aPackingTypeCapacityDetail set quantity=2.5 where "
-           "packingtypeid=(select packingtypeid from aPackingType where PackingTypeName='Dozen')");
+  shop.Run(
+      "update aShops set MaxRequestItemsToHQ=1 where shopid=1;update aPackingTypeCapacityDetail set quantity=2.5 where "
+      "packingtypeid=(select packingtypeid from aPackingType where PackingTypeName='Dozen')");
   session.gBlnIntegerQuantity = true;
   GivenLine(1, "999999999999998.000");
   AddScanning([&] {
-    const std::vector<std::pair<std::string, std::string>> refused = {
-        {"nothing", "Scan valid barcode "},
-        {"DOZEN", "Only Integer Quantity is allowed"},
-        {"KT1002", "No more items can be Added in this request"}};
+    const std::vector<std::pair<std::string, std::string>> refused = {{"nothing", "Scan valid barcode "},
+                                                                      {"DOZEN", "Only Integer Quantity is allowed"},
+                                                                      {"KT1002", "No more items can be Added in this request"}};
     int alarms = shop.desktop.alarms;
     for (const auto& [code, reason] : refused) {
       Scan(code);
@@ -79,7 +81,8 @@ TEST_F(Scanning, ARefusalSoundsTheAlarmAndWaitsForNoAnswer) {
     }
     Scan("KT1001");
     Scan("KT1001");
-    EXPECT_EQ("Line 2, new - KT1001: Quantity is too large: at most 15 digits before the decimal point", form->lblStatus.Caption());
+    EXPECT_EQ("Line 2, new - KT1001: Quantity is too large: at most 15 digits before the decimal point",
+              form->lblStatus.Caption());
     EXPECT_EQ("1:KT1001=999999999999999.000 ", Quantities());
     shop.log.FailAt(1);
     ExpectError("Connection broken by the test", "txtitemcode_KeyPress", -2147217900);
