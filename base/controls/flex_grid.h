@@ -89,6 +89,14 @@ class FlexGrid : public Control {
   Color ForeColorSel() const;
   void SetForeColorSel(Color color);
 
+  /// A row that a person has ticked; it keeps its tick when the rows are sorted. Clear takes it off.
+  bool IsTicked(long row) const;
+  void SetTicked(long row, bool ticked);
+  /// The ticked rows from top to bottom.
+  std::vector<long> TickedRows() const;
+  /// A cell's text as desktops show it: "[x] " precedes the first column with a width where the row is ticked.
+  std::string ShownText(long row, long col) const;
+
   /// Sorts whole rows (with their colours) by the columns Col..ColSel from left to right: the rows Row..RowSel, or all but the
   /// fixed ones when those are equal. Stable. The current cell keeps its place (row number).
   void Sort(GridSort kind);
@@ -146,6 +154,7 @@ class FlexGrid : public Control {
     std::vector<std::string> cells;                   // may be shorter than the columns: the rest is empty
     std::unique_ptr<std::vector<CellColors>> colors;  // only where single cells have colours
     Color rowFore = kDefaultColor;                    // of the cells without one of their own
+    bool isTicked = false;
   };
   struct GridColumn {
     int width = -1;

@@ -163,4 +163,32 @@ void FlexGrid::SetForeColorSel(Color color) {
   if (std::exchange(foreColorSel_, color) != color) Changed(Aspect::Selection);
 }
 
+bool FlexGrid::IsTicked(long row) const {
+  CheckCell(row, 0);
+  return rows_[static_cast<std::size_t>(row)].isTicked;
+}
+
+void FlexGrid::SetTicked(long row, bool ticked) {
+  CheckCell(row, 0);
+  rows_[static_cast<std::size_t>(row)].isTicked = ticked;
+  Changed(Aspect::Items);
+}
+
+std::vector<long> FlexGrid::TickedRows() const {
+  std::vector<long> ticked;
+  for (long row = fixedRows_; row < Rows(); ++row) {
+    if (rows_[static_cast<std::size_t>(row)].isTicked) ticked.push_back(row);
+  }
+  return ticked;
+}
+
+std::string FlexGrid::ShownText(long row, long col) const {
+  const std::string& text = TextMatrix(row, col);
+  if (!IsTicked(row)) return text;
+  for (long before = 0; before < col; ++before) {
+    if (ColWidth(before) != 0) return text;
+  }
+  return ColWidth(col) != 0 ? "[x] " + text : text;
+}
+
 }  // namespace controls

@@ -27,8 +27,9 @@ void frmRequest::AskAboutRequested() {
     if (requested.contains(lines_.ItemId(line))) found.push_back(line);
   }
   if (found.empty()) return;
-  const std::string question = std::to_string(found.size()) + " of " + std::to_string(lines_.Count()) +
-                               " proposed items " + (found.size() == 1 ? "is already requested. Leave it out?" : "are already requested. Leave them out?");
+  const std::string question =
+      std::to_string(found.size()) + " of " + std::to_string(lines_.Count()) + " proposed items " +
+      (found.size() == 1 ? "is already requested. Leave it out?" : "are already requested. Leave them out?");
   if (Tell(question, controls::kYesNo + controls::kQuestion) == controls::Answer::Yes) {
     for (auto line = found.rbegin(); line != found.rend(); ++line) lines_.Remove(*line);
     lines_.Renumber();

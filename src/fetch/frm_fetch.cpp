@@ -1,5 +1,6 @@
 #include "src/fetch/frm_fetch.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -288,12 +289,44 @@ void FrmFetch::flexMaster_KeyPress(int& character) {
   if (character == controls::kCharReturn) Confirm();
 }
 
+void FrmFetch::flexMaster_KeyDown(int& keyCode, int shift) {
+  if (keyCode == controls::kKeySpace && shift == 0) {
+    const controls::FlexGrid::RowRange selected = flexMaster.SelectedRows();
+    const bool tick = !flexMaster.IsTicked(flexMaster.Row());
+    for (long row = std::max(selected.first, flexMaster.FixedRows()); row <= selected.last; ++row) Tick(row, tick);
+  } else if (keyCode == 'A' && shift == controls::kCtrl) {
+    for (long row = flexMaster.FixedRows(); row < flexMaster.Rows(); ++row) Tick(row, true);
+  }
+}
+
+// The empty row of a list that has found nothing holds no item.
+void FrmFetch::Tick(long row, bool ticked) {
+  flexMaster.SetTicked(row, ticked && flexMaster.Cols() > kPartCode && !flexMaster.TextMatrix(row, kItemCode).empty());
+}
+
+PickedItem FrmFetch::ItemOf(long row) const {
+  return {vb::CLng(vb::Val(flexMaster.TextMatrix(row, kItemId))), flexMaster.TextMatrix(row, kItemCode),
+          flexMaster.TextMatrix(row, kItemDescription), flexMaster.TextMatrix(row, kPartCode)};
+}
+
+bool FrmFetch::TakeTicked() {
+  std::vector<PickedItem> items;
+  for (const long row : flexMaster.TickedRows()) items.push_back(ItemOf(row));
+  if (items.empty()) return false;
+  const GridHourglass gridHourglass(flexMaster);
+  itemEntry_.TakeManyItems(items);
+  return true;
+}
+
 void FrmFetch::Confirm() {
+  if (TakeTicked()) {
+    Unload();
+    return;
+  }
   const long row = flexMaster.Row();
   if (flexMaster.TextMatrix(row, kItemCode).empty()) return;
   const GridHourglass gridHourglass(flexMaster);
-  PickedItem item{vb::CLng(vb::Val(flexMaster.TextMatrix(row, kItemId))), flexMaster.TextMatrix(row, kItemCode),
-                  flexMaster.TextMatrix(row, kItemDescription), flexMaster.TextMatrix(row, kPartCode)};
+  PickedItem item = ItemOf(row);
   if (item.itemId > 0) {
     bool taken = itemEntry_.TakeItemCode(item);
     if (itemEntry_.SelectedList() == ItemListMode::StockOut) {

@@ -64,6 +64,11 @@ class FrmFetch : public ModuleForm {
   int SortEntryOf(long column) const;
   void flexMaster_HeadingClick(long column);
   void flexMaster_KeyPress(int& character);
+  void flexMaster_KeyDown(int& keyCode, int shift);
+  void Tick(long row, bool ticked);
+  /// False where nothing is ticked.
+  bool TakeTicked();
+  PickedItem ItemOf(long row) const;
   void Confirm();
 
   void ShowEmptyGrid();

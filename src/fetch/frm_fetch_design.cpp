@@ -104,6 +104,7 @@ void FrmFetch::WireEvents() {
     On(control->KeyPress, control->Name() + "_KeyPress", [this](int& character) { SendTabOnEnter(*this, character); });
   }
 
+  On(flexMaster.KeyDown, "flexMaster_KeyDown", &FrmFetch::flexMaster_KeyDown);
   On(flexMaster.KeyPress, "flexMaster_KeyPress", &FrmFetch::flexMaster_KeyPress);
   On(flexMaster.HeadingClick, "flexMaster_HeadingClick", &FrmFetch::flexMaster_HeadingClick);
   On(flexMaster.DblClick, "flexMaster_DblClick", &FrmFetch::Confirm);

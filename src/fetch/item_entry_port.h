@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace goods {
 
@@ -28,6 +29,9 @@ class ItemEntryPort {
   virtual bool TakeItemCode(const PickedItem& item) = 0;
   /// Puts an item of the stock-out list into the form unchanged, without a look-up.
   virtual void TakeStockOutItem(const PickedItem& item) = 0;
+  /// Adds a line for each of the items with its reorder quantity, and tells the user at the end how many there are and which were
+  /// refused.
+  virtual void TakeManyItems(const std::vector<PickedItem>& items) = 0;
   /// Shows the item's packing types. Errors are reported, not raised.
   virtual void FillPackTypeinList(std::int32_t itemId) = 0;
 };

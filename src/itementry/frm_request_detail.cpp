@@ -169,12 +169,16 @@ void frmRequestDetail::cboItem_Click() {
   if (txtavailqty.Visible()) ShowAvailableQuantity(itemId);
 }
 
-void frmRequestDetail::ProposeReorderQuantity(std::int32_t itemId) {
+std::string frmRequestDetail::ReorderQuantity(std::int32_t itemId) {
   objCommonDB_.strTableName("aShopItemDetail");
-  txtQuantity.SetText(objCommonDB_
-                          .fnReturnField("reorderquantity", "shopid=" + std::to_string(Session().gIntShopID) +
-                                                                " and itemid=" + std::to_string(itemId))
-                          .TextOrEmpty());
+  return objCommonDB_
+      .fnReturnField("reorderquantity",
+                     "shopid=" + std::to_string(Session().gIntShopID) + " and itemid=" + std::to_string(itemId))
+      .TextOrEmpty();
+}
+
+void frmRequestDetail::ProposeReorderQuantity(std::int32_t itemId) {
+  txtQuantity.SetText(ReorderQuantity(itemId));
   txtQuantity.SelectAll();  // where the focus is there already, too, what is typed takes the place of the proposal
 }
 

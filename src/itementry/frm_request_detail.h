@@ -118,6 +118,10 @@ class frmRequestDetail : public ModuleForm, private ItemEntryPort {
   ItemListMode SelectedList() const override;
   bool TakeItemCode(const PickedItem& item) override;
   void TakeStockOutItem(const PickedItem& item) override;
+  void TakeManyItems(const std::vector<PickedItem>& items) override;
+  /// Why the item is refused; empty when it became a line.
+  std::string TakeOneOfMany(const PickedItem& item, double limit);
+  std::string ReorderQuantity(std::int32_t itemId);
   void FillPackTypeinList(std::int32_t itemId) override;
   void Calcpacktypeqty();
 

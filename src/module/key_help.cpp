@@ -46,7 +46,8 @@ constexpr KeyHelp kItemEntry[] = {
 constexpr KeyHelp kFetch[] = {
     {"Enter in the filter", "lists"},
     {"Up or Down in the filter, Ctrl+D anywhere", "into the list"},
-    {"Enter in the list, double click, Alt+O", "takes the item"},
+    {"Enter in the list, double click, Alt+O", "takes the item, or all that are ticked"},
+    {"Space, Ctrl+A in the list", "ticks the item, all items"},
     {"typing in the search box",
      "goes to the first item that begins so, in the column chosen beside it (the description where none is chosen)"},
     {"click on a heading", "sorts; a second click turns the order round"},

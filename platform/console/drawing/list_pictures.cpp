@@ -87,7 +87,7 @@ Canvas DrawGrid(const controls::FlexGrid& grid, int columns, int twipsPerColumn)
   const RowWindow window = ShownRows(grid);
   for (long row = window.first; row <= window.last; ++row) {
     Table::Row shown{GridRowMarks(grid, row), {}};
-    for (long col = 0; col < grid.Cols(); ++col) shown.cells.push_back(grid.TextMatrix(row, col));
+    for (long col = 0; col < grid.Cols(); ++col) shown.cells.push_back(grid.ShownText(row, col));
     table.rows.push_back(std::move(shown));
   }
   table.above = window.first - grid.FixedRows();

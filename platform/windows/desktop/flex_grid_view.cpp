@@ -160,7 +160,7 @@ std::optional<LRESULT> FlexGridView::OnNotify(NMHDR& header) {
       LVITEMW& item = reinterpret_cast<NMLVDISPINFOW&>(header).item;
       const long row = RowOf(item.iItem);
       if ((item.mask & LVIF_TEXT) != 0 && row < grid_.Rows() && item.iSubItem < grid_.Cols()) {
-        CopyText(grid_.TextMatrix(row, item.iSubItem), item);
+        CopyText(grid_.ShownText(row, item.iSubItem), item);
       }
       return 0;
     }

@@ -61,10 +61,13 @@ TEST_F(ProposalReview, QuantitiesAreWholePacksOfTheSmallestPacking) {
   shop.Run("update aShops set MaxRequestItemsToHQ=1");
   shop.Run("insert into aPackingType(PackingTypeID,PackingTypeName) values(71,'Tray'),(72,'Crate')");
   shop.Run("insert into aItemPackingDetail(ItemID,PackingTypeID,Active) values(1,71,1),(1,72,1)");
-  shop.Run("insert into aPackingTypeCapacityDetail(PackingTypeID,UnitsID,Quantity) select 71,unitsid,10 from aItem where itemid=1");
-  shop.Run("insert into aPackingTypeCapacityDetail(PackingTypeID,UnitsID,Quantity) select 72,unitsid,40 from aItem where itemid=1");
-  Propose({{"These are beyond the shop's limit of 1 lines:\r\nTEA Tea, 0.000", Answer::Ok}},
-          [&] { EXPECT_EQ((Texts{"1|CUP|30.000|1", "2|TEA|0.000|3"}), Lines()); });
+  shop.Run(
+      "insert into aPackingTypeCapacityDetail(PackingTypeID,UnitsID,Quantity) select 71,unitsid,10 from aItem where itemid=1");
+  shop.Run(
+      "insert into aPackingTypeCapacityDetail(PackingTypeID,UnitsID,Quantity) select 72,unitsid,40 from aItem where itemid=1");
+  Propose({{"These are beyond the shop's limit of 1 lines:\r\nTEA Tea, 0.000", Answer::Ok}}, [&] {
+    EXPECT_EQ((Texts{"1|CUP|30.000|1", "2|TEA|0.000|3"}), Lines());
+  });
 }
 
 TEST_F(ProposalReview, AnErrorIsReportedAndTheProposalStays) {

@@ -26,6 +26,9 @@ class ItemEntryDiary : public goods::ItemEntryPort {
   void TakeStockOutItem(const goods::PickedItem& item) override {
     lines.push_back("item " + std::to_string(item.itemId) + " " + item.itemDescription + " [" + item.partCode + "]");
   }
+  void TakeManyItems(const std::vector<goods::PickedItem>& items) override {
+    for (const goods::PickedItem& item : items) lines.push_back("one of many " + item.itemCode);
+  }
   void FillPackTypeinList(std::int32_t itemId) override { lines.push_back("packings " + std::to_string(itemId)); }
 };
 

@@ -116,5 +116,55 @@ TEST_F(FetchDialog, ItIsClosedWhereFetchingIs) {
   });
 }
 
+TEST_F(FetchDialog, TickedItemsAreTakenTogetherWithTheirReorderQuantities) {
+  shop.Run("update aShops set MaxRequestItemsToHQ=5 where shopid=1");
+  GivenLine(1, "3.000");
+  beforeOk = [&](goods::FrmFetch& dialog) {
+    support::Press(dialog.flexMaster, "Ctrl+A");
+    const long all = dialog.flexMaster.Rows() - 1;
+    EXPECT_EQ(static_cast<std::size_t>(all), dialog.flexMaster.TickedRows().size());
+    dialog.flexMaster.SetRow(all);
+    support::Press(dialog.flexMaster, "Space");
+    EXPECT_EQ("KT1003", dialog.flexMaster.ShownText(all, goods::FrmFetch::kItemCode));
+    EXPECT_EQ("[x] KT1002", dialog.flexMaster.ShownText(all - 1, goods::FrmFetch::kItemCode));
+    EXPECT_EQ("KT1002", dialog.flexMaster.TextMatrix(all - 1, goods::FrmFetch::kItemCode));
+    shop.desktop.ExpectMessage("1 line added.\r\n1 line refused:\r\n\r\nKT1001 Frying pan 20 cm: Already Exists");
+  };
+  Add([&] {
+    int changes = 0;
+    form->LineEntered.Wire([&] { ++changes; });
+    Pick("Frying pan 2");
+    EXPECT_EQ(2, LineCount());
+    EXPECT_EQ("2|KT1002|Frying pan 24 cm", Line(2).substr(0, 25));
+    EXPECT_EQ(1, changes) << "they can be taken back as one";
+    EXPECT_TRUE(IsMarkedChanged());
+    EXPECT_EQ("", ChosenItem());
+  });
+}
+
+TEST_F(FetchDialog, ManyItemsStopAtTheLimitAndAtAnErrorOfTheServer) {
+  shop.Run("update aShops set MaxRequestItemsToHQ=2 where shopid=1");
+  beforeOk = [&](goods::FrmFetch& dialog) {
+    support::Press(dialog.flexMaster, "Ctrl+A");
+    shop.desktop.ExpectMessage(
+        "2 lines added.\r\n1 line refused:\r\n\r\nKT1003 Frying pan 28 cm: No more items can be Added in this "
+        "request");
+  };
+  Add([&] {
+    Pick("Frying pan 2");
+    EXPECT_EQ(2, LineCount());
+  });
+  beforeOk = [&](goods::FrmFetch& dialog) {
+    support::Press(dialog.flexMaster, "Ctrl+A");
+    shop.log.FailAt(1);
+    shop.desktop.ExpectMessage(
+        "0 lines added.\r\n3 lines refused:\r\n\r\nKT1001 Frying pan 20 cm: Connection broken by the test"
+        "\r\nKT1002 Frying pan 24 cm: Connection broken by the test\r\nKT1003 Frying pan 28 cm: Connection "
+        "broken by the test");
+    shop.desktop.ExpectMessage("Connection broken by the test\n(FrmFetch CmdOk_Click, -2147217900)");
+  };
+  Add([&] { Pick("Frying pan 2"); });
+}
+
 }  // namespace
 }  // namespace itementry_test
