@@ -7,6 +7,7 @@
 
 #include "base/vb/text.h"
 #include "bench/bench_shop.h"
+#include "bench/measurements.h"
 #include "bench/raw_database.h"
 #include "bench/stopwatch.h"
 #include "src/editor/frm_request.h"
@@ -270,6 +271,7 @@ class NoItemEntry : public goods::ItemEntryPort {
   goods::ItemListMode SelectedList() const override { return goods::ItemListMode::AllInShop; }
   bool TakeItemCode(const goods::PickedItem&) override { return true; }
   void TakeStockOutItem(const goods::PickedItem&) override {}
+  void TakeManyItems(const std::vector<goods::PickedItem>&) override {}
   void FillPackTypeinList(std::int32_t) override {}
 };
 
@@ -352,9 +354,10 @@ struct Measurement {
   void (*run)();
 };
 
-constexpr Measurement kMeasurements[] = {
-    {"register", MeasureRegister},   {"save", MeasureSaves},        {"open", MeasureOpening}, {"proposal", MeasureProposal},
-    {"typeahead", MeasureTypeAhead}, {"fetch", MeasureFetchDialog}, {"lookup", MeasureLookup}};
+constexpr Measurement kMeasurements[] = {{"register", MeasureRegister},   {"save", MeasureSaves},
+                                         {"open", MeasureOpening},        {"proposal", MeasureProposal},
+                                         {"typeahead", MeasureTypeAhead}, {"fetch", MeasureFetchDialog},
+                                         {"lookup", MeasureLookup},       {"counter", bench::MeasureCounter}};
 
 }  // namespace
 
