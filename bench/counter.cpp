@@ -136,8 +136,10 @@ int ByRepeating(Counter& counter, const Codes& codes) {
       "insert into mosGoodsRequestHeader(GRHrequestID,grhshopid,grhrequestno,grhrequestdate,grhrequesttype,GRHcancel) "
       "values(900,1,'GR24/900','20240315','G',0)");
   for (const std::string& code : codes) {
-    counter.shop.database->RunScript("insert into mosGoodsRequestDetail(GRDDetailid,GRDshopID,GRDrequestID,GRDitemID,GRDgoodQty) "
-                                     "select itemid,1,900,itemid,2 from aItem where itemcode='" + code + "'");
+    counter.shop.database->RunScript(
+        "insert into mosGoodsRequestDetail(GRDDetailid,GRDshopID,GRDrequestID,GRDitemID,GRDgoodQty) "
+        "select itemid,1,900,itemid,2 from aItem where itemcode='" +
+        code + "'");
   }
   Person person;
   int lines = 0;

@@ -1,3 +1,8 @@
+#include <random>
+#include <set>
+
+#include "src/counter/pasted_table.h"
+#include "src/editor/pasted_lines.h"
 #include "tests/src/editor/editor_shop.h"
 
 namespace editor_test {
@@ -104,6 +109,79 @@ TEST_F(Pasting, ARequestThatCanOnlyBeLookedAtTakesNothing) {
     desktop.PutOnClipboard("JAR\t1");
     Press(editor->lvwrequest, "Ctrl+V");
     EXPECT_EQ(2U, Lines().size());
+  });
+}
+
+/// Tables as other programs write them, made up at random, and what is to come of them.
+class RandomTable {
+ public:
+  explicit RandomTable(unsigned seed) : random_(seed) {
+    separator_ = "\t;,"[Pick(3)];
+    if (Pick(3) == 0) text_ = Row({"Code", "Quantity", "Remarks"});
+    for (int rows = Pick(12); rows > 0; --rows) AddRow();
+  }
+  const std::string& Text() const { return text_; }
+  /// The lines that are added as "code quantity", and the codes of the rows that are refused.
+  std::vector<std::string> added, refused;
+
+ private:
+  int Pick(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
+  std::string Row(std::vector<std::string> cells) {
+    std::string row;
+    for (const std::string& cell : cells) row += (row.empty() ? "" : std::string(1, separator_)) + cell;
+    return row + (Pick(2) == 0 ? "\r\n" : "\n");
+  }
+  void AddRow() {
+    static const std::vector<std::string> codes = {"CUP", "POT", "TEA", "JAR", "NIX", "OLD"};
+    struct Written {
+      const char* text;
+      const char* quantity;  ///< as the list shows it; nullptr where it is refused
+    };
+    static const std::vector<Written> quantities = {
+        {"1", "1.000"},     {"2.5", "2.500"}, {"1.250,5", "1250.500"}, {"3,25", "3.250"},   {"0012", "12.000"},
+        {"0", nullptr},     {"", nullptr},    {"-1", nullptr},         {"1.2345", nullptr}, {"1e3", nullptr},
+        {"two 2", nullptr}, {" 7 ", "7.000"}, {"1 000", "1000.000"}};
+    const std::string& code = codes.at(static_cast<std::size_t>(Pick(6)));
+    const Written* quantity = nullptr;
+    do quantity = &quantities.at(static_cast<std::size_t>(Pick(static_cast<int>(quantities.size()))));
+    while (separator_ == ',' && std::string_view(quantity->text).find(',') != std::string_view::npos);
+    text_ += Row({code, quantity->text, Pick(4) == 0 ? "with a note" : ""});
+    const bool isKnown = code != "NIX" && code != "OLD";
+    if (isKnown && quantity->quantity && added.size() < kLimit && taken_.insert(code).second) {
+      added.push_back(code + " " + quantity->quantity);
+    } else {
+      refused.push_back(code);
+    }
+  }
+
+ public:
+  static constexpr std::size_t kLimit = 3;
+
+ private:
+  std::mt19937 random_;
+  char separator_;
+  std::string text_;
+  std::set<std::string> taken_;
+};
+
+TEST_F(Pasting, OfAnyTableEachRowIsALineOrRefused) {
+  Limit(static_cast<int>(RandomTable::kLimit));
+  New([&] {
+    goods::CommonDb db(session.services.factory, session.gAdoCon);
+    for (unsigned seed = 1; seed <= 2000; ++seed) {
+      const RandomTable table(seed);
+      editor->lvwrequest.Clear();
+      goods::PastedLines pasted(session, db, goods::RequestLines(editor->lvwrequest));
+      EXPECT_FALSE(pasted.Take(table.Text(), [](std::size_t, std::size_t) {}));
+      std::vector<std::string> lines;
+      for (const goods::RequestLine& line : editor->Entered().lines) lines.push_back(line.itemCode + " " + line.quantity);
+      EXPECT_EQ(table.added, lines) << "seed " << seed << ":\n" << table.Text();
+      std::vector<std::string> refused;
+      for (const goods::PastedRow& row : goods::ReadPastedLines(pasted.RefusedTable()).rows) refused.push_back(row.code);
+      EXPECT_EQ(table.refused, refused) << "seed " << seed << ":\n" << table.Text() << "refused:\n" << pasted.RefusedTable();
+      if (HasFailure()) break;
+    }
+    editor->lvwrequest.Clear();
   });
 }
 
