@@ -172,6 +172,17 @@ void MeasureSaves() {
   const Pair pair = bench::MeasurePair(
       kRuns * 8, [&] { return large.Save(); }, [&] { return small.Save(); });
   PrintRow("the same with 1,000,000 stored lines", pair.Ratio(), 1.2, "x", Detail(pair, "with 1,000 lines"));
+  {
+    SavingShop shop("save_one", 1);
+    RawDatabase raw(shop.Path());
+    const auto save = [&](const char* synchronous) {
+      raw.Run(synchronous);
+      return SaveRaw(raw, 1);
+    };
+    const Pair one = bench::MeasurePair(
+        kRuns * 20, [&] { return save("pragma synchronous=FULL"); }, [&] { return save("pragma synchronous=NORMAL"); });
+    PrintRow("one line saved, on the disk when it answers", one.Ratio(), 10, "x", Detail(one, "synchronous=NORMAL"));
+  }
 }
 
 constexpr const char* kLinesQuery =

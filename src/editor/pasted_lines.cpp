@@ -1,19 +1,12 @@
 #include "src/editor/pasted_lines.h"
 
-#include <algorithm>
-
 #include "base/controls/table_text.h"
 #include "base/vb/text.h"
+#include "src/counter/outcome.h"
 #include "src/itementry/line_rules.h"
 
 namespace goods {
 namespace {
-
-constexpr std::size_t kMaxTold = 20;
-
-std::string LinesText(std::size_t count) {
-  return std::to_string(count) + (count == 1 ? " line" : " lines");
-}
 
 void AddRow(controls::TableText& table, const std::vector<std::string>& cells) {
   for (const std::string& cell : cells) table.AddCell(cell);
@@ -64,16 +57,10 @@ std::string PastedLines::TakeRow(const PastedRow& row) {
 }
 
 std::string PastedLines::Outcome() const {
-  std::string text = LinesText(added_) + " added.";
-  if (refused_.empty()) return text;
-  text += "\r\n" + LinesText(refused_.size()) + " refused, ready on the clipboard to be mended and pasted again:\r\n";
-  const std::size_t told = std::min(refused_.size(), kMaxTold);
-  for (std::size_t i = 0; i < told; ++i) {
-    const Refused& refused = refused_[i];
-    text += "\r\n" + refused.row.code + ", " + refused.row.quantity + ": " + std::string(vb::Trim(refused.reason));
-  }
-  if (refused_.size() > told) text += "\r\nand " + std::to_string(refused_.size() - told) + " more";
-  return text;
+  std::vector<std::string> refused;
+  for (const auto& [row, reason] : refused_)
+    refused.push_back(row.code + ", " + row.quantity + ": " + std::string(vb::Trim(reason)));
+  return OutcomeToTell(added_, refused, ", ready on the clipboard to be mended and pasted again");
 }
 
 std::string PastedLines::RefusedTable() const {

@@ -1,25 +1,16 @@
 // Many items at once: what was ticked in the fetch dialog.
 
-#include <algorithm>
 #include <optional>
 
 #include "base/vb/number.h"
 #include "base/vb/text.h"
+#include "src/counter/outcome.h"
 #include "src/itementry/frm_request_detail.h"
 #include "src/itementry/item_lookup.h"
 #include "src/itementry/line_rules.h"
 #include "src/records/item_lookups.h"
 
 namespace goods {
-namespace {
-
-constexpr std::size_t kMaxTold = 20;
-
-std::string LinesText(std::size_t count) {
-  return std::to_string(count) + (count == 1 ? " line" : " lines");
-}
-
-}  // namespace
 
 void frmRequestDetail::TakeManyItems(const std::vector<PickedItem>& items) {
   std::optional<vb::RunTimeError> failure;
@@ -50,11 +41,7 @@ void frmRequestDetail::TakeManyItems(const std::vector<PickedItem>& items) {
     ClearEntryFields();
     ShowStatus();
   }
-  std::string text = LinesText(items.size() - refused.size()) + " added.";
-  if (!refused.empty()) text += "\r\n" + LinesText(refused.size()) + " refused:\r\n";
-  for (std::size_t line = 0; line < std::min(refused.size(), kMaxTold); ++line) text += "\r\n" + refused[line];
-  if (refused.size() > kMaxTold) text += "\r\nand " + std::to_string(refused.size() - kMaxTold) + " more";
-  Tell(text);
+  Tell(OutcomeToTell(items.size() - refused.size(), refused));
   if (failure) throw vb::RunTimeError(*failure);
 }
 
@@ -66,9 +53,7 @@ std::string frmRequestDetail::TakeOneOfMany(const PickedItem& item, double limit
   const std::string reorder = ReorderQuantity(item.itemId);
   const double quantity = QuantityTyped(reorder) > 0 ? QuantityTyped(reorder) : 1;
   if (const auto refusal = QuantityRefusal(Session(), vb::NumberText(quantity)); !refusal.empty()) return std::string(refusal);
-  for (int line = 1; line <= lines_.Count(); ++line) {
-    if (lines_.ItemId(line) == item.itemId) return std::string(kAlreadyExists);
-  }
+  if (lines_.LineOf(item.itemId) > 0) return std::string(kAlreadyExists);
   if (limit >= 1 && lines_.Count() + 1 > limit) return std::string(kNoMoreItems);
   lines_.Append({item.itemCode, item.itemDescription, QuantityText(quantity), item.itemId, "",
                  GetItemUnitCode(Session(), item.itemId), std::string(vb::Trim(partCode))});

@@ -44,12 +44,7 @@ bool frmRequestDetail::RefusesEntry() {
 }
 
 bool frmRequestDetail::IsDuplicateItem() const {
-  if (!IsAdding()) return false;
-  const std::int32_t itemId = SelectedItemId();
-  for (int line = 1; line <= lines_.Count(); ++line) {
-    if (lines_.ItemId(line) == itemId) return true;
-  }
-  return false;
+  return IsAdding() && lines_.LineOf(SelectedItemId()) > 0;
 }
 
 bool frmRequestDetail::AddLine(double limit) {

@@ -30,7 +30,7 @@ std::string Scans::Take(std::string_view code) {
   const auto item = FindItemByCode(session_, db_, code);
   if (!item) return std::string(kUnknownCode);
   const double amount = AmountOf(code, item->itemId);
-  const int line = LineOf(item->itemId);
+  const int line = lines_.LineOf(item->itemId);
   const double total = (line > 0 ? lines_.Quantity(line) : 0) + amount;
   if (const std::string_view refusal = QuantityRefusal(session_, vb::NumberText(amount)); !refusal.empty())
     return std::string(refusal);
@@ -52,7 +52,7 @@ bool Scans::TakeBackLast() {
   if (scans_.empty()) return false;
   const Scan scan = std::move(scans_.back());
   scans_.pop_back();
-  const int line = LineOf(scan.itemId);
+  const int line = lines_.LineOf(scan.itemId);
   if (line == 0) return true;  // it was removed meanwhile
   const double rest = lines_.Quantity(line) - scan.amount;
   if (rest >= kNothing) {
@@ -63,13 +63,6 @@ bool Scans::TakeBackLast() {
     lines_.Renumber();
   }
   return true;
-}
-
-int Scans::LineOf(std::int32_t itemId) const {
-  for (int line = 1; line <= lines_.Count(); ++line) {
-    if (lines_.ItemId(line) == itemId) return line;
-  }
-  return 0;
 }
 
 // A packing without a capacity for the item's unit counts as one, as a code that is no packing's does.

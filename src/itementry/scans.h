@@ -40,7 +40,6 @@ class Scans {
   const std::vector<Scan>& All() const { return scans_; }
 
  private:
-  int LineOf(std::int32_t itemId) const;
   double AmountOf(std::string_view code, std::int32_t itemId);
 
   basGoodsRequest& session_;

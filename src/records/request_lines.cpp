@@ -50,6 +50,13 @@ std::int32_t RequestLines::ItemId(int line) const {
   return vb::CLng(vb::Val(list_.Item(line).SubItem(kLineItemId)));
 }
 
+int RequestLines::LineOf(std::int32_t itemId) const {
+  for (int line = 1; line <= Count(); ++line) {
+    if (ItemId(line) == itemId) return line;
+  }
+  return 0;
+}
+
 double RequestLines::Quantity(int line) const {
   return vb::Val(list_.Item(line).SubItem(kLineQty));
 }

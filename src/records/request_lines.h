@@ -33,6 +33,8 @@ class RequestLines {
   int Count() const { return list_.Count(); }
   RequestLine At(int line) const;
   std::vector<RequestLine> All() const;
+  /// The first line of the item; 0 for none.
+  int LineOf(std::int32_t itemId) const;
   /// Error 6 where the list's text is no id.
   std::int32_t ItemId(int line) const;
   /// In base units; 0 where the list's text begins with no number.
