@@ -34,8 +34,9 @@ suite/shop                            suite/engine/objects
 suite/helpers                         base/ado base/controls base/workstation
 suite/host                            base/ado base/controls
 
-platform/console/drawing              base/controls
-platform/console                      platform/console/drawing base/workstation
+platform/text/drawing                 base/controls
+platform/text                         platform/text/drawing base/workstation
+platform/console                      platform/text
 platform/console/program              platform/console src/entry suite/shop suite/helpers
 
 platform/windows

@@ -2,6 +2,7 @@
 #include "base/vb/text.h"
 #include "platform/console/acting_commands.h"
 #include "platform/console/escape.h"
+#include "platform/text/drawing/answers.h"
 
 namespace console {
 namespace {
@@ -9,7 +10,7 @@ namespace {
 controls::Answer ParseAnswer(std::string_view name) {
   using controls::Answer;
   for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No}) {
-    if (vb::EqualNoCase(AnswerName(answer), name)) return answer;
+    if (vb::EqualNoCase(text::AnswerName(answer), name)) return answer;
   }
   throw CommandError("the answer is ok, cancel, yes or no, not " + Quote(name));
 }

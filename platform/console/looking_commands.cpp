@@ -5,10 +5,10 @@
 #include "base/controls/list_view.h"
 #include "base/vb/text.h"
 #include "platform/console/control_finder.h"
-#include "platform/console/drawing/form_picture.h"
 #include "platform/console/escape.h"
 #include "platform/console/properties.h"
 #include "platform/console/value_text.h"
+#include "platform/text/drawing/form_picture.h"
 
 namespace console {
 namespace {
@@ -77,7 +77,7 @@ void Dump(const controls::Control& control, Output& output) {
 void Show(const TextDesktop& desktop, Output& output) {
   // A message may come before there is any form.
   if (desktop.ActiveForm() || !desktop.HasMessage()) {
-    for (const std::string& line : DrawForm(ActiveForm(desktop))) output.Text(line);
+    for (const std::string& line : text::DrawForm(ActiveForm(desktop))) output.Text(line);
   }
   for (const std::string& line : desktop.MessagePicture()) output.Text(line);
 }

@@ -1,7 +1,7 @@
 #include "base/controls/menu.h"
 #include "base/vb/text.h"
-#include "platform/console/drawing/control_pictures.h"
 #include "platform/console/looking_commands.h"
+#include "platform/text/drawing/control_pictures.h"
 
 namespace console {
 namespace {
@@ -13,7 +13,7 @@ void HelpCommands(const CommandTable& table, Output& output) {
     output.Text(group.title);
     for (const Command& command : group.commands) {
       std::string usage = "  " + std::string(command.verb) + ' ' + std::string(command.arguments);
-      output.Text(Fit(usage, std::max(kVerbWidth, Length(usage))) + ' ' + std::string(command.purpose));
+      output.Text(text::Fit(usage, std::max(kVerbWidth, text::Length(usage))) + ' ' + std::string(command.purpose));
     }
   }
   output.Text(
@@ -29,7 +29,7 @@ void HelpAccessKeys(const controls::Form& form, Output& output) {
     const controls::Control* reached = form.FindAccessKey(key);
     std::string line = "  Alt+";
     vb::AppendCharacter(line, key);
-    output.Text(line + "  " + PlainCaption(control->CaptionText()) + (reached ? " (" + reached->Name() + ")" : ""));
+    output.Text(line + "  " + text::PlainCaption(control->CaptionText()) + (reached ? " (" + reached->Name() + ")" : ""));
   }
 }
 

@@ -5,9 +5,10 @@
 
 #include "base/controls/menu.h"
 #include "base/vb/text.h"
-#include "platform/console/drawing/form_picture.h"
-#include "platform/console/drawing/message_picture.h"
 #include "platform/console/escape.h"
+#include "platform/text/drawing/answers.h"
+#include "platform/text/drawing/form_picture.h"
+#include "platform/text/drawing/message_picture.h"
 
 namespace console {
 namespace {
@@ -67,41 +68,9 @@ std::string MessageLine(const controls::Message& message) {
 
 }  // namespace
 
-std::vector<controls::Answer> ButtonsOf(const controls::Message& message) {
-  using controls::Answer;
-  switch (message.Buttons()) {
-    case controls::kOkCancel:
-      return {Answer::Ok, Answer::Cancel};
-    case controls::kYesNoCancel:
-      return {Answer::Yes, Answer::No, Answer::Cancel};
-    case controls::kYesNo:
-      return {Answer::Yes, Answer::No};
-    default:
-      return {Answer::Ok};
-  }
-}
-
-std::string_view AnswerName(controls::Answer answer) {
-  switch (answer) {
-    case controls::Answer::Cancel:
-      return "cancel";
-    case controls::Answer::Yes:
-      return "yes";
-    case controls::Answer::No:
-      return "no";
-    default:
-      return "ok";
-  }
-}
-
 std::vector<std::string> TextDesktop::MessagePicture() const {
   if (!message_) return {};
-  std::vector<std::string> buttons;
-  for (const auto button : ButtonsOf(message_->message)) {
-    std::string name(AnswerName(button));
-    buttons.push_back(button == controls::Answer::Ok ? "OK" : vb::UCase(vb::Left(name, 1)) + vb::Mid(name, 2));
-  }
-  return DrawMessage(message_->message, buttons);
+  return text::DrawMessage(message_->message).Lines();
 }
 
 void TextDesktop::ReadAndHandle(std::string_view prompt) {
@@ -114,7 +83,7 @@ void TextDesktop::ReadAndHandle(std::string_view prompt) {
 }
 
 bool TextDesktop::AnswerMessage(controls::Answer answer) {
-  const auto buttons = ButtonsOf(message_->message);
+  const auto buttons = text::ButtonsOf(message_->message);
   if (std::find(buttons.begin(), buttons.end(), answer) == buttons.end()) return false;
   message_->answer = answer;
   return true;
@@ -131,7 +100,7 @@ controls::Answer TextDesktop::MsgBox(controls::Form*, const controls::Message& m
   OpenMessage open{message, {}};
   const Presence presence(message_, open);
   std::string prompt = "answer";
-  for (const auto button : ButtonsOf(message)) prompt.append(" ").append(AnswerName(button)).append("|");
+  for (const auto button : text::ButtonsOf(message)) prompt.append(" ").append(text::AnswerName(button)).append("|");
   prompt.back() = '>';
   while (!open.answer && ending_ == Ending::NotYet) ReadAndHandle(prompt + " ");
   return open.answer ? *open.answer : AnswerWithoutAsking(message);
@@ -229,7 +198,7 @@ controls::Form* TextDesktop::FindLoaded(std::string_view name) const {
 
 void TextDesktop::ShowPictureToPerson() {
   if (!input_.IsTerminal() || !pictureIsOld_ || !ActiveForm()) return;
-  for (const std::string& line : DrawForm(*ActiveForm())) output_.Text(line);
+  for (const std::string& line : text::DrawForm(*ActiveForm())) output_.Text(line);
   pictureIsOld_ = false;
 }
 

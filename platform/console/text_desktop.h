@@ -92,8 +92,4 @@ class TextDesktop : public controls::Desktop {
   std::vector<std::weak_ptr<late::Object>> known_;
 };
 
-/// The buttons of a message box from left to right.
-std::vector<controls::Answer> ButtonsOf(const controls::Message& message);
-std::string_view AnswerName(controls::Answer answer);
-
 }  // namespace console

@@ -6,14 +6,15 @@
 
 #include "base/vb/error.h"
 #include "platform/console/acting_commands.h"
+#include "platform/console/escape.h"
 #include "platform/console/input.h"
 #include "platform/console/interpreter.h"
 #include "platform/console/looking_commands.h"
 #include "platform/console/program/database_watch.h"
 #include "platform/console/text_desktop.h"
-#include "platform/console/text_state_file.h"
-#include "platform/console/text_workstation.h"
 #include "platform/console/traced_object.h"
+#include "platform/text/text_state_file.h"
+#include "platform/text/text_workstation.h"
 #include "src/entry/cls_goods_request.h"
 #include "src/entry/module.h"
 #include "suite/helpers/register_helpers.h"
@@ -52,11 +53,14 @@ std::shared_ptr<suite::Database> OpenDatabase(const Options& options) {
   return database;
 }
 
-TextWorkstation::Settings WorkstationSettings(const Options& options) {
+text::TextWorkstation::Settings WorkstationSettings(const Options& options, Output& output) {
   std::string folder = options.applicationFolder.empty() ? std::filesystem::current_path().string() : options.applicationFolder;
   while (folder.size() > 1 && (folder.back() == '/' || folder.back() == '\\')) folder.pop_back();
   if (!std::filesystem::is_directory(folder)) throw OptionError("no folder " + folder);
-  return {folder, options.windowsDirectory, options.now, StateFolder()};
+  const auto announce = [&output](std::string_view commandLine, int style) {
+    output.Line("run", Quote(commandLine) + " style=" + std::to_string(style));
+  };
+  return {folder, options.windowsDirectory, options.now, text::StateFolder(), announce};
 }
 
 }  // namespace
@@ -68,7 +72,7 @@ struct ShopSession::Parts {
         input(commands, output, options.echo ? Input::Echo::On : Input::Echo::Off,
               terminal ? Input::From::Terminal : Input::From::Script),
         desktop(input, output),
-        workstation(WorkstationSettings(options), output),
+        workstation(WorkstationSettings(options, output)),
         database(OpenDatabase(options)),
         watch(output),
         tools(*database, watch),
@@ -102,7 +106,7 @@ struct ShopSession::Parts {
   Output& output;
   Input input;
   TextDesktop desktop;
-  TextWorkstation workstation;
+  text::TextWorkstation workstation;
   std::shared_ptr<suite::Database> database;
   ConnectionWatch watch;
   ShopDatabase tools;

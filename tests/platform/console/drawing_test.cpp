@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
-#include "platform/console/drawing/canvas.h"
-#include "platform/console/drawing/table_picture.h"
+#include "platform/text/drawing/canvas.h"
+#include "platform/text/drawing/table_picture.h"
 #include "tests/platform/console/text_session.h"
 
 namespace console {
 namespace {
+
+using text::Align;
+using text::Fit;
+using text::Table;
 
 std::string Joined(const std::vector<std::string>& lines) {
   std::string all = "\n";
@@ -82,7 +86,7 @@ TEST(Drawing, AnOpenMessageStandsBelowItsForm) {
 
 TEST(Drawing, ATableKeepsTheCurrentRowInSight) {
   const auto shown = [](long current, long top) {
-    const RowWindow window = WindowAround(current, top, 1, 100, 5);
+    const text::RowWindow window = text::WindowAround(current, top, 1, 100, 5);
     return std::to_string(window.first) + "-" + std::to_string(window.last);
   };
   EXPECT_EQ(shown(1, 1), "1-5");
@@ -98,14 +102,14 @@ TEST(Drawing, ATableTooWideCutsItsWidestCellsAndLeavesOutWhatCannotFit) {
   table.columns = {{"No.", 5, Align::Right}, {"Description", 40, Align::Left}, {"Hidden", 0, Align::Left}};
   table.rows = {{"", {"1", "A very long description of an item", "x"}}, {"", {"20", "Short", "y"}}};
   table.below = 7;
-  ExpectPicture(Joined(DrawTable(table, 22).Lines()), R"(
+  ExpectPicture(Joined(text::DrawTable(table, 22).Lines()), R"(
 No. │ Description
 ────┼─────────────────
   1 │ A very long des…
  20 │ Short
 ... 7 more
 )");
-  ExpectPicture(Joined(DrawTable(table, 8).Lines()), R"(
+  ExpectPicture(Joined(text::DrawTable(table, 8).Lines()), R"(
 No. …
 ───
   1 …

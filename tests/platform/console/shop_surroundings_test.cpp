@@ -5,8 +5,8 @@
 #include <unistd.h>
 
 #include "base/vb/error.h"
-#include "platform/console/text_workstation.h"
 #include "platform/console/traced_object.h"
+#include "platform/text/text_workstation.h"
 
 namespace console {
 namespace {
@@ -18,10 +18,13 @@ class Workstation : public testing::Test {
   Workstation() {
     fs::create_directories(folder_ / "reports");
     std::ofstream(folder_ / "ShopSetting.txt") << "\xEF\xBB\xBFport :=LPT1\r\ncaf\xC3\xA9 :=1\nlast";
-    TextWorkstation::Settings settings;
+    text::TextWorkstation::Settings settings;
     settings.applicationFolder = folder_.string();
     settings.now = vb::MakeDate(2024, 3, 15, 9, 30, 0);
-    workstation_ = std::make_unique<TextWorkstation>(settings, output_);
+    settings.startProgram = [this](std::string_view commandLine, int style) {
+      started_ = std::string(commandLine) + " style " + std::to_string(style);
+    };
+    workstation_ = std::make_unique<text::TextWorkstation>(settings);
   }
   ~Workstation() override { fs::remove_all(folder_); }
 
@@ -40,9 +43,8 @@ class Workstation : public testing::Test {
   }
 
   const fs::path folder_ = fs::temp_directory_path() / ("console_test_" + std::to_string(::getpid()));
-  std::ostringstream printed_;
-  Output output_{printed_};
-  std::unique_ptr<TextWorkstation> workstation_;
+  std::string started_;
+  std::unique_ptr<text::TextWorkstation> workstation_;
 };
 
 TEST_F(Workstation, ReadsSettingsWhateverTheCaseAndTheLineEnds) {
@@ -70,7 +72,7 @@ TEST_F(Workstation, OnlyTheEditorIsInTheWindowsDirectory) {
   EXPECT_FALSE(workstation_->FileExists("C:\\WINDOWS\\notepad.exe"));
   EXPECT_FALSE(workstation_->FileExists("C:\\WINNT\\system32\\edit.com"));
   workstation_->StartProgram("C:\\WINDOWS\\command\\edit.com  c:\\Reqtohq.txt", 3);
-  EXPECT_EQ(printed_.str(), "run: \"C:\\\\WINDOWS\\\\command\\\\edit.com  c:\\\\Reqtohq.txt\" style=3\n");
+  EXPECT_EQ(started_, "C:\\WINDOWS\\command\\edit.com  c:\\Reqtohq.txt style 3");
 }
 
 TEST_F(Workstation, ErrorsCarryTheClassicNumbersAndNameTheFile) {

@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "base/vb/error.h"
-#include "platform/console/text_state_file.h"
+#include "platform/text/text_state_file.h"
 
 namespace {
 
@@ -16,7 +16,7 @@ class StateFiles : public testing::Test {
   StateFiles() { fs::remove_all(folder_); }
   ~StateFiles() override { fs::remove_all(folder_); }
 
-  std::unique_ptr<workstation::StateFile> Take() const { return console::TakeStateFile(folder_, "draft.txt"); }
+  std::unique_ptr<workstation::StateFile> Take() const { return text::TakeStateFile(folder_, "draft.txt"); }
 
   /// A process that has taken the file and lives until it is killed.
   pid_t StartHolder() const {
@@ -41,7 +41,7 @@ class StateFiles : public testing::Test {
 
 TEST_F(StateFiles, BelongToOneProcessUntilItEndsHoweverItEnds) {
   const pid_t holder = StartHolder();
-  EXPECT_TRUE(console::StateFileExists(folder_, "draft.txt"));
+  EXPECT_TRUE(text::StateFileExists(folder_, "draft.txt"));
   EXPECT_EQ(Take(), nullptr);
   kill(holder, SIGKILL);
   waitpid(holder, nullptr, 0);
@@ -77,9 +77,9 @@ TEST_F(StateFiles, SetAsideAreKeptUnderNamesOfTheirOwn) {
 }
 
 TEST_F(StateFiles, InAFolderThatCannotBeMadeAreAFileError) {
-  EXPECT_THROW(console::TakeStateFile("/dev/null/folder", "draft.txt"), vb::RunTimeError);
-  EXPECT_THROW(console::TakeStateFile({}, "draft.txt"), vb::RunTimeError);
-  EXPECT_FALSE(console::StateFileExists("/dev/null/folder", "draft.txt"));
+  EXPECT_THROW(text::TakeStateFile("/dev/null/folder", "draft.txt"), vb::RunTimeError);
+  EXPECT_THROW(text::TakeStateFile({}, "draft.txt"), vb::RunTimeError);
+  EXPECT_FALSE(text::StateFileExists("/dev/null/folder", "draft.txt"));
 }
 
 }  // namespace

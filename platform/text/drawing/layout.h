@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/controls/form.h"
-#include "platform/console/drawing/canvas.h"
+#include "platform/text/drawing/canvas.h"
+#include "platform/text/drawing/surface.h"
 
-namespace console {
+namespace text {
 
 /// The shown controls that stand directly on a container (null: the form itself), each near the place its twips give it, none
 /// over another: what needs more room than its twips pushes its right neighbours to the right and what is below it down.
-Canvas DrawChildren(const controls::Form& form, const controls::Control* container, int twipsPerColumn);
+Canvas DrawChildren(const controls::Form& form, const controls::Control* container, const Surface& surface);
 
-}  // namespace console
+}  // namespace text

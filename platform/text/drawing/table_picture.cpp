@@ -1,9 +1,9 @@
-#include "platform/console/drawing/table_picture.h"
+#include "platform/text/drawing/table_picture.h"
 
 #include <algorithm>
 #include <numeric>
 
-namespace console {
+namespace text {
 namespace {
 
 constexpr int kMinColumn = 4;
@@ -64,14 +64,48 @@ ShownColumns ChooseColumns(const Table& table, int room) {
   return shown;
 }
 
-std::string RowText(const Table& table, const ShownColumns& shown, const std::vector<std::string>& cells) {
-  std::string line;
+/// Writes cells into their columns; gives where they end.
+int PutCells(Canvas& sheet, int x, int y, const Table& table, const ShownColumns& shown, const std::vector<std::string>& cells,
+             const std::function<Looks(std::size_t column)>& looks) {
   for (std::size_t i = 0; i < shown.indexes.size(); ++i) {
     const std::size_t column = shown.indexes[i];
-    if (i > 0) line += kSeparator;
-    line += Fit(column < cells.size() ? cells[column] : "", shown.widths[i], table.columns[column].align);
+    if (i > 0) {
+      sheet.Put(x, y, kSeparator);
+      x += kSeparatorWidth;
+    }
+    sheet.Put(x, y, Fit(column < cells.size() ? cells[column] : "", shown.widths[i], table.columns[column].align), looks(column));
+    x += shown.widths[i];
   }
-  return shown.cut ? line + " …" : line;
+  if (!shown.cut) return x;
+  sheet.Put(x, y, " …");
+  return x + 2;
+}
+
+/// The headings with the room that a mouse can take hold of them in.
+void PutHeadings(Canvas& sheet, int x, const Table& table, const ShownColumns& shown) {
+  std::vector<std::string> headings;
+  for (const Table::Column& column : table.columns) headings.push_back(column.heading);
+  PutCells(sheet, x, 0, table, shown, headings, [](std::size_t) { return kPlain; });
+  for (std::size_t i = 0; i < shown.indexes.size(); ++i) {
+    sheet.Mark({.control = table.control,
+                .part = Spot::Part::Heading,
+                .column = table.columns[shown.indexes[i]].number,
+                .x = x,
+                .width = shown.widths[i] + kSeparatorWidth});
+    x += shown.widths[i] + kSeparatorWidth;
+  }
+}
+
+void PutRow(Canvas& sheet, int y, const Table& table, const ShownColumns& shown, const Table::Row& row) {
+  const int marks = Length(table.headingMarks);
+  sheet.Put(0, y, row.marks);
+  const int end = PutCells(sheet, marks, y, table, shown, row.cells, [&](std::size_t column) {
+    return static_cast<Looks>(row.looks | (column < row.byCell.size() ? row.byCell[column] : Looks{kPlain}));
+  });
+  if (row.looks & kChosen) sheet.AddLooks(marks, y, end - marks, kChosen);
+  sheet.Mark({.control = table.control, .part = Spot::Part::Row, .index = row.number, .y = y, .width = end});
+  if (table.boxColumn < 0) return;
+  sheet.Mark({.control = table.control, .part = Spot::Part::Box, .index = row.number, .x = table.boxColumn, .y = y, .width = 3});
 }
 
 std::string RuleText(const ShownColumns& shown) {
@@ -89,20 +123,16 @@ Canvas DrawTable(const Table& table, int width) {
   Canvas sheet;
   const int marks = Length(table.headingMarks);
   const ShownColumns shown = ChooseColumns(table, width - marks);
-  std::vector<std::string> headings;
-  for (const Table::Column& column : table.columns) headings.push_back(column.heading);
-
   int y = 0;
-  sheet.Put(0, y, table.headingMarks);
-  sheet.Put(marks, y++, RowText(table, shown, headings));
+  sheet.Put(0, y++, table.headingMarks);
+  PutHeadings(sheet, marks, table, shown);
   sheet.Put(marks, y++, RuleText(shown));
+  const int top = y;
   if (table.above > 0) sheet.Put(marks, y++, "... " + std::to_string(table.above) + " more");
-  for (const Table::Row& row : table.rows) {
-    sheet.Put(0, y, row.marks);
-    sheet.Put(marks, y++, RowText(table, shown, row.cells));
-  }
+  for (const Table::Row& row : table.rows) PutRow(sheet, y++, table, shown, row);
   if (table.below > 0) sheet.Put(marks, y++, "... " + std::to_string(table.below) + " more");
   if (table.rows.empty()) sheet.Put(marks, y++, "(no lines)");
+  if (y < top + table.height) sheet.Put(0, top + table.height - 1, "");
   return sheet;
 }
 
@@ -116,4 +146,4 @@ RowWindow WindowAround(long current, long top, long firstRow, long lastRow, long
   return {first, first + room - 1};
 }
 
-}  // namespace console
+}  // namespace text

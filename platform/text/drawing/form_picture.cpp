@@ -1,11 +1,11 @@
-#include "platform/console/drawing/form_picture.h"
+#include "platform/text/drawing/form_picture.h"
 
 #include <algorithm>
 
-#include "platform/console/drawing/control_pictures.h"
-#include "platform/console/drawing/layout.h"
+#include "platform/text/drawing/control_pictures.h"
+#include "platform/text/drawing/layout.h"
 
-namespace console {
+namespace text {
 namespace {
 
 constexpr int kMaxColumns = 96;
@@ -20,7 +20,7 @@ int OuterWidth(const controls::Form& form) {
 }
 
 /// Explains the marks that the picture may hold.
-std::string Legend(const controls::Form& form) {
+std::string Legend(const controls::Form& form, const Surface& surface) {
   std::string legend;
   const auto explain = [&](bool used, std::string_view meaning) {
     if (used) legend.append(legend.empty() ? "" : ", ").append(meaning);
@@ -32,10 +32,10 @@ std::string Legend(const controls::Form& form) {
   };
   explain(any([](const controls::Control& control) { return MarkOf(control) == "»"; }), "» has the focus");
   explain(any([](const controls::Control& control) { return MarkOf(control) == "~"; }), "~ disabled");
-  explain(any([](const controls::Control& control) {
+  explain(any([&surface](const controls::Control& control) {
             const auto* grid = controls::As<controls::FlexGrid>(&control);
             const auto* list = controls::As<controls::ListView>(&control);
-            return (grid && HasRedRows(*grid)) || (list && HasRedLines(*list));
+            return (grid && HasRedRows(*grid, surface)) || (list && HasRedLines(*list, surface));
           }),
           "! red");
   return legend;
@@ -43,16 +43,23 @@ std::string Legend(const controls::Form& form) {
 
 }  // namespace
 
-std::vector<std::string> DrawForm(const controls::Form& form) {
-  const int twipsPerColumn = std::max(kMinTwipsPerColumn, OuterWidth(form) / kMaxColumns);
-  const Canvas inside = DrawChildren(form, nullptr, twipsPerColumn);
-  const std::string legend = Legend(form);
-  Canvas sheet;
-  const int width =
-      std::max({inside.Width() + 3, form.Width() / twipsPerColumn + 2, Length(form.Caption()) + 6, Length(legend) + 6});
-  sheet.Box(0, 0, width, inside.Height() + 2, form.Caption(), legend);
-  sheet.Paste(1, 1, inside);
-  return sheet.Lines();
+int TwipsPerColumn(const controls::Form& form, int columns) {
+  return std::max(kMinTwipsPerColumn, OuterWidth(form) / columns);
 }
 
-}  // namespace console
+Canvas DrawForm(const controls::Form& form, const Surface& surface) {
+  const Canvas inside = DrawChildren(form, nullptr, surface);
+  const std::string legend = Legend(form, surface);
+  Canvas sheet;
+  const int width =
+      std::max({inside.Width() + 3, form.Width() / surface.twipsPerColumn + 2, Length(form.Caption()) + 6, Length(legend) + 6});
+  sheet.Box(0, 0, width, inside.Height() + 2, form.Caption(), legend);
+  sheet.Paste(1, 1, inside);
+  return sheet;
+}
+
+std::vector<std::string> DrawForm(const controls::Form& form) {
+  return DrawForm(form, Surface{.twipsPerColumn = TwipsPerColumn(form, kMaxColumns)}).Lines();
+}
+
+}  // namespace text

@@ -1,4 +1,4 @@
-#include "platform/console/text_state_file.h"
+#include "platform/text/text_state_file.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -14,7 +14,7 @@
 #include "base/vb/error.h"
 #include "base/vb/file_error.h"
 
-namespace console {
+namespace text {
 namespace {
 
 namespace fs = std::filesystem;
@@ -167,4 +167,4 @@ std::unique_ptr<workstation::StateFile> TakeStateFile(const fs::path& folder, st
   return file;
 }
 
-}  // namespace console
+}  // namespace text

@@ -6,7 +6,7 @@
 
 #include "base/workstation/state_file.h"
 
-namespace console {
+namespace text {
 
 /// The user's folder for what programs keep between runs: XDG_STATE_HOME, else .local/state of the home folder, and there the
 /// component's. Empty when neither is known.
@@ -19,4 +19,4 @@ bool StateFileExists(const std::filesystem::path& folder, std::string_view name)
 /// made or written.
 std::unique_ptr<workstation::StateFile> TakeStateFile(const std::filesystem::path& folder, std::string_view name);
 
-}  // namespace console
+}  // namespace text

@@ -1,4 +1,4 @@
-#include "platform/console/text_workstation.h"
+#include "platform/text/text_workstation.h"
 
 #include <cerrno>
 #include <chrono>
@@ -12,10 +12,9 @@
 #include "base/vb/text.h"
 #include "base/workstation/printer_port.h"
 #include "base/workstation/text_file.h"
-#include "platform/console/escape.h"
-#include "platform/console/text_state_file.h"
+#include "platform/text/text_state_file.h"
 
-namespace console {
+namespace text {
 namespace {
 
 namespace fs = std::filesystem;
@@ -131,15 +130,15 @@ std::unique_ptr<workstation::OutputFile> TextWorkstation::OpenForAppend(std::str
 }
 
 void TextWorkstation::StartProgram(std::string_view commandLine, int style) {
-  output_.Line("run", Quote(commandLine) + " style=" + std::to_string(style));
+  if (settings_.startProgram) settings_.startProgram(commandLine, style);
 }
 
 bool TextWorkstation::StateFileExists(std::string_view name) {
-  return console::StateFileExists(settings_.stateFolder, name);
+  return text::StateFileExists(settings_.stateFolder, name);
 }
 
 std::unique_ptr<workstation::StateFile> TextWorkstation::TakeStateFile(std::string_view name) {
-  return console::TakeStateFile(settings_.stateFolder, name);
+  return text::TakeStateFile(settings_.stateFolder, name);
 }
 
 std::string TextWorkstation::ReadApplicationFile(std::string_view name) const {
@@ -149,4 +148,4 @@ std::string TextWorkstation::ReadApplicationFile(std::string_view name) const {
   return ReadAll(file);
 }
 
-}  // namespace console
+}  // namespace text

@@ -1,13 +1,13 @@
-#include "platform/console/drawing/layout.h"
+#include "platform/text/drawing/layout.h"
 
 #include <algorithm>
 #include <utility>
 
 #include "base/controls/control_visitor.h"
 #include "base/controls/tab_control.h"
-#include "platform/console/drawing/control_pictures.h"
+#include "platform/text/drawing/control_pictures.h"
 
-namespace console {
+namespace text {
 namespace {
 
 constexpr int kSameLineTwips = 120;   ///< middles this near to each other are on one line
@@ -38,54 +38,80 @@ Canvas Boxed(const Canvas& inside, int columns, std::string_view title) {
   return sheet;
 }
 
-std::string TabHeadings(const controls::TabControl& tab) {
-  std::string headings;
+Canvas DrawFrame(const controls::Frame& frame, const Canvas& inside, int columns) {
+  constexpr int kTitleColumn = 3;
+  Canvas sheet = Boxed(inside, columns, PlainCaption(frame.Caption()));
+  if (!frame.Caption().empty()) sheet.PutCaption(kTitleColumn, 0, frame.Caption(), frame.AcceptsInput() ? kPlain : kDim);
+  return sheet;
+}
+
+/// A frame with the headings of its pages in the upper edge.
+Canvas DrawTabs(controls::TabControl& tab, const Canvas& inside, int columns) {
+  constexpr std::string_view kBetween = " / ";
+  int x = 3;
+  std::string headings = tab.HasFocus() ? "» " : "";
+  std::vector<Spot> pages;
+  std::string_view between;
   for (int page = 0; page < tab.Tabs(); ++page) {
     if (!tab.TabVisible(page)) continue;
     const std::string caption = PlainCaption(tab.TabCaption(page));
-    if (!headings.empty()) headings += " / ";
+    headings += between;
+    pages.push_back({.control = &tab, .part = Spot::Part::Page, .index = page, .x = x + Length(headings)});
     headings += page == tab.Tab() ? "[" + caption + "]" : caption;
+    pages.back().width = x + Length(headings) - pages.back().x;
+    between = kBetween;
   }
-  return std::string(tab.HasFocus() ? "» " : "") + headings;
+  Canvas sheet = Boxed(inside, columns, headings);
+  for (const Spot& page : pages) {
+    const int bracket = page.index == tab.Tab() ? 1 : 0;
+    sheet.PutCaption(page.x + bracket, 0, tab.TabCaption(static_cast<int>(page.index)));
+    sheet.Mark(page);
+  }
+  if (tab.HasFocus()) sheet.SetCaret({x, 0});
+  return sheet;
 }
 
 /// Draws one control with what it holds.
 class Drawing : private controls::ControlVisitor {
  public:
-  Drawing(int columns, int twipsPerColumn) : columns_(columns), twipsPerColumn_(twipsPerColumn) {}
+  Drawing(int columns, const Surface& surface) : columns_(columns), surface_(surface) {}
   Canvas Of(controls::Control& control) {
     control.Accept(*this);
-    return std::move(sheet_);
+    Canvas whole;
+    whole.Mark({.control = &control, .width = sheet_.Width(), .height = sheet_.Height()});
+    whole.Paste(0, 0, sheet_);
+    return whole;
   }
 
  private:
   void Visit(controls::CheckBox& box) override { sheet_ = DrawCheckBox(box); }
-  void Visit(controls::ComboBox& combo) override { sheet_ = DrawComboBox(combo, columns_); }
+  void Visit(controls::ComboBox& combo) override { sheet_ = DrawComboBox(combo, columns_, surface_); }
   void Visit(controls::CommandButton& button) override { sheet_ = DrawButton(button); }
-  void Visit(controls::FlexGrid& grid) override { sheet_ = DrawGrid(grid, columns_, twipsPerColumn_); }
-  void Visit(controls::Frame& frame) override { sheet_ = Boxed(Inside(frame), columns_, PlainCaption(frame.Caption())); }
+  void Visit(controls::FlexGrid& grid) override { sheet_ = DrawGrid(grid, columns_, surface_); }
+  void Visit(controls::Frame& frame) override { sheet_ = DrawFrame(frame, Inside(frame), columns_); }
   void Visit(controls::Label& label) override { sheet_ = DrawLabel(label, columns_); }
-  void Visit(controls::ListView& list) override { sheet_ = DrawList(list, columns_, twipsPerColumn_); }
+  void Visit(controls::ListView& list) override { sheet_ = DrawList(list, columns_, surface_); }
   void Visit(controls::Menu&) override {}
   void Visit(controls::OptionButton& option) override { sheet_ = DrawOption(option); }
   void Visit(controls::PictureBox& box) override { sheet_ = Inside(box); }
-  void Visit(controls::TabControl& tab) override { sheet_ = Boxed(Inside(tab), columns_, TabHeadings(tab)); }
-  void Visit(controls::TextBox& box) override { sheet_ = DrawTextBox(box, columns_); }
+  void Visit(controls::TabControl& tab) override { sheet_ = DrawTabs(tab, Inside(tab), columns_); }
+  void Visit(controls::TextBox& box) override { sheet_ = DrawTextBox(box, columns_, surface_); }
 
-  Canvas Inside(const controls::Control& holder) const { return DrawChildren(holder.Owner(), &holder, twipsPerColumn_); }
+  Canvas Inside(const controls::Control& holder) const { return DrawChildren(holder.Owner(), &holder, surface_); }
 
   int columns_;
-  int twipsPerColumn_;
+  const Surface& surface_;
   Canvas sheet_;
 };
 
-std::vector<Block> BlocksOf(const controls::Form& form, const controls::Control* container, int twipsPerColumn) {
+std::vector<Block> BlocksOf(const controls::Form& form, const controls::Control* container, const Surface& surface) {
   std::vector<Block> blocks;
   for (controls::Control* control : form.Controls()) {
     if (control->Container() != container || control->Kind() == controls::ControlKind::Menu || !control->IsShown()) continue;
     const controls::Position& place = control->Place();
+    const int twipsPerColumn = surface.twipsPerColumn;
     const int columns = (place.left + place.width) / twipsPerColumn - place.left / twipsPerColumn - 1;
-    Block block{Drawing(columns, twipsPerColumn).Of(*control), place};
+    Block block{Drawing(columns, surface).Of(*control), place};
     if (block.sheet.Height() > 0) blocks.push_back(std::move(block));
   }
   return blocks;
@@ -138,14 +164,14 @@ void PlaceRows(std::vector<Block>& blocks) {
 
 }  // namespace
 
-Canvas DrawChildren(const controls::Form& form, const controls::Control* container, int twipsPerColumn) {
-  std::vector<Block> blocks = BlocksOf(form, container, twipsPerColumn);
+Canvas DrawChildren(const controls::Form& form, const controls::Control* container, const Surface& surface) {
+  std::vector<Block> blocks = BlocksOf(form, container, surface);
   FindBands(blocks);
-  PlaceColumns(blocks, twipsPerColumn);
+  PlaceColumns(blocks, surface.twipsPerColumn);
   PlaceRows(blocks);
   Canvas sheet;
   for (const Block& block : blocks) sheet.Paste(block.x, block.y, block.sheet);
   return sheet;
 }
 
-}  // namespace console
+}  // namespace text

@@ -1,16 +1,17 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "base/workstation/workstation.h"
-#include "platform/console/output.h"
 
-namespace console {
+namespace text {
 
 /// A workstation whose drive C, temporary folder and printer ports are files of one folder on this machine. Its character set is
-/// UTF-8; file names are found without regard to case. Programs are announced, never started.
+/// UTF-8; file names are found without regard to case. Programs are never started: the desktop says or shows what they would have
+/// opened.
 class TextWorkstation : public workstation::Workstation {
  public:
   struct Settings {
@@ -18,8 +19,9 @@ class TextWorkstation : public workstation::Workstation {
     std::string windowsDirectory = "C:\\WINDOWS";  ///< the editor edit.com counts as present in it
     std::optional<vb::Date> now;                   ///< the machine's own clock without it
     std::filesystem::path stateFolder;             ///< of this machine; without it no state file can be taken
+    std::function<void(std::string_view commandLine, int style)> startProgram;  ///< instead of starting one
   };
-  TextWorkstation(Settings settings, Output& output) : settings_(std::move(settings)), output_(output) {}
+  explicit TextWorkstation(Settings settings) : settings_(std::move(settings)) {}
 
   vb::Date Now() override;
   std::string ApplicationFolder() override { return settings_.applicationFolder; }
@@ -43,7 +45,6 @@ class TextWorkstation : public workstation::Workstation {
   std::unique_ptr<workstation::OutputFile> OpenToWrite(std::string_view path, bool append);
 
   Settings settings_;
-  Output& output_;
 };
 
-}  // namespace console
+}  // namespace text
