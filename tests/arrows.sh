@@ -36,8 +36,9 @@ suite/host                            base/ado base/controls
 
 platform/text/drawing                 base/controls
 platform/text                         platform/text/drawing base/workstation
+platform/terminal                     platform/text
 platform/console                      platform/text
-platform/console/program              platform/console src/entry suite/shop suite/helpers
+platform/console/program              platform/console platform/terminal src/entry suite/shop suite/helpers suite/host
 
 platform/windows
 platform/windows/com                  platform/windows base/late

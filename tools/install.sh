@@ -6,7 +6,7 @@ set -euo pipefail
 packages=()
 for part in "$@"; do
   case $part in
-    native) packages+=(g++ cmake ninja-build libsqlite3-dev) ;;
+    native) packages+=(g++ cmake ninja-build libsqlite3-dev libncurses-dev) ;;
     tests) packages+=(libgtest-dev googletest) ;;
     windows) packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev
                         xvfb xauth imagemagick xdotool fonts-wine npm googletest debootstrap) ;;

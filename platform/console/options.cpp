@@ -50,6 +50,7 @@ const std::vector<Option>& AllOptions() {
       {"--echo", "", "print every input line before it is carried out", [](O& o, S) { o.echo = true; }},
       {"--windows-directory", "DIR", "the Windows directory (default C:\\WINDOWS)", [](O& o, S t) { o.windowsDirectory = t; }},
       {"--report-server", "", "a report server that records its calls", [](O& o, S) { o.reportServer = true; }},
+      {"--live", "", "the forms full screen in this terminal", [](O& o, S) { o.live = true; }},
       {"--help", "", "this", [](O& o, S) { o.help = true; }},
   };
   return options;
@@ -72,6 +73,9 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
     } else {
       throw OptionError(std::string(found->name) + " needs " + std::string(found->argument));
     }
+  }
+  if (options.live && (!options.script.empty() || options.trace || options.echo)) {
+    throw OptionError("--live goes without --script, --trace and --echo");
   }
   return options;
 }

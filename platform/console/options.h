@@ -27,6 +27,7 @@ struct Options {
   bool trace = false;
   bool echo = false;
   bool reportServer = false;
+  bool live = false;
   bool help = false;
 };
 

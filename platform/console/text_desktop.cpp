@@ -13,7 +13,7 @@
 namespace console {
 namespace {
 
-constexpr int kMaxRefusals = 3;
+using text::kMaxRefusals;
 
 /// Points `slot` to `value` for as long as it lives.
 template <class T>

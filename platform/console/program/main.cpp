@@ -6,16 +6,30 @@
 
 #include "base/vb/error.h"
 #include "platform/console/options.h"
+#include "platform/console/program/live_session.h"
 #include "platform/console/program/shop_session.h"
+#include "platform/terminal/screen.h"
 
 namespace {
 
 enum ExitStatus { kDone = 0, kCommandFailed = 1, kWrongOptions = 2 };
 
+int RunLive(const console::Options& options) {
+  const std::string error = console::RunLiveSession(options);
+  if (error.empty()) return kDone;
+  std::cerr << "goods-request: " << error << "\n";
+  return kCommandFailed;
+}
+
 int Run(const console::Options& options) {
   if (options.help) {
     std::cout << console::UsageText();
     return kDone;
+  }
+  if (options.live) {
+    const auto obstacle = terminal::Screen::WhyNot();
+    if (!obstacle) return RunLive(options);
+    std::cerr << "goods-request: " << *obstacle << "; the forms are driven by commands instead\n";
   }
   std::ifstream script;
   if (!options.script.empty()) {

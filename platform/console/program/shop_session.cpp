@@ -1,9 +1,5 @@
 #include "platform/console/program/shop_session.h"
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
 #include "base/vb/error.h"
 #include "platform/console/acting_commands.h"
 #include "platform/console/escape.h"
@@ -11,14 +7,13 @@
 #include "platform/console/interpreter.h"
 #include "platform/console/looking_commands.h"
 #include "platform/console/program/database_watch.h"
+#include "platform/console/program/shop_parts.h"
 #include "platform/console/text_desktop.h"
 #include "platform/console/traced_object.h"
-#include "platform/text/text_state_file.h"
 #include "platform/text/text_workstation.h"
 #include "src/entry/cls_goods_request.h"
 #include "src/entry/module.h"
 #include "suite/helpers/register_helpers.h"
-#include "suite/shop/generator.h"
 #include "suite/shop/shop.h"
 
 namespace console {
@@ -27,40 +22,11 @@ namespace {
 constexpr std::int32_t kDefaultId = 1;
 constexpr std::string_view kReportServer = "Crystal.CRPE.Application";
 
-void FillNewDatabase(suite::Database& database, ado::Connection connection, const Options& options) {
-  suite::LoadSchema(database, options.replication);
-  if (options.empty) return;
-  suite::LoadSample(database);
-  if (options.requests || options.items) {
-    suite::GenerateShop(connection, suite::Scale{.requests = static_cast<int>(options.requests.value_or(0)),
-                                                 .items = static_cast<int>(options.items.value_or(0))});
-  }
-}
-
-std::shared_ptr<suite::Database> OpenDatabase(const Options& options) {
-  suite::Database::Options settings;
-  if (options.now) settings.clock = [now = *options.now] { return now; };
-  auto database = suite::Database::Open(options.database, std::move(settings));
-  database->FillWhenEmpty(
-      [&](const late::ObjectPtr& connection) { FillNewDatabase(*database, ado::Connection(connection), options); });
-  if (!options.init.empty()) {
-    std::ifstream stream(options.init, std::ios::binary);
-    if (!stream) throw OptionError("cannot read " + options.init);
-    std::ostringstream script;
-    script << stream.rdbuf();
-    database->RunScript(script.str());
-  }
-  return database;
-}
-
-text::TextWorkstation::Settings WorkstationSettings(const Options& options, Output& output) {
-  std::string folder = options.applicationFolder.empty() ? std::filesystem::current_path().string() : options.applicationFolder;
-  while (folder.size() > 1 && (folder.back() == '/' || folder.back() == '\\')) folder.pop_back();
-  if (!std::filesystem::is_directory(folder)) throw OptionError("no folder " + folder);
-  const auto announce = [&output](std::string_view commandLine, int style) {
+text::TextWorkstation::Settings Announcing(text::TextWorkstation::Settings settings, Output& output) {
+  settings.startProgram = [&output](std::string_view commandLine, int style) {
     output.Line("run", Quote(commandLine) + " style=" + std::to_string(style));
   };
-  return {folder, options.windowsDirectory, options.now, text::StateFolder(), announce};
+  return settings;
 }
 
 }  // namespace
@@ -72,7 +38,7 @@ struct ShopSession::Parts {
         input(commands, output, options.echo ? Input::Echo::On : Input::Echo::Off,
               terminal ? Input::From::Terminal : Input::From::Script),
         desktop(input, output),
-        workstation(WorkstationSettings(options, output)),
+        workstation(Announcing(WorkstationSettings(options), output)),
         database(OpenDatabase(options)),
         watch(output),
         tools(*database, watch),

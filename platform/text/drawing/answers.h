@@ -8,6 +8,9 @@
 
 namespace text {
 
+/// How often a form that is closed unasked may refuse before it is given up.
+inline constexpr int kMaxRefusals = 3;
+
 /// The buttons of a message box from left to right.
 std::vector<controls::Answer> ButtonsOf(const controls::Message& message);
 /// "ok", "cancel", "yes" or "no".

@@ -118,6 +118,23 @@ void Canvas::Cover(int column, int row, const Canvas& sheet) {
   TakeSpots(column, row, sheet);
 }
 
+Canvas Canvas::Part(int column, int row, int width, int height) const {
+  Canvas part;
+  for (int y = 0; y < std::min(height, Height() - row); ++y) {
+    const std::vector<Cell>& from = rows_[static_cast<std::size_t>(row) + static_cast<std::size_t>(y)];
+    const int end = std::min(static_cast<int>(from.size()), column + width);
+    std::vector<Cell>& cells = part.Row(y, 0);
+    if (end > column) cells.assign(from.begin() + column, from.begin() + end);
+  }
+  for (Spot spot : spots_) {
+    spot.x -= column;
+    spot.y -= row;
+    if (spot.x + spot.width > 0 && spot.y + spot.height > 0 && spot.x < width && spot.y < height) part.spots_.push_back(spot);
+  }
+  if (caret_) part.caret_ = Point{caret_->x - column, caret_->y - row};
+  return part;
+}
+
 void Canvas::Box(int column, int row, int width, int height, std::string_view title, std::string_view note) {
   const int inside = width - 2;
   const auto edge = [&](std::string_view left, std::string_view text, std::string_view right) {

@@ -52,6 +52,8 @@ class Canvas {
   void Paste(int column, int row, const Canvas& sheet);
   /// The same, but all of its rectangle is covered.
   void Cover(int column, int row, const Canvas& sheet);
+  /// A rectangle of the sheet, with what of its spots is inside.
+  Canvas Part(int column, int row, int width, int height) const;
   /// A frame with a title in its upper and a note in its lower edge; at least 2 by 2.
   void Box(int column, int row, int width, int height, std::string_view title, std::string_view note = {});
   void AddLooks(int column, int row, int width, Looks looks);

@@ -9,7 +9,6 @@ namespace text {
 namespace {
 
 constexpr int kMaxColumns = 96;
-constexpr int kMinTwipsPerColumn = 80;
 
 int OuterWidth(const controls::Form& form) {
   int width = form.Width();
@@ -43,12 +42,12 @@ std::string Legend(const controls::Form& form, const Surface& surface) {
 
 }  // namespace
 
-int TwipsPerColumn(const controls::Form& form, int columns) {
-  return std::max(kMinTwipsPerColumn, OuterWidth(form) / columns);
+int TwipsPerColumn(const controls::Form& form, int columns, int min) {
+  return std::max(min, OuterWidth(form) / columns);
 }
 
 Canvas DrawForm(const controls::Form& form, const Surface& surface) {
-  const Canvas inside = DrawChildren(form, nullptr, surface);
+  const Canvas inside = DrawChildren(form, nullptr, surface, surface.columns);
   const std::string legend = Legend(form, surface);
   Canvas sheet;
   const int width =

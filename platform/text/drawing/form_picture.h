@@ -15,7 +15,9 @@ std::vector<std::string> DrawForm(const controls::Form& form);
 /// The same on any surface.
 Canvas DrawForm(const controls::Form& form, const Surface& surface);
 
+inline constexpr int kMinTwipsPerColumn = 80;
+
 /// The twips of a column when the form is to be about `columns` wide.
-int TwipsPerColumn(const controls::Form& form, int columns);
+int TwipsPerColumn(const controls::Form& form, int columns, int min = kMinTwipsPerColumn);
 
 }  // namespace text

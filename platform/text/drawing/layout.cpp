@@ -16,6 +16,7 @@ constexpr int kSlackTwips = 60;       ///< designers let neighbours overlap a li
 
 struct Block {
   Canvas sheet;
+  controls::Control* control = nullptr;
   controls::Position place;
   int x = 0, y = 0;
   int band = 0;
@@ -97,7 +98,10 @@ class Drawing : private controls::ControlVisitor {
   void Visit(controls::TabControl& tab) override { sheet_ = DrawTabs(tab, Inside(tab), columns_); }
   void Visit(controls::TextBox& box) override { sheet_ = DrawTextBox(box, columns_, surface_); }
 
-  Canvas Inside(const controls::Control& holder) const { return DrawChildren(holder.Owner(), &holder, surface_); }
+  Canvas Inside(const controls::Control& holder) const {
+    constexpr int kFrame = 3;
+    return DrawChildren(holder.Owner(), &holder, surface_, surface_.columns > 0 ? columns_ - kFrame : 0);
+  }
 
   int columns_;
   const Surface& surface_;
@@ -111,7 +115,7 @@ std::vector<Block> BlocksOf(const controls::Form& form, const controls::Control*
     const controls::Position& place = control->Place();
     const int twipsPerColumn = surface.twipsPerColumn;
     const int columns = (place.left + place.width) / twipsPerColumn - place.left / twipsPerColumn - 1;
-    Block block{Drawing(columns, surface).Of(*control), place};
+    Block block{Drawing(columns, surface).Of(*control), control, place};
     if (block.sheet.Height() > 0) blocks.push_back(std::move(block));
   }
   return blocks;
@@ -131,18 +135,20 @@ void FindBands(std::vector<Block>& blocks) {
   }
 }
 
-void PlaceColumns(std::vector<Block>& blocks, int twipsPerColumn) {
+void PlaceColumns(std::vector<Block>& blocks, const Surface& surface) {
   std::vector<Block*> byLeft;
   byLeft.reserve(blocks.size());
   for (Block& block : blocks) byLeft.push_back(&block);
   std::stable_sort(byLeft.begin(), byLeft.end(), [](const Block* a, const Block* b) { return a->place.left < b->place.left; });
   for (std::size_t i = 0; i < byLeft.size(); ++i) {
     Block& block = *byLeft[i];
-    block.x = std::max(0, block.place.left / twipsPerColumn);
+    block.x = std::max(0, block.place.left / surface.twipsPerColumn);
     for (std::size_t n = 0; n < i; ++n) {
       const Block& before = *byLeft[n];
       const bool beside = before.SharesHeightWith(block) && before.Right() <= block.place.left + kSlackTwips;
-      if (before.band == block.band || beside) block.x = std::max(block.x, before.x + before.Width() + 1);
+      // On a screen, which may be narrow, the mark of a box is gap enough after its label.
+      const int gap = surface.isScreen && before.control->Kind() == controls::ControlKind::Label ? 0 : 1;
+      if (before.band == block.band || beside) block.x = std::max(block.x, before.x + before.Width() + gap);
     }
   }
 }
@@ -162,13 +168,35 @@ void PlaceRows(std::vector<Block>& blocks) {
   }
 }
 
+/// The columns up to the next block on the right, or to the edge.
+int RoomOf(const Block& block, const std::vector<Block>& blocks, int width) {
+  int end = width;
+  for (const Block& other : blocks) {
+    const bool sharesRows = other.y < block.y + block.sheet.Height() && block.y < other.y + other.sheet.Height();
+    if (other.x > block.x && sharesRows) end = std::min(end, other.x - 1);
+  }
+  return end - block.x;
+}
+
+/// What sticks to both edges takes the room that is left.
+void Stretch(std::vector<Block>& blocks, const Surface& surface, int width) {
+  constexpr int kBothEdges = controls::kAnchorLeft | controls::kAnchorRight;
+  for (Block& block : blocks) {
+    if ((block.control->Anchors() & kBothEdges) != kBothEdges || block.control->Kind() == controls::ControlKind::Label) continue;
+    const int room = RoomOf(block, blocks, width);
+    if (room <= block.Width()) continue;
+    block.sheet = Drawing(room, surface).Of(*block.control);
+  }
+}
+
 }  // namespace
 
-Canvas DrawChildren(const controls::Form& form, const controls::Control* container, const Surface& surface) {
+Canvas DrawChildren(const controls::Form& form, const controls::Control* container, const Surface& surface, int width) {
   std::vector<Block> blocks = BlocksOf(form, container, surface);
   FindBands(blocks);
-  PlaceColumns(blocks, surface.twipsPerColumn);
+  PlaceColumns(blocks, surface);
   PlaceRows(blocks);
+  if (width > 0) Stretch(blocks, surface, width);
   Canvas sheet;
   for (const Block& block : blocks) sheet.Paste(block.x, block.y, block.sheet);
   return sheet;

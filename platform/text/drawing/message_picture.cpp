@@ -5,17 +5,12 @@
 #include "platform/text/drawing/answers.h"
 
 namespace text {
-namespace {
 
-constexpr int kMaxColumns = 90;
-
-}  // namespace
-
-Canvas DrawMessage(const controls::Message& message, int marked) {
+Canvas DrawMessage(const controls::Message& message, int marked, int columns) {
   if (marked == 0) marked = message.DefaultButton();
   Canvas inside;
   int row = 0;
-  for (const std::string& line : Wrapped(message.text, kMaxColumns)) inside.Put(1, row++, line);
+  for (const std::string& line : Wrapped(message.text, columns)) inside.Put(1, row++, line);
   int x = 0;
   int number = 0;
   for (const controls::Answer answer : ButtonsOf(message)) {

@@ -13,6 +13,7 @@ struct Surface {
   int twipsPerColumn = 80;
   /// On a screen a box with the focus shows the part around its caret, and lists keep their height whatever they hold.
   bool isScreen = false;
+  int columns = 0;    ///< inside the form, which controls that stick to both its edges fill; 0 leaves them as they are
   int extraRows = 0;  ///< given to each list beyond its own height; taken from it when negative
   /// The first row of lists that were scrolled away from their current row; null for none.
   const std::map<const controls::Control*, long>* scrolled = nullptr;
