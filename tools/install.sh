@@ -7,7 +7,7 @@ packages=()
 for part in "$@"; do
   case $part in
     native) packages+=(g++ cmake ninja-build libsqlite3-dev libncurses-dev) ;;
-    tests) packages+=(libgtest-dev googletest) ;;
+    tests) packages+=(libgtest-dev googletest tmux) ;;
     windows) packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev
                         xvfb xauth imagemagick xdotool fonts-wine npm googletest debootstrap) ;;
     checks) packages+=(clang-format clang-tidy) ;;

@@ -31,7 +31,7 @@ constexpr int kDoubleClickMilliseconds = 400;
 constexpr short kRedPair = 1;
 constexpr int kPasteBegins = KEY_MAX + 1;
 constexpr int kPasteEnds = KEY_MAX + 2;
-// What the library has no word for: text that is pasted comes between two marks.
+// What the library has no word for: text that is pasted comes between two marks, text that is copied goes to the clipboard.
 constexpr std::string_view kPasteOn = "\x1B[?2004h";
 constexpr std::string_view kPasteOff = "\x1B[?2004l";
 constexpr std::size_t kMaxPaste = 16 << 20;
@@ -41,6 +41,20 @@ bool hasColors = false;
 void WriteOut(std::string_view sequence) {
   std::fflush(stdout);
   (void)!write(STDOUT_FILENO, sequence.data(), sequence.size());
+}
+
+std::string InBase64(std::string_view text) {
+  constexpr std::string_view kDigits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+  std::string encoded;
+  for (std::size_t at = 0; at < text.size(); at += 3) {
+    const std::string_view group = text.substr(at, 3);
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < 3; ++i) bits = bits << 8 | (i < group.size() ? static_cast<unsigned char>(group[i]) : 0u);
+    for (std::size_t digit = 0; digit < 4; ++digit) {
+      encoded += digit <= group.size() ? kDigits[bits >> (18 - 6 * digit) & 63] : '=';
+    }
+  }
+  return encoded;
 }
 
 long Milliseconds() {
@@ -154,7 +168,8 @@ void Screen::Enter() {
   nonl();
   keypad(stdscr, TRUE);
   nodelay(stdscr, TRUE);
-  mousemask(ALL_MOUSE_EVENTS, nullptr);
+  // Presses alone: the library would wait for what makes a click.
+  mousemask(BUTTON1_PRESSED | BUTTON3_PRESSED | BUTTON4_PRESSED | BUTTON5_PRESSED, nullptr);
   mouseinterval(0);
   define_key("\x1B[200~", kPasteBegins);
   define_key("\x1B[201~", kPasteEnds);
@@ -213,6 +228,11 @@ void Screen::Show(const text::Canvas& picture) {
 bool Screen::HasWaiting() const {
   pollfd input{STDIN_FILENO, POLLIN, 0};
   return !hasEnded_ && poll(&input, 1, 0) > 0;
+}
+
+void Screen::CopyOut(std::string_view text) {
+  constexpr std::size_t kMaxTaken = 74994;  // what terminals take at most
+  if (text.size() <= kMaxTaken) WriteOut("\x1B]52;c;" + InBase64(text) + "\a");
 }
 
 void Screen::Alarm() {

@@ -3,6 +3,7 @@
 #include <deque>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/terminal/signals.h"
 #include "platform/terminal/terminal_event.h"
@@ -33,6 +34,8 @@ class Screen {
   Event Next();
   /// Whether another event waits already, so that nobody would see what is shown before it.
   bool HasWaiting() const;
+  /// Offers a text to the system's clipboard; not every terminal takes it.
+  void CopyOut(std::string_view text);
   void Alarm();
   /// Gives the terminal back and stops the process until it is resumed.
   void Suspend();

@@ -141,6 +141,11 @@ long TerminalDesktop::RowsShown(const controls::Control& list) const {
   return text::RowsShown(list, SurfaceOf(list.Owner()));
 }
 
+void TerminalDesktop::PutOnClipboard(const std::string& text) {
+  Desktop::PutOnClipboard(text);
+  screen_.CopyOut(text);
+}
+
 void TerminalDesktop::PointerChanged(controls::Form&, bool hourglass) {
   hourglasses_ += hourglass ? 1 : -1;
   if (hourglass && !hasEnded_) Paint();

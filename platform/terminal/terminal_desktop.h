@@ -29,6 +29,7 @@ class TerminalDesktop : public controls::Desktop {
   controls::Answer MsgBox(controls::Form* owner, const controls::Message& message) override;
   controls::Menu* PopupMenu(controls::Form& form, controls::Menu& menu) override;
   void Beep() override { screen_.Alarm(); }
+  void PutOnClipboard(const std::string& text) override;
   long RowsShown(const controls::Control& list) const override;
   void EnteredByKey(controls::Control& control) override;
   void PointerChanged(controls::Form& form, bool hourglass) override;
