@@ -28,6 +28,8 @@ Signals::Signals() {
   if (pipe2(channel.data(), O_NONBLOCK | O_CLOEXEC) != 0) return;
   struct sigaction action {};
   action.sa_handler = Note;
+  // The library gives the terminal back in one try: a signal in the middle of it must not leave it raw.
+  action.sa_flags = SA_RESTART;
   sigemptyset(&action.sa_mask);
   for (std::size_t i = 0; i < kCaught.size(); ++i) sigaction(kCaught[i], &action, &before[i]);
 }

@@ -70,7 +70,7 @@ TEST(Live, EndedOrHungUpItClosesEveryFormAndGivesTheTerminalBack) {
     program.Signal(signal);
     EXPECT_EQ(program.ExitStatus(), 0);
     program.Shows("ended");
-    EXPECT_NE(Terminal(program).find(" echo "), std::string::npos);
+    EXPECT_NE(Terminal(program).find(" echo "), std::string::npos) << Terminal(program);
     EXPECT_NE(Terminal(program).find(" icanon "), std::string::npos);
   }
 }
@@ -145,7 +145,7 @@ TEST(Live, RandomKeysEndWithNoErrorAndATerminalGivenBack) {
     }
     program.Signal(SIGTERM);
     EXPECT_EQ(program.ExitStatus(), 0);
-    EXPECT_NE(Terminal(program).find(" echo "), std::string::npos);
+    EXPECT_NE(Terminal(program).find(" echo "), std::string::npos) << Terminal(program);
     std::ostringstream errors;
     errors << std::ifstream(program.Folder() / "errors").rdbuf();
     EXPECT_EQ(errors.str(), "");

@@ -68,10 +68,10 @@ LiveProgram::LiveProgram(Settings settings) {
   const std::string folder = folder_.string();
   // A shell with jobs, which a suspended program goes back to until it is to go on.
   std::ofstream(folder_ / "shell") << "trap : INT QUIT; cd " << folder << "\n"
-                                   << "LC_ALL=C.UTF-8 XDG_STATE_HOME=" << folder << "/state " << settings.environment
-                                   << " " CONSOLE_PROGRAM " --live --app-folder . --now '2024-03-15 09:30:00' "
-                                   << settings.options << " 2>errors &\n"
-                                   << "echo $! >pid; fg >/dev/null; status=$?\n"
+                                   << "sh -c 'echo $$ >pid; exec env LC_ALL=C.UTF-8 XDG_STATE_HOME=" << folder << "/state "
+                                   << settings.environment
+                                   << " " CONSOLE_PROGRAM " --live --app-folder . --now \"2024-03-15 09:30:00\" "
+                                   << settings.options << " 2>errors'; status=$?\n"
                                    << "while [ $status = 148 ]; do\n"
                                    << "  echo suspended; until [ -e resume ]; do sleep 0.02; done; rm resume\n"
                                    << "  fg >/dev/null; status=$?\n"
