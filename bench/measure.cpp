@@ -355,6 +355,7 @@ void MeasureTour(const std::string& program, const std::string& tourFolder) {
   std::filesystem::copy_file(tourFolder + "/ShopSetting.txt", folder + "/ShopSetting.txt");
   const bench::ChildCost cost = bench::OfProgram(program, "--app-folder " + folder + " --now '2024-03-15 09:30:00' --script " +
                                                               tourFolder + "/tour.txt >" + folder + "/out.txt");
+  bench::MeasureTerminal(program, folder);
   std::filesystem::remove_all(folder);
   PrintRow("the tour's processor time", cost.processorMilliseconds < 0 ? -1 : cost.processorMilliseconds / 1000, 1, "s", "");
 }

@@ -171,6 +171,11 @@ void Screen::Enter() {
   // Presses alone: the library would wait for what makes a click.
   mousemask(BUTTON1_PRESSED | BUTTON3_PRESSED | BUTTON4_PRESSED | BUTTON5_PRESSED, nullptr);
   mouseinterval(0);
+  // Some terminals keep to their plain arrows whatever the description says.
+  for (const auto& [sequence, key] :
+       {std::pair{"\x1B[A", KEY_UP}, {"\x1B[B", KEY_DOWN}, {"\x1B[C", KEY_RIGHT}, {"\x1B[D", KEY_LEFT}}) {
+    define_key(sequence, key);
+  }
   define_key("\x1B[200~", kPasteBegins);
   define_key("\x1B[201~", kPasteEnds);
   const char* noColor = std::getenv("NO_COLOR");

@@ -123,8 +123,8 @@ void TerminalDesktop::Compose() {
 }
 
 std::string TerminalDesktop::StatusText() const {
+  if (!popups_.empty()) return popups_.back()->hint;  // it waits for the person, whoever else waits
   if (hourglasses_ > 0) return "Please wait ...";
-  if (!popups_.empty()) return popups_.back()->hint;
   const controls::Control* control = ActiveForm() ? ActiveForm()->ActiveControl() : nullptr;
   if (!control) return std::string(kCommonKeys);
   const std::string tip = TipOf(*control);
