@@ -56,6 +56,7 @@ text::Surface TerminalDesktop::SurfaceOf(const controls::Form& form) const {
   surface.scrolled = &scrolled_;
   if (const auto found = fittings_.find(&form); found != fittings_.end()) {
     surface.twipsPerColumn = found->second.twipsPerColumn;
+    surface.wrapAt = found->second.wrapAt;
     surface.extraRows = found->second.extraRows;
   }
   return surface;
@@ -64,14 +65,20 @@ text::Surface TerminalDesktop::SurfaceOf(const controls::Form& form) const {
 /// Boxes and columns give up width where the form is too wide, lists give up rows where it is too high; those of a form that can
 /// grow take what is left.
 text::Canvas TerminalDesktop::FittedPicture(const controls::Form& form, text::Surface& surface) const {
-  constexpr int kMaxTwipsPerColumn = 400;
+  constexpr int kMaxTwipsPerColumn = 220;  // a box of a date's width would show nothing
   const int columns = screen_.Width();
-  surface.twipsPerColumn =
-      text::TwipsPerColumn(form, columns - 4, form.IsResizable() ? kMinTwipsPerColumn : text::kMinTwipsPerColumn);
+  const int natural = text::TwipsPerColumn(form, columns - 4, form.IsResizable() ? kMinTwipsPerColumn : text::kMinTwipsPerColumn);
+  surface.twipsPerColumn = natural;
+  surface.wrapAt = 0;
   surface.extraRows = 0;
   text::Canvas picture = text::DrawForm(form, surface);
   while (picture.Width() > columns && surface.twipsPerColumn < kMaxTwipsPerColumn) {
     surface.twipsPerColumn += surface.twipsPerColumn / 12;
+    picture = text::DrawForm(form, surface);
+  }
+  if (picture.Width() > columns) {
+    surface.twipsPerColumn = natural;
+    surface.wrapAt = columns - 3;
     picture = text::DrawForm(form, surface);
   }
   const int left = Rows() - picture.Height();
@@ -92,7 +99,8 @@ text::Canvas TerminalDesktop::PictureOf(const controls::Form& form) {
     if (picture.Width() == fitting.width && picture.Height() == fitting.height) return picture;
   }
   text::Canvas picture = FittedPicture(form, surface);
-  fitting = {screen_.Width(), Rows(), picture.Width(), picture.Height(), surface.twipsPerColumn, surface.extraRows};
+  fitting = {screen_.Width(),        Rows(),         picture.Width(),  picture.Height(),
+             surface.twipsPerColumn, surface.wrapAt, surface.extraRows};
   return picture;
 }
 

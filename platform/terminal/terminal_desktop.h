@@ -58,6 +58,7 @@ class TerminalDesktop : public controls::Desktop {
     int columns = 0, rows = 0;  ///< of the screen
     int width = 0, height = 0;  ///< of the picture then
     int twipsPerColumn = text::Surface().twipsPerColumn;
+    int wrapAt = 0;
     int extraRows = 0;
   };
   text::Surface SurfaceOf(const controls::Form& form) const;

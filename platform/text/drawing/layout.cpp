@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kSameLineTwips = 120;   ///< middles this near to each other are on one line
 constexpr int kFirstLineTwips = 150;  ///< the middle of a tall control's first line, below its top
+constexpr int kHolderColumns = 4;     ///< the frame of a holder, about
 constexpr int kSlackTwips = 60;       ///< designers let neighbours overlap a little
 
 struct Block {
@@ -153,6 +154,23 @@ void PlaceColumns(std::vector<Block>& blocks, const Surface& surface) {
   }
 }
 
+/// Moves one-line blocks that reach beyond the width to a line of their own below the others'; whether there was one.
+bool WrapLines(std::vector<Block>& blocks, int width) {
+  bool wrapped = false;
+  for (Block& block : blocks) {
+    if (block.sheet.Height() != 1 || block.x + block.Width() <= width) continue;
+    int left = block.place.left;
+    for (const Block& other : blocks) {
+      if (other.band == block.band) left = std::min(left, other.place.left);
+    }
+    if (left == block.place.left) continue;
+    block.place.left = left;
+    block.place.top += std::max(block.place.height, kSameLineTwips + 1);
+    wrapped = true;
+  }
+  return wrapped;
+}
+
 void PlaceRows(std::vector<Block>& blocks) {
   int y = 0;
   for (std::size_t start = 0; start < blocks.size();) {
@@ -195,6 +213,10 @@ Canvas DrawChildren(const controls::Form& form, const controls::Control* contain
   std::vector<Block> blocks = BlocksOf(form, container, surface);
   FindBands(blocks);
   PlaceColumns(blocks, surface);
+  if (surface.wrapAt > 0 && WrapLines(blocks, container ? surface.wrapAt - kHolderColumns : surface.wrapAt)) {
+    FindBands(blocks);
+    PlaceColumns(blocks, surface);
+  }
   PlaceRows(blocks);
   if (width > 0) Stretch(blocks, surface, width);
   Canvas sheet;

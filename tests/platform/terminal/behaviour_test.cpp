@@ -49,6 +49,14 @@ TEST(Live, EverySizeShowsTheWholeRegisterAtOnce) {
   }
 }
 
+TEST(Live, TheWidestFormFitsOnTheSmallestTerminal) {
+  LiveProgram program({.columns = 80, .rows = 24});
+  BeginRequest(program);
+  for (const char* key : {"Enter", "Tab", "Ctrl+J"}) program.Press(key);
+  program.Wait([&] { return IsWhole(program.Screen(), "Goods Request Details"); }, "the whole of item entry");
+  program.Shows("(o) All Items in Shop");
+}
+
 TEST(Live, SuspendedItGivesTheTerminalBackAndGoesOnWhereItWas) {
   LiveProgram program({.columns = 80, .rows = 24});
   BeginRequest(program);

@@ -21,7 +21,8 @@ std::string ReadAll(const fs::path& file) {
 /// What the console prints for the commands, at work on a database in the folder.
 std::string ByCommands(const fs::path& folder, const std::string& commands) {
   std::ofstream(folder / "commands") << commands;
-  const std::string console = "cd " + folder.string() + " && XDG_STATE_HOME=state " CONSOLE_PROGRAM
+  const std::string console = "cd " + folder.string() +
+                              " && XDG_STATE_HOME=state " CONSOLE_PROGRAM
                               " --database shop.db --app-folder . --now '2024-03-15 09:30:00' --script commands >printed";
   EXPECT_EQ(std::system(console.c_str()), 0) << ReadAll(folder / "printed");
   return ReadAll(folder / "printed");
