@@ -127,61 +127,82 @@ controls::Answer TerminalDesktop::MsgBox(controls::Form*, const controls::Messag
   return message.AnswerOf(message.DefaultButton());
 }
 
-int TerminalDesktop::Choose(const std::vector<Choice>& entries, int current, text::Point at) {
+text::Canvas TerminalDesktop::DrawChoices(const std::vector<Choice>& entries, int current, int rows) const {
   const int count = static_cast<int>(entries.size());
-  if (count == 0) return -1;
   int width = 0;
   for (const Choice& entry : entries) width = std::max(width, text::Length(text::PlainCaption(entry.caption)));
   width = std::min(width, screen_.Width() - 4);
+  const int top = std::clamp(current - rows / 2, 0, count - rows);
+  text::Canvas sheet;
+  sheet.Box(0, 0, width + 4, rows + 2, "");
+  for (int y = 0; y < rows; ++y) {
+    const Choice& entry = entries[static_cast<std::size_t>(top) + static_cast<std::size_t>(y)];
+    const text::Looks looks = static_cast<text::Looks>((entry.isEnabled ? text::kPlain : text::kDim) |
+                                                       (top + y == current ? text::kChosen : text::kPlain));
+    sheet.Put(1, y + 1, text::Fit("", width + 2), looks);
+    sheet.PutCaption(2, y + 1, text::Fit(entry.caption, text::Length(entry.caption)), looks);
+    sheet.Mark({.part = text::Spot::Part::Entry, .index = top + y, .x = 1, .y = y + 1, .width = width + 2});
+  }
+  sheet.SetCaret({2, current - top + 1});
+  return sheet;
+}
+
+TerminalDesktop::Choosing TerminalDesktop::ChooseByMouse(const std::vector<Choice>& entries, const Event& event,
+                                                         int& current) const {
+  if (event.button == Event::Button::WheelUp || event.button == Event::Button::WheelDown) {
+    const int step = event.button == Event::Button::WheelUp ? -1 : 1;
+    current = std::clamp(current + step, 0, static_cast<int>(entries.size()) - 1);
+    return Choosing::GoesOn;
+  }
+  const text::Spot* spot = composed_.SpotAt(event.x, event.y);
+  if (!spot || spot->part != text::Spot::Part::Entry) return Choosing::Left;
+  current = static_cast<int>(spot->index);
+  return Choosing::Taken;
+}
+
+TerminalDesktop::Choosing TerminalDesktop::ChooseByKey(const std::vector<Choice>& entries, const KeyStroke& key, int rows,
+                                                       int& current) {
+  const int count = static_cast<int>(entries.size());
+  switch (key.keyCode) {
+    case controls::kKeyEscape:
+    case controls::kKeyTab:
+      return Choosing::Left;
+    case controls::kKeyReturn:
+    case controls::kKeyF4:
+      return Choosing::Taken;
+    default:
+      break;
+  }
+  if (const char32_t letter = UpperLetter(key)) {
+    for (int step = 1; step <= count; ++step) {
+      const int index = (current + step) % count;
+      const std::string& caption = entries[static_cast<std::size_t>(index)].caption;
+      if (LetterOf(caption) != letter) continue;
+      current = index;
+      return caption.find('&') == std::string::npos ? Choosing::GoesOn : Choosing::Taken;
+    }
+  }
+  current = std::clamp(current + StepOf(key, rows, count), 0, count - 1);
+  return Choosing::GoesOn;
+}
+
+int TerminalDesktop::Choose(const std::vector<Choice>& entries, int current, text::Point at) {
+  if (entries.empty()) return -1;
   Popup popup;
   popup.hint = kChoiceKeys;
   popup.place = at;
   const OnScreen shown(popups_, popup);
-  current = std::clamp(current, 0, count - 1);
+  current = std::clamp(current, 0, static_cast<int>(entries.size()) - 1);
   while (!hasEnded_) {
-    const int rows = std::min(count, Rows() - 2);
-    const int top = std::clamp(current - rows / 2, 0, count - rows);
-    popup.picture = text::Canvas();
-    popup.picture.Box(0, 0, width + 4, rows + 2, "");
-    for (int y = 0; y < rows; ++y) {
-      const Choice& entry = entries[static_cast<std::size_t>(top) + static_cast<std::size_t>(y)];
-      const auto looks = static_cast<text::Looks>((entry.isEnabled ? text::kPlain : text::kDim) |
-                                                  (top + y == current ? text::kChosen : text::kPlain));
-      popup.picture.Put(1, y + 1, text::Fit("", width + 2), looks);
-      popup.picture.PutCaption(2, y + 1, text::Fit(entry.caption, text::Length(entry.caption)), looks);
-      popup.picture.Mark({.part = text::Spot::Part::Entry, .index = top + y, .x = 1, .y = y + 1, .width = width + 2});
-    }
-    popup.picture.SetCaret({2, current - top + 1});
+    const int rows = std::min(static_cast<int>(entries.size()), Rows() - 2);
+    popup.picture = DrawChoices(entries, current, rows);
     Paint();
     const auto event = NextEvent();
-    if (!event) continue;
-    if (event->kind == Event::Kind::Mouse) {
-      const text::Spot* spot = composed_.SpotAt(event->x, event->y);
-      const bool isEntry = spot && spot->part == text::Spot::Part::Entry;
-      if (event->button == Event::Button::WheelUp || event->button == Event::Button::WheelDown) {
-        current = std::clamp(current + (event->button == Event::Button::WheelUp ? -1 : 1), 0, count - 1);
-      } else if (!isEntry) {
-        return -1;
-      } else if (entries[static_cast<std::size_t>(spot->index)].isEnabled) {
-        return static_cast<int>(spot->index);
-      }
-      continue;
-    }
-    if (event->kind != Event::Kind::Key) continue;
-    if (event->key.keyCode == controls::kKeyEscape || event->key.keyCode == controls::kKeyTab) return -1;
-    bool isTaken = event->key.keyCode == controls::kKeyReturn || event->key.keyCode == controls::kKeyF4;
-    if (const char32_t letter = UpperLetter(event->key)) {
-      for (int step = 1; step <= count; ++step) {
-        const int index = (current + step) % count;
-        const std::string& caption = entries[static_cast<std::size_t>(index)].caption;
-        if (LetterOf(caption) != letter) continue;
-        current = index;
-        isTaken = caption.find('&') != std::string::npos;
-        break;
-      }
-    }
-    if (isTaken && entries[static_cast<std::size_t>(current)].isEnabled) return current;
-    current = std::clamp(current + StepOf(event->key, rows, count), 0, count - 1);
+    if (!event || event->kind == Event::Kind::Paste) continue;
+    const Choosing choosing = event->kind == Event::Kind::Mouse ? ChooseByMouse(entries, *event, current)
+                                                                : ChooseByKey(entries, event->key, rows, current);
+    if (choosing == Choosing::Left) return -1;
+    if (choosing == Choosing::Taken && entries[static_cast<std::size_t>(current)].isEnabled) return current;
   }
   return -1;
 }

@@ -84,6 +84,10 @@ class TerminalDesktop : public controls::Desktop {
   void ScrollList(const text::Spot& spot, int rows);
   void LookAtCurrentCell(controls::Form& form);
   void DropDown(controls::ComboBox& combo);
+  enum class Choosing { GoesOn, Taken, Left };
+  text::Canvas DrawChoices(const std::vector<Choice>& entries, int current, int rows) const;
+  Choosing ChooseByMouse(const std::vector<Choice>& entries, const Event& event, int& current) const;
+  static Choosing ChooseByKey(const std::vector<Choice>& entries, const controls::KeyStroke& key, int rows, int& current);
   /// The number of the entry picked; -1 for none. Opens at a point, downwards or upwards as there is room.
   int Choose(const std::vector<Choice>& entries, int current, text::Point at);
 
