@@ -6,6 +6,7 @@
 #include <random>
 #include <sstream>
 
+#include "base/vb/text.h"
 #include "tests/platform/terminal/live_program.h"
 #include "tests/platform/terminal/picture.h"
 
@@ -55,6 +56,27 @@ TEST(Live, TheWidestFormFitsOnTheSmallestTerminal) {
   for (const char* key : {"Enter", "Tab", "Ctrl+J"}) program.Press(key);
   program.Wait([&] { return IsWhole(program.Screen(), "Goods Request Details"); }, "the whole of item entry");
   program.Shows("(o) All Items in Shop");
+}
+
+TEST(Live, WideCharactersKeepTheFrameStraight) {
+  constexpr int kColumns = 80;
+  const std::string wide = "日本語";
+  LiveProgram program({.columns = kColumns, .rows = 24});
+  BeginRequest(program);
+  program.Type(wide);
+  program.Shows(wide);
+  for (const std::string& line : program.Screen()) {
+    if (line.find(wide) == std::string::npos) continue;
+    EXPECT_EQ(vb::Len(line), kColumns - vb::Len(wide)) << line;
+  }
+}
+
+TEST(Live, ACrashGivesTheTerminalBack) {
+  LiveProgram program({.columns = 80, .rows = 24});
+  BeginRequest(program);
+  program.Signal(SIGABRT);
+  EXPECT_EQ(program.ExitStatus(), 128 + SIGABRT);
+  EXPECT_NE(Terminal(program).find(" echo "), std::string::npos);
 }
 
 TEST(Live, SuspendedItGivesTheTerminalBackAndGoesOnWhereItWas) {
