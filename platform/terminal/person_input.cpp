@@ -207,7 +207,7 @@ void TerminalDesktop::ScrollList(const text::Spot& spot, int rows) {
   if (first > 0) scrolled_[spot.control] = std::max(1L, first + rows);
 }
 
-/// The mouse of a person who has none is at the current cell, so that its tool tip is told.
+/// Moves the model's mouse to the current cell, so that the form sets the tool tip of that cell. Not every terminal has a mouse.
 void TerminalDesktop::LookAtCurrentCell(controls::Form& form) {
   auto* grid = As<controls::FlexGrid>(form.ActiveControl());
   if (!grid || grid->Row() < grid->FixedRows() || grid->Row() >= grid->Rows() || grid->Col() >= grid->Cols()) return;

@@ -131,7 +131,7 @@ void TerminalDesktop::Compose() {
 }
 
 std::string TerminalDesktop::StatusText() const {
-  if (!popups_.empty()) return popups_.back()->hint;  // it waits for the person, whoever else waits
+  if (!popups_.empty()) return popups_.back()->hint;  // the person can answer a popup even while the hourglass is on
   if (hourglasses_ > 0) return "Please wait ...";
   const controls::Control* control = ActiveForm() ? ActiveForm()->ActiveControl() : nullptr;
   if (!control) return std::string(kCommonKeys);

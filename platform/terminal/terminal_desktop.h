@@ -53,7 +53,7 @@ class TerminalDesktop : public controls::Desktop {
   };
 
   // What is on the screen.
-  /// How a form's picture fits on the screen; found anew when the screen or the picture has another size.
+  /// How a form's picture fits on the screen; computed again when the screen or the picture changes its size.
   struct Fitting {
     int columns = 0, rows = 0;  ///< of the screen
     int width = 0, height = 0;  ///< of the picture then

@@ -13,7 +13,7 @@ class Control;
 
 namespace text {
 
-/// How a cell looks beyond its character, added up. What a medium cannot show is told by marks in the picture as well.
+/// Attributes of a cell, added up. Marks in the picture repeat them for output that has only characters.
 enum Look : unsigned char { kPlain = 0, kDim = 1, kChosen = 2, kRed = 4, kUnderlined = 8 };
 using Looks = unsigned char;
 
